@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstdint>
+
+namespace tarvelon {
+
+/// The window messages of the one thread.
+class MessageQueue {
+public:
+    virtual ~MessageQueue() = default;
+
+    /// Handles all messages that wait, then returns. Clicks, timers and repaints run inside.
+    virtual void pump() = 0;
+
+    /// Sleeps until a message may have come, for spins that would otherwise burn the processor.
+    virtual void wait() = 0;
+
+    /// `GetQueueStatus`: not 0 when input of a kind in `flags` (QS_ bits) waits.
+    virtual std::uint32_t queueStatus(std::uint32_t flags) = 0;
+};
+
+} // namespace tarvelon

@@ -1,0 +1,24 @@
+#pragma once
+
+namespace tarvelon {
+
+class CodePage;
+class Files;
+class SystemFolders;
+class CryptoService;
+class MessageQueue;
+class Dialogs;
+class Processes;
+
+/// Everything outside the process, one interface for each group of system calls.
+struct Platform {
+    CodePage& codePage;
+    Files& files;
+    SystemFolders& folders;
+    CryptoService& crypto;
+    MessageQueue& messages;
+    Dialogs& dialogs;
+    Processes& processes;
+};
+
+} // namespace tarvelon

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+
+namespace tarvelon {
+
+/// How a started program's window opens.
+enum class WindowStyle { NormalFocus = 1, MinimizedFocus = 2 };
+
+/// This process and those it starts.
+class Processes {
+public:
+    virtual ~Processes() = default;
+
+    /// Full path of the running program's file.
+    virtual std::string programFile() = 0;
+
+    /// What stands behind the program's name on the command line, as typed.
+    virtual std::string commandLine() = 0;
+
+    /// Starts a command line and does not wait for it. False when it cannot be started.
+    virtual bool start(const std::string& commandLine, WindowStyle style) = 0;
+
+    /// Ends this process at once: all windows go, nothing is saved, no question is asked.
+    [[noreturn]] virtual void end() = 0;
+};
+
+} // namespace tarvelon

@@ -1,0 +1,273 @@
+#include "ui/controls/controls.h"
+
+#include <utility>
+
+namespace tarvelon {
+
+ControlParent::ControlParent(Screen& onScreen)
+    : screen(onScreen)
+    , frame(nullptr) {}
+ControlParent::ControlParent(Frame& inFrame)
+    : screen(inFrame.screen())
+    , frame(&inFrame) {}
+
+Control::Control(ControlKind kind, ControlParent parent, std::string caption, Rect place)
+    : Caption(*this, std::move(caption))
+    , Visible(*this, true)
+    , Enabled(*this, true)
+    , kind_(kind)
+    , screen_(parent.screen)
+    , frame_(parent.frame)
+    , place_(place) {
+    screen_.add(*this);
+}
+
+bool Control::isShown() const {
+    return Visible() && (frame_ ? frame_->isShown() : screen_.Visible());
+}
+
+bool Control::isUsable() const {
+    return Enabled() && (!frame_ || frame_->isUsable());
+}
+
+void Control::changed(Aspect aspect) {
+    if (screen_.listener) {
+        screen_.listener->changed(*this, aspect);
+    }
+}
+
+Frame::Frame(ControlParent parent, Rect place, bool visible)
+    : Control(ControlKind::Frame, parent, "", place)
+    , look_(Look::Page) {
+    Visible = visible;
+}
+
+Frame::Frame(ControlParent parent, std::string caption, Rect place)
+    : Control(ControlKind::Frame, parent, std::move(caption), place)
+    , look_(Look::Group) {}
+
+Label::Label(ControlParent parent, std::string caption, Rect place, TextStyle style, bool visible)
+    : Control(ControlKind::Label, parent, std::move(caption), place)
+    , style_(style) {
+    Visible = visible;
+}
+
+void Label::click() {
+    if (isUsable()) {
+        raise(onClick);
+    }
+}
+
+FlatButton::FlatButton(ControlParent parent, std::string caption, Rect place)
+    : Control(ControlKind::FlatButton, parent, std::move(caption), place) {}
+
+Color FlatButton::foreColor() const {
+    return pressed_ || !Enabled() ? colors::white : colors::black;
+}
+
+void FlatButton::mouseDown() {
+    press(Enabled());
+}
+
+void FlatButton::mouseUp() {
+    press(false);
+}
+
+void FlatButton::mouseMove() {
+    press(false);
+    raise(onMouseMove);
+}
+
+void FlatButton::click() {
+    if (isUsable()) {
+        raise(onClick);
+    }
+}
+
+void FlatButton::press(bool pressed) {
+    if (pressed_ != pressed) {
+        pressed_ = pressed;
+        changed(Aspect::Color);
+    }
+}
+
+FlatCheck::FlatCheck(ControlParent parent, std::string caption, Rect place)
+    : Control(ControlKind::FlatCheck, parent, std::move(caption), place) {}
+
+void FlatCheck::setValue(bool ticked) {
+    const int value = ticked ? 1 : 0;
+    if (value_ != value) {
+        value_ = value;
+        changed(Aspect::Value);
+    }
+}
+
+void FlatCheck::downStatus(int) {
+    if (hovered_) {
+        hovered_ = false;
+        changed(Aspect::Color);
+    }
+}
+
+void FlatCheck::mouseMoveLabel() {
+    if (!hovered_) {
+        hovered_ = true;
+        changed(Aspect::Color);
+    }
+}
+
+void FlatCheck::click() {
+    if (isUsable()) {
+        setValue(value_ == 0);
+        raise(onClick);
+    }
+}
+
+CheckBox::CheckBox(ControlParent parent, std::string caption, Rect place)
+    : Control(ControlKind::CheckBox, parent, std::move(caption), place) {}
+
+void CheckBox::setValue(bool ticked) {
+    const int value = ticked ? 1 : 0;
+    if (value_ != value) {
+        value_ = value;
+        changed(Aspect::Value);
+    }
+}
+
+void CheckBox::click() {
+    if (isUsable()) {
+        setValue(value_ == 0);
+        raise(onClick);
+    }
+}
+
+OptionButton::OptionButton(ControlParent parent, std::string caption, Rect place)
+    : Control(ControlKind::OptionButton, parent, std::move(caption), place) {}
+
+void OptionButton::setValue(bool selected) {
+    if (value_ == selected) {
+        return;
+    }
+    value_ = selected;
+    changed(Aspect::Value);
+    if (!selected) {
+        return;
+    }
+    for (Control* other : screen().controls()) {
+        if (other != this && other->kind() == ControlKind::OptionButton && other->frame() == frame()) {
+            static_cast<OptionButton*>(other)->setValue(false);
+        }
+    }
+}
+
+void OptionButton::click() {
+    if (isUsable()) {
+        setValue(true);
+        raise(onClick);
+    }
+}
+
+NavButton::NavButton(ControlParent parent, std::string caption, Rect place, std::string icon)
+    : Control(ControlKind::NavButton, parent, std::move(caption), place)
+    , icon_(std::move(icon)) {}
+
+void NavButton::click() {
+    if (isUsable()) {
+        raise(onClick);
+    }
+}
+
+TextBox::TextBox(ControlParent parent, Rect place, bool visible)
+    : Control(ControlKind::TextBox, parent, "", place) {
+    Visible = visible;
+}
+
+void TextBox::typed(const std::string& text) {
+    Caption = text;
+    raise(onChange);
+}
+
+std::string ItemControl::item(int index) const {
+    return index >= 0 && index < count() ? items_[static_cast<std::size_t>(index)] : std::string();
+}
+
+void ItemControl::add(std::string text) {
+    items_.push_back(std::move(text));
+    changed(Aspect::ItemAdded);
+}
+
+void ItemControl::clear() {
+    items_.clear();
+    listIndex_ = -1;
+    changed(Aspect::Items);
+}
+
+void ItemControl::replace(int index, std::string text) {
+    if (index >= 0 && index < count()) {
+        items_[static_cast<std::size_t>(index)] = std::move(text);
+        changed(Aspect::Items);
+    }
+}
+
+void ItemControl::remove(int index) {
+    if (index >= 0 && index < count()) {
+        items_.erase(items_.begin() + index);
+        listIndex_ = -1;
+        changed(Aspect::Items);
+    }
+}
+
+void ItemControl::setListIndex(int index) {
+    const int chosen = index >= 0 && index < count() ? index : -1;
+    if (listIndex_ != chosen) {
+        listIndex_ = chosen;
+        changed(Aspect::Value);
+    }
+}
+
+void ItemControl::select(int index) {
+    setListIndex(index);
+    raise(onClick);
+}
+
+ListBox::ListBox(ControlParent parent, Rect place, bool visible)
+    : ItemControl(ControlKind::ListBox, parent, "", place) {
+    Visible = visible;
+}
+
+ComboBox::ComboBox(ControlParent parent, Rect place)
+    : ItemControl(ControlKind::ComboBox, parent, "", place) {}
+
+ProgressBar::ProgressBar(ControlParent parent, Rect place)
+    : Control(ControlKind::ProgressBar, parent, "", place) {}
+
+bool ProgressBar::setValue(int value) {
+    if (value < 0 || value > max_) {
+        return false;
+    }
+    if (value_ != value) {
+        value_ = value;
+        changed(Aspect::Value);
+    }
+    return true;
+}
+
+void ProgressBar::setMax(int max) {
+    max_ = max;
+    value_ = value_ > max ? max : value_;
+    changed(Aspect::Value);
+}
+
+Timer::Timer(ControlParent parent, int interval)
+    : Control(ControlKind::Timer, parent, "", {})
+    , interval_(interval) {
+    Enabled = false;
+}
+
+void Timer::tick() {
+    if (Enabled()) {
+        raise(onTick);
+    }
+}
+
+} // namespace tarvelon

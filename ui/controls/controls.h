@@ -1,0 +1,298 @@
+#pragma once
+
+#include "ui/controls/screen.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace tarvelon {
+
+enum class ControlKind {
+    Frame,
+    Label,
+    FlatButton,
+    FlatCheck,
+    CheckBox,
+    OptionButton,
+    NavButton,
+    TextBox,
+    ListBox,
+    ComboBox,
+    ProgressBar,
+    Timer,
+};
+
+class Frame;
+
+/// Where a control stands: on the screen itself or in a frame of it. Made implicitly from either.
+struct ControlParent {
+    ControlParent(Screen& onScreen);
+    ControlParent(Frame& inFrame);
+
+    Screen& screen;
+    Frame* frame;
+};
+
+/// What all controls share. Places are relative to the parent.
+class Control {
+public:
+    Control(const Control&) = delete;
+    virtual ~Control() = default;
+
+    ControlKind kind() const { return kind_; }
+    Screen& screen() const { return screen_; }
+    /// Null when the control stands on the screen itself.
+    Frame* frame() const { return frame_; }
+    const Rect& place() const { return place_; }
+
+    /// True when it and all frames around it are visible.
+    bool isShown() const;
+    /// True when it and all frames around it are enabled.
+    bool isUsable() const;
+
+    Property<std::string, Control, Aspect::Caption> Caption;
+    Property<bool, Control, Aspect::Visible> Visible;
+    Property<bool, Control, Aspect::Enabled> Enabled;
+
+    Screen::Handler onMouseMove;
+
+    void changed(Aspect aspect);
+
+protected:
+    Control(ControlKind kind, ControlParent parent, std::string caption, Rect place);
+
+    void raise(const Screen::Handler& handler) const { screen_.dispatch(handler); }
+
+private:
+    ControlKind kind_;
+    Screen& screen_;
+    Frame* frame_;
+    Rect place_;
+};
+
+/// A group of controls: a page, a view, or (with a caption) a box around option buttons.
+class Frame : public Control {
+public:
+    enum class Look { Page, Group };
+
+    Frame(ControlParent parent, Rect place, bool visible = true);
+    Frame(ControlParent parent, std::string caption, Rect place);
+
+    Look look() const { return look_; }
+
+private:
+    Look look_;
+};
+
+enum class TextStyle {
+    Normal,
+    Heading,
+    Value, ///< A figure that people look for: large, to the right.
+    Gauge, ///< A percentage such as "57%", drawn as a bar behind its text as well.
+    Hint,  ///< Explanations: smaller weight than the texts around it.
+};
+
+class Label : public Control {
+public:
+    Label(ControlParent parent, std::string caption, Rect place, TextStyle style = TextStyle::Normal,
+          bool visible = true);
+
+    TextStyle style() const { return style_; }
+
+    Property<Color, Control, Aspect::Color> ForeColor{*this, colors::black};
+
+    Screen::Handler onClick;
+    void click();
+
+private:
+    TextStyle style_;
+};
+
+/// `cButton`: the flat button that stands for nearly every button. Its caption is white while it is pressed
+/// or disabled, else black.
+class FlatButton : public Control {
+public:
+    FlatButton(ControlParent parent, std::string caption, Rect place);
+
+    /// Takes any value and does nothing.
+    void downStatus(int) {}
+
+    /// The caption's colour now.
+    Color foreColor() const;
+
+    Screen::Handler onClick;
+
+    void mouseDown();
+    void mouseUp();
+    /// The mouse moves over the button's own ground.
+    void mouseMove();
+    /// Nothing happens on a disabled button.
+    void click();
+
+private:
+    void press(bool pressed);
+
+    bool pressed_ = false;
+};
+
+/// `check`: the flat check box. The label turns blue and underlined under the mouse.
+class FlatCheck : public Control {
+public:
+    FlatCheck(ControlParent parent, std::string caption, Rect place);
+
+    /// 0 or 1.
+    int value() const { return value_; }
+    /// Any true value ticks the box.
+    void setValue(bool ticked);
+
+    /// Takes the hover look away, whatever the value.
+    void downStatus(int value);
+
+    bool hovered() const { return hovered_; }
+
+    Screen::Handler onClick;
+
+    void mouseMoveLabel();
+    void mouseMoveBox() { downStatus(1); }
+    /// The box flips; on the label and on the box alike.
+    void click();
+
+private:
+    int value_ = 0;
+    bool hovered_ = false;
+};
+
+/// A plain check box of the system.
+class CheckBox : public Control {
+public:
+    CheckBox(ControlParent parent, std::string caption, Rect place);
+
+    /// 0 or 1.
+    int value() const { return value_; }
+    /// Ticked by code: no click is raised.
+    void setValue(bool ticked);
+
+    Screen::Handler onClick;
+    void click();
+
+private:
+    int value_ = 0;
+};
+
+/// One choice out of those in the same frame.
+class OptionButton : public Control {
+public:
+    OptionButton(ControlParent parent, std::string caption, Rect place);
+
+    bool value() const { return value_; }
+    /// Selecting one clears its neighbours in the same frame.
+    void setValue(bool selected);
+
+    Screen::Handler onClick;
+    void click();
+
+private:
+    bool value_ = false;
+};
+
+/// An entry of the navigation column: a drawn icon over its caption.
+class NavButton : public Control {
+public:
+    NavButton(ControlParent parent, std::string caption, Rect place, std::string icon);
+
+    /// Name of the picture, such as "integrity".
+    const std::string& icon() const { return icon_; }
+
+    /// The entry whose page is open.
+    Property<bool, Control, Aspect::Value> Current{*this, false};
+
+    Screen::Handler onClick;
+    void click();
+
+private:
+    std::string icon_;
+};
+
+/// One line of text, which is its caption.
+class TextBox : public Control {
+public:
+    TextBox(ControlParent parent, Rect place, bool visible = true);
+
+    Screen::Handler onChange;
+    /// The user has typed.
+    void typed(const std::string& text);
+};
+
+/// Rows of text, and the selected one. Shared by the list box and the drop-down list.
+class ItemControl : public Control {
+public:
+    const std::vector<std::string>& items() const { return items_; }
+    int count() const { return static_cast<int>(items_.size()); }
+    /// Empty beyond the last row, as for a row that is not there.
+    std::string item(int index) const;
+
+    void add(std::string text);
+    void clear();
+    void replace(int index, std::string text);
+    void remove(int index);
+
+    /// Selected row from 0, or -1. Set by code, it raises no click.
+    int listIndex() const { return listIndex_; }
+    void setListIndex(int index);
+    /// The selected row's text, or empty.
+    std::string text() const { return item(listIndex_); }
+
+    Screen::Handler onClick;
+    /// The user selected a row.
+    void select(int index);
+
+protected:
+    using Control::Control;
+
+private:
+    std::vector<std::string> items_;
+    int listIndex_ = -1;
+};
+
+class ListBox : public ItemControl {
+public:
+    ListBox(ControlParent parent, Rect place, bool visible = true);
+};
+
+class ComboBox : public ItemControl {
+public:
+    ComboBox(ControlParent parent, Rect place);
+};
+
+class ProgressBar : public Control {
+public:
+    ProgressBar(ControlParent parent, Rect place);
+
+    int value() const { return value_; }
+    int max() const { return max_; }
+    /// A value outside 0 to `max` is refused: false, and the bar stays as it was.
+    bool setValue(int value);
+    void setMax(int max);
+
+private:
+    int value_ = 0;
+    int max_ = 100;
+};
+
+/// Ticks every `interval` milliseconds while enabled. Not drawn.
+class Timer : public Control {
+public:
+    Timer(ControlParent parent, int interval);
+
+    int interval() const { return interval_; }
+
+    Screen::Handler onTick;
+    void tick();
+
+private:
+    int interval_;
+};
+
+} // namespace tarvelon

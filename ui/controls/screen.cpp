@@ -1,0 +1,70 @@
+#include "ui/controls/screen.h"
+
+namespace tarvelon {
+
+Screen::Screen(std::string caption, int width, int height)
+    : Caption(*this, std::move(caption))
+    , Visible(*this, false)
+    , width_(width)
+    , height_(height) {}
+
+void Screen::load() {
+    if (loaded_) {
+        return;
+    }
+    loaded_ = true;
+    if (listener) {
+        listener->loaded(*this);
+    }
+    if (!onLoad) {
+        return;
+    }
+    struct Loading {
+        explicit Loading(bool& flag)
+            : flag_(flag) {
+            flag_ = true;
+        }
+        Loading(const Loading&) = delete;
+        ~Loading() { flag_ = false; }
+        bool& flag_;
+    } loading(loading_);
+    onLoad();
+}
+
+void Screen::show() {
+    load();
+    Visible = true;
+}
+
+void Screen::hide() {
+    load();
+    hiddenWhileLoading_ = hiddenWhileLoading_ || loading_;
+    Visible = false;
+}
+
+void Screen::close() {
+    dispatch([this] {
+        if (!onQueryClose || onQueryClose()) {
+            Visible = false;
+        }
+    });
+}
+
+void Screen::dispatch(const Handler& handler) const {
+    if (!handler) {
+        return;
+    }
+    if (dispatcher) {
+        dispatcher(handler);
+    } else {
+        handler();
+    }
+}
+
+void Screen::changed(Aspect aspect) {
+    if (listener) {
+        listener->changed(*this, aspect);
+    }
+}
+
+} // namespace tarvelon

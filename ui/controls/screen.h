@@ -1,0 +1,86 @@
+#pragma once
+
+#include "ui/controls/geometry.h"
+#include "ui/controls/property.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace tarvelon {
+
+class Control;
+class Screen;
+
+/// Draws screens and hears of every change to them.
+class ScreenListener {
+public:
+    virtual ~ScreenListener() = default;
+    virtual void loaded(Screen& screen) = 0;
+    virtual void changed(Screen& screen, Aspect aspect) = 0;
+    virtual void changed(Control& control, Aspect aspect) = 0;
+};
+
+/// A window as data: its caption, its size and its controls, known to all layers. Behaviour is bound to it
+/// from above. A screen is loaded once, on first use, and afterwards only shown and hidden.
+class Screen {
+public:
+    using Handler = std::function<void()>;
+
+    Screen(std::string caption, int width, int height);
+    Screen(const Screen&) = delete;
+    virtual ~Screen() = default;
+
+    Property<std::string, Screen, Aspect::Caption> Caption;
+    /// Use `show` and `hide`, which load the screen first.
+    Property<bool, Screen, Aspect::Visible> Visible;
+
+    /// Runs the load handler if the screen has not been loaded yet.
+    void load();
+    void show();
+    /// A screen that is hidden by its own load handler stays hidden.
+    void hide();
+    bool isLoaded() const { return loaded_; }
+    /// True when the load handler, or something it called, asked for the screen to stay unseen.
+    bool hiddenWhileLoading() const { return hiddenWhileLoading_; }
+
+    /// The inside of the window, without its frame.
+    int width() const { return width_; }
+    int height() const { return height_; }
+    const std::vector<Control*>& controls() const { return controls_; }
+
+    Handler onLoad;
+    /// The close box: true lets the screen go (it is hidden), false keeps it.
+    std::function<bool()> onQueryClose;
+    /// The mouse moved over the screen's own surface.
+    Handler onMouseMove;
+    std::function<void(int keyCode)> onKeyDown;
+    std::function<void(int keyCode)> onKeyUp;
+
+    /// What the close box does: asks `onQueryClose`, and hides the screen when that agrees.
+    void close();
+
+    /// Window icon and buttons of the frame.
+    bool canMinimize = true;
+    bool minimized = false; ///< Shown minimised at the next `show`.
+
+    /// Set once by `main`: runs every handler, so that a failure in one is told to the user in one place.
+    /// Unset, handlers run bare.
+    std::function<void(const Handler&)> dispatcher;
+    ScreenListener* listener = nullptr;
+
+    void dispatch(const Handler& handler) const;
+    void changed(Aspect aspect);
+    /// Called by the controls' own constructors.
+    void add(Control& control) { controls_.push_back(&control); }
+
+private:
+    int width_;
+    int height_;
+    bool loading_ = false;
+    bool loaded_ = false;
+    bool hiddenWhileLoading_ = false;
+    std::vector<Control*> controls_;
+};
+
+} // namespace tarvelon
