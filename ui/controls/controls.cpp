@@ -87,7 +87,7 @@ void FlatButton::click() {
 void FlatButton::press(bool pressed) {
     if (pressed_ != pressed) {
         pressed_ = pressed;
-        changed(Aspect::Color);
+        changed(Aspect::TextColor);
     }
 }
 
@@ -105,14 +105,14 @@ void FlatCheck::setValue(bool ticked) {
 void FlatCheck::downStatus(int) {
     if (hovered_) {
         hovered_ = false;
-        changed(Aspect::Color);
+        changed(Aspect::TextColor);
     }
 }
 
 void FlatCheck::mouseMoveLabel() {
     if (!hovered_) {
         hovered_ = true;
-        changed(Aspect::Color);
+        changed(Aspect::TextColor);
     }
 }
 

@@ -89,9 +89,10 @@ private:
 enum class TextStyle {
     Normal,
     Heading,
-    Value, ///< A figure that people look for: large, to the right.
-    Gauge, ///< A percentage such as "57%", drawn as a bar behind its text as well.
-    Hint,  ///< Explanations: smaller weight than the texts around it.
+    Value,  ///< A figure that people look for: large, to the right.
+    Gauge,  ///< A percentage such as "57%", drawn as a bar behind its text as well.
+    Hint,   ///< Explanations: quieter than the texts around them.
+    Action, ///< A label that is clicked like a button: drawn with a face that lights up under the mouse.
 };
 
 class Label : public Control {
@@ -101,7 +102,7 @@ public:
 
     TextStyle style() const { return style_; }
 
-    Property<Color, Control, Aspect::Color> ForeColor{*this, colors::black};
+    Property<Color, Control, Aspect::TextColor> ForeColor{*this, colors::black};
 
     Screen::Handler onClick;
     void click();

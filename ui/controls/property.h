@@ -9,9 +9,9 @@ enum class Aspect {
     Caption,
     Visible,
     Enabled,
-    Value, ///< Check state, progress, selected row, timer settings.
-    Color, ///< Text colour or underline.
-    Items, ///< All rows anew.
+    Value,     ///< Check state, progress, selected row, timer settings.
+    TextColor, ///< Text colour or underline.
+    Items,     ///< All rows anew.
     ItemAdded,
 };
 
