@@ -1,0 +1,104 @@
+#pragma once
+
+#include "ui/controls/controls.h"
+
+#include <array>
+
+namespace tarvelon {
+
+/// The main window: a navigation column, and pages of which one is visible at a time. Its controls hold the
+/// settings while the program runs, visible or not.
+struct MForm1Screen : Screen {
+    MForm1Screen()
+        : Screen("Welcome to Tarvelon", 760, 488) {
+        Label1.Visible = false;
+    }
+
+    // Navigation column.
+    Frame navigation{*this, at(0, 0, 160, 488)};
+    NavButton Image5{navigation, "Integrity Scan", at(0, 8, 160, 72), "integrity"};
+    NavButton Image7{navigation, "RegWatch", at(0, 80, 160, 72), "regwatch"};
+    NavButton Image9{navigation, "AppWatch", at(0, 152, 160, 72), "appwatch"};
+    NavButton Image11{navigation, "Options", at(0, 224, 160, 72), "options"};
+    FlatButton cButton6{navigation, "Help", at(16, 360, 128, 32)};
+    FlatButton cButton7{navigation, "About", at(16, 400, 128, 32)};
+    FlatButton cButton9{navigation, "Exit", at(16, 440, 128, 32)};
+
+    // Integrity scan.
+    Frame intF{*this, at(160, 0, 600, 488), false};
+
+    // RegWatch and AppWatch.
+    Frame regF{*this, at(160, 0, 600, 488), false};
+    Frame appF{*this, at(160, 0, 600, 488), false};
+
+    // Options and one report.
+    Frame setFq{*this, at(160, 0, 600, 488), false};
+    Frame repF{*this, at(160, 0, 600, 488), false};
+
+    // Settings: the main page and the advanced page.
+    Frame settF{*this, at(160, 0, 600, 488), false};
+
+    Frame qSett{settF, at(0, 0, 600, 488)};
+    Label Label21{qSett, "Main Tarvelon Settings:", at(16, 14, 568, 26), TextStyle::Heading};
+    FlatCheck Check1{qSett, "Auto-Load at Startup", at(16, 48, 272, 24)};
+    FlatCheck Check8{qSett, "Auto-Scan Failed Files", at(16, 76, 272, 24)};
+    FlatCheck Check7{qSett, "Auto-Logging", at(304, 48, 272, 24)};
+    Label Label20{qSett, "Scan these System files on Auto-Load:", at(16, 120, 352, 20)};
+    FlatCheck Check2{qSett, "Check Dynamic Linked Libraries (DLL)", at(16, 144, 352, 24)};
+    FlatCheck Check3{qSett, "Check Drivers (DRV)", at(16, 172, 352, 24)};
+    FlatCheck Check4{qSett, "Check System Files (SYS,386)", at(16, 200, 352, 24)};
+    FlatCheck Check5{qSett, "Check ActiveX Files (OCX)", at(16, 228, 352, 24)};
+    FlatCheck Check6{qSett, "Check Executables (EXE,COM)", at(16, 256, 352, 24)};
+    FlatCheck Check9{qSett, "Check Commonly Exploited Files (SCR,PIF)", at(16, 284, 352, 24)};
+    Label Label2{qSett, "...On secure shut down:", at(384, 120, 200, 20)};
+    FlatCheck Check15{qSett, "DLL", at(384, 144, 200, 24)};
+    FlatCheck Check14{qSett, "DRV", at(384, 172, 200, 24)};
+    FlatCheck Check13{qSett, "SYS,386", at(384, 200, 200, 24)};
+    FlatCheck Check12{qSett, "OCX", at(384, 228, 200, 24)};
+    FlatCheck Check16{qSett, "EXE,COM", at(384, 256, 200, 24)};
+    FlatCheck Check17{qSett, "SCR,PIF", at(384, 284, 200, 24)};
+
+    Frame advF{settF, at(0, 0, 600, 488), false};
+    Label Label22{advF, "Tarvelon Integrity Checker Read Buffer:", at(16, 16, 568, 20)};
+    Frame bufferGroup{advF, at(16, 36, 568, 28)};
+    OptionButton Option1{bufferGroup, "64 Kb", at(0, 2, 96, 24)};
+    OptionButton Option2{bufferGroup, "128 Kb", at(104, 2, 96, 24)};
+    OptionButton Option3{bufferGroup, "256 Kb", at(208, 2, 96, 24)};
+    OptionButton Option4{bufferGroup, "512 Kb", at(312, 2, 96, 24)};
+    Frame Frame1{advF, "Pass 'x' Files at a Time (500 is recommended)", at(16, 72, 568, 56)};
+    OptionButton Option5{Frame1, "Pass All Files", at(16, 24, 120, 24)};
+    OptionButton Option6{Frame1, "50", at(152, 24, 64, 24)};
+    OptionButton Option7{Frame1, "100", at(224, 24, 64, 24)};
+    OptionButton Option8{Frame1, "200", at(296, 24, 64, 24)};
+    OptionButton Option9{Frame1, "350", at(368, 24, 64, 24)};
+    OptionButton Option10{Frame1, "500", at(440, 24, 64, 24)};
+    Label Label28{advF, "Anti-Virus Shell Options:", at(16, 140, 568, 20)};
+    CheckBox Check10{advF, "Enclose Files with Quotes", at(16, 160, 568, 24)};
+    CheckBox Check11{
+        advF, "Use ShortPath File Names (For DOS-Based On-Demand Anti-Virus scanners...Example: McAfee)",
+        at(16, 184, 568, 24)};
+    CheckBox avfocus{advF, "Give anti-virus program Focus (Fixes GUI Errors with AVAST 4)",
+                     at(16, 208, 568, 24)};
+    Label Label1{advF, "Warning! Current options may cause errors!", at(16, 232, 568, 20)};
+    Frame Frame3{advF, "Integrity Checker Algorithm:", at(16, 256, 568, 56)};
+    OptionButton Option11{Frame3, "CRC32", at(16, 24, 96, 24)};
+    OptionButton Option12{Frame3, "MD5", at(120, 24, 96, 24)};
+    OptionButton Option13{Frame3, "SHA-1", at(224, 24, 96, 24)};
+    OptionButton Option14{Frame3, "MD4", at(328, 24, 96, 24)};
+    Label Label30{advF, "Micellaneous:", at(16, 320, 568, 20)};
+    FlatCheck wsh{advF, "Use Windows Scripting Host (If Auto-Load won't create shortcut/save)",
+                  at(16, 340, 568, 24)};
+
+    // About; the page that shows when the window opens.
+    Frame Frame2{*this, at(160, 0, 600, 488)};
+    Label Label32{Frame2, "Tarvelon", at(32, 32, 536, 32), TextStyle::Heading};
+    Label Label33{Frame2, "Version: 2.0", at(32, 72, 536, 20)};
+
+    /// The controls behind the positions of the stored lists.
+    std::array<FlatCheck*, 8> autoLoadChecks{&Check2, &Check3, &Check4, &Check5,
+                                             &Check6, &Check9, &Check8, &Check7};
+    std::array<FlatCheck*, 6> shutDownChecks{&Check15, &Check14, &Check13, &Check12, &Check16, &Check17};
+    std::array<CheckBox*, 3> shellChecks{&Check10, &Check11, &avfocus};
+};
+
+} // namespace tarvelon
