@@ -1,0 +1,70 @@
+#include "core/profile_files.h"
+
+#include "core/file_text.h"
+#include "platform/files.h"
+
+namespace tarvelon {
+
+std::string ProfileFiles::read(const std::string& path, const std::string& section, const std::string& key) {
+    const auto file = files_.open(path, OpenMode::Read);
+    if (!file || !refresh(path, *file)) {
+        return {};
+    }
+    return image_.read(section, key).value_or(std::string());
+}
+
+bool ProfileFiles::write(const std::string& path, const std::string& section, const std::string& key,
+                         const std::string& value) {
+    {
+        const auto file = files_.open(path, OpenMode::ReadOrCreate);
+        if (!file || !refresh(path, *file)) {
+            return false;
+        }
+        const std::size_t oldLength = image_.text().size();
+        const std::size_t changed = image_.write(section, key, value);
+        if (!writeFrom(*file, changed, oldLength)) {
+            path_.clear();
+            return false;
+        }
+    }
+    // The time of the last write is only sure once the file has been closed.
+    const auto file = files_.open(path, OpenMode::Read);
+    stamp_ = file ? stampOf(*file) : std::nullopt;
+    return true;
+}
+
+std::optional<ProfileFiles::Stamp> ProfileFiles::stampOf(OpenFile& file) {
+    const auto length = file.length();
+    const auto lastWrite = file.lastWrite();
+    if (!length || !lastWrite) {
+        return std::nullopt;
+    }
+    return Stamp{*length, *lastWrite};
+}
+
+/// Makes the image that of `file`.
+bool ProfileFiles::refresh(const std::string& path, OpenFile& file) {
+    const auto stamp = stampOf(file);
+    if (stamp && stamp == stamp_ && path == path_) {
+        return true;
+    }
+    path_.clear();
+    auto text = readAll(file);
+    if (!text) {
+        return false;
+    }
+    image_.setText(std::move(*text));
+    path_ = path;
+    stamp_ = stamp;
+    return true;
+}
+
+bool ProfileFiles::writeFrom(OpenFile& file, std::size_t position, std::size_t oldLength) {
+    const std::string_view tail = std::string_view(image_.text()).substr(position);
+    if (!file.writeAt(position, tail)) {
+        return false;
+    }
+    return image_.text().size() >= oldLength || file.setLength(image_.text().size());
+}
+
+} // namespace tarvelon

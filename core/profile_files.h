@@ -1,0 +1,49 @@
+#pragma once
+
+#include "core/profile_image.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace tarvelon {
+
+class Files;
+
+/// Reads and writes single entries of profile files on the disk. The text last used is kept, and used again
+/// as long as the file's length and time of last write show that nobody else has changed it, so that
+/// thousands of writes to one file cost neither a parse nor a whole rewrite each. No file stays open between
+/// calls.
+class ProfileFiles {
+public:
+    ProfileFiles(Files& files, const CaseRules& cases)
+        : files_(files)
+        , image_(cases) {}
+
+    /// Empty when the file, the section or the key is not there.
+    std::string read(const std::string& path, const std::string& section, const std::string& key);
+
+    /// On the disk when the call returns. A missing file is made. False when the file cannot be opened or
+    /// written; it then holds what it held.
+    bool write(const std::string& path, const std::string& section, const std::string& key,
+               const std::string& value);
+
+private:
+    /// Tells two states of a file apart.
+    struct Stamp {
+        std::uint64_t length;
+        std::uint64_t lastWrite;
+        bool operator==(const Stamp&) const = default;
+    };
+
+    static std::optional<Stamp> stampOf(class OpenFile& file);
+    bool refresh(const std::string& path, OpenFile& file);
+    bool writeFrom(OpenFile& file, std::size_t position, std::size_t oldLength);
+
+    Files& files_;
+    ProfileImage image_;
+    std::string path_; ///< Whose text the image is; empty for none.
+    std::optional<Stamp> stamp_;
+};
+
+} // namespace tarvelon

@@ -1,0 +1,148 @@
+#include "core/settings_file.h"
+
+#include "core/failure.h"
+#include "core/file_text.h"
+#include "core/globals.h"
+#include "platform/files.h"
+#include "platform/platform.h"
+
+#include <array>
+
+namespace tarvelon {
+
+namespace {
+
+struct Request {
+    std::string_view word;
+    std::string_view searched;
+};
+
+constexpr std::array<Request, 9> requests{{{"GETSETT", "settings="},
+                                           {"GETSETT2", "settings2="},
+                                           {"ANTIVIRUS", "antivirus="},
+                                           {"AV2", "av2="},
+                                           {"ANTIVIRUS2", "antivirus2="},
+                                           {"ALGO", "algo="},
+                                           {"PATH", "path="},
+                                           {"ARGS", "args="},
+                                           {"ADV", "advanced="}}};
+
+constexpr int folderSlots = 20;
+
+std::string newSettings() {
+    std::string text = "[Tarvelon]\r\n"
+                       "settings=0,0,0,0,0,0,0,0\r\n"
+                       "advanced=65536,500,0\r\n"
+                       "antivirus=\r\n"
+                       "av2=\r\n"
+                       "antivirus2=1,0,0\r\n"
+                       "algo=crc32\r\n"
+                       "\r\n";
+    for (int slot = 1; slot <= folderSlots; ++slot) {
+        text += "[" + std::to_string(slot) +
+                "]\r\n"
+                "path=NULL\r\n"
+                "args=0,0,0,0,0,0,0\r\n"
+                "args2=0,0,0,0,0,0,0\r\n"
+                "\r\n";
+    }
+    return text;
+}
+
+std::optional<std::size_t> placeOf(const CaseRules& cases, const std::array<std::string, sectionCount>& names,
+                                   const std::string& name) {
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        if (cases.equal(names[i], name)) {
+            return i + 1;
+        }
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+SettingsFile::SettingsFile(Globals& globals, Platform& platform)
+    : globals_(globals)
+    , platform_(platform)
+    , profiles_(platform.files, globals.cases) {}
+
+void SettingsFile::checkSettFile() {
+    const std::string& path = globals_.app.settFile;
+    if (platform_.files.open(path, OpenMode::Read)) {
+        return;
+    }
+    if (!writeWholeFile(platform_.files, path, newSettings())) {
+        throw Failure("The settings file cannot be made:\r\n" + path);
+    }
+}
+
+std::string SettingsFile::getSetting(const std::string& request) const {
+    const auto text = readWholeFile(platform_.files, globals_.app.settFile);
+    if (!text) {
+        throw Failure("The settings file cannot be read:\r\n" + globals_.app.settFile);
+    }
+    for (const Request& known : requests) {
+        if (globals_.cases.equal(request, known.word)) {
+            const std::string value = getBetween(globals_.cases, *text, 1, known.searched, lineEnd);
+            return value.size() >= 2 ? value : std::string();
+        }
+    }
+    return {};
+}
+
+std::string SettingsFile::readIni(const std::string& file, const std::string& key,
+                                  const std::string& section) {
+    constexpr std::size_t bufferWithoutZero = 249;
+    return profiles_.read(file, section, key).substr(0, bufferWithoutZero);
+}
+
+std::string SettingsFile::readIni(const std::string& file, const std::string& key, int section) {
+    return readIni(file, key, std::to_string(section));
+}
+
+std::optional<bool> SettingsFile::writeEntry(const std::string& file, const std::string& key,
+                                             const std::string& value, const std::string& section) {
+    if (globals_.baselines.primaryScan || isWrittenThrough(file)) {
+        return profiles_.write(file, section, key, value);
+    }
+    writeToMemory(key, value, section);
+    return std::nullopt;
+}
+
+bool SettingsFile::isWrittenThrough(const std::string& file) const {
+    const std::string_view tail = lastCharacters(file, 12);
+    return globals_.cases.equal(tail, "REGISTRY.DAT") || globals_.cases.equal(tail, "TARVELON.DAT");
+}
+
+void SettingsFile::writeToMemory(const std::string& key, const std::string& value,
+                                 const std::string& section) {
+    Baselines& baselines = globals_.baselines;
+    const bool custom = !globals_.scan.customFolder.empty();
+    const auto number = custom ? findCustomSection(section) : findSection(section);
+    if (!number) {
+        throw Failure("The baseline has no section \"" + section + "\".");
+    }
+    EntryBlock& block = (custom ? baselines.customText : baselines.sectionText)[*number - 1];
+    const CaseRules& cases = globals_.cases;
+
+    const std::string lineStart = std::string(lineEnd) + key;
+    const std::string entry = lineStart + "=" + value + "\r\n";
+    // The test is exact and does not look for the "=", so a longer name that begins like this one passes it
+    // too; the replacement then finds nothing and the block stays as it was.
+    if (block.text().find(lineStart) == std::string::npos) {
+        block.setText(cases.replaceAll(block.text(), "\r\nNULL*E\r\n", entry + "NULL*E\r\n"));
+        return;
+    }
+    const std::string old = getBetween(cases, block.text(), 1, lineStart + "=", "*E\r\n");
+    block.setText(cases.replaceAll(block.text(), lineStart + "=" + old + "*E\r\n", entry));
+}
+
+std::optional<std::size_t> SettingsFile::findSection(const std::string& name) const {
+    return placeOf(globals_.cases, globals_.baselines.sectionName, name);
+}
+
+std::optional<std::size_t> SettingsFile::findCustomSection(const std::string& name) const {
+    return placeOf(globals_.cases, globals_.baselines.customName, name);
+}
+
+} // namespace tarvelon
