@@ -26,6 +26,7 @@ struct MForm1Screen : Screen {
 
     // Integrity scan.
     Frame intF{*this, at(160, 0, 600, 488), false};
+    ComboBox Combo1{intF, at(16, 16, 568, 24)};
 
     // RegWatch and AppWatch.
     Frame regF{*this, at(160, 0, 600, 488), false};

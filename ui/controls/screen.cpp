@@ -5,6 +5,7 @@ namespace tarvelon {
 Screen::Screen(std::string caption, int width, int height)
     : Caption(*this, std::move(caption))
     , Visible(*this, false)
+    , Minimized(*this, false)
     , width_(width)
     , height_(height) {}
 

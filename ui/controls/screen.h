@@ -34,6 +34,8 @@ public:
     Property<std::string, Screen, Aspect::Caption> Caption;
     /// Use `show` and `hide`, which load the screen first.
     Property<bool, Screen, Aspect::Visible> Visible;
+    /// The window is minimised, by code or by the user (the view keeps it so).
+    Property<bool, Screen, Aspect::Value> Minimized;
 
     /// Runs the load handler if the screen has not been loaded yet.
     void load();
@@ -62,7 +64,6 @@ public:
 
     /// Window icon and buttons of the frame.
     bool canMinimize = true;
-    bool minimized = false; ///< Shown minimised at the next `show`.
 
     /// Set once by `main`: runs every handler, so that a failure in one is told to the user in one place.
     /// Unset, handlers run bare.
