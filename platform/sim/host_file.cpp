@@ -1,0 +1,74 @@
+#include "platform/sim/host_file.h"
+
+#include "platform/sim/faults.h"
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace tarvelon {
+
+HostFile::HostFile(int descriptor, Faults& faults)
+    : descriptor_(descriptor)
+    , faults_(faults) {}
+
+HostFile::~HostFile() {
+    ::close(descriptor_);
+}
+
+std::optional<std::uint64_t> HostFile::length() {
+    struct stat status;
+    if (faults_.strikes(Operation::LengthOfOpenFile) || ::fstat(descriptor_, &status) != 0) {
+        return std::nullopt;
+    }
+    return static_cast<std::uint64_t>(status.st_size);
+}
+
+std::optional<std::uint64_t> HostFile::lastWrite() {
+    struct stat status;
+    if (faults_.strikes(Operation::LastWrite) || ::fstat(descriptor_, &status) != 0) {
+        return std::nullopt;
+    }
+    return static_cast<std::uint64_t>(status.st_mtim.tv_sec) * 1'000'000'000 +
+           static_cast<std::uint64_t>(status.st_mtim.tv_nsec);
+}
+
+std::optional<std::size_t> HostFile::readAt(std::uint64_t position, void* buffer, std::size_t count) {
+    if (faults_.strikes(Operation::ReadFile)) {
+        return std::nullopt;
+    }
+    std::size_t done = 0;
+    while (done < count) {
+        const ssize_t got = ::pread(descriptor_, static_cast<char*>(buffer) + done, count - done,
+                                    static_cast<off_t>(position + done));
+        if (got < 0) {
+            return std::nullopt;
+        }
+        if (got == 0) {
+            break;
+        }
+        done += static_cast<std::size_t>(got);
+    }
+    return done;
+}
+
+bool HostFile::writeAt(std::uint64_t position, std::string_view bytes) {
+    if (faults_.strikes(Operation::WriteFile)) {
+        return false;
+    }
+    while (!bytes.empty()) {
+        const ssize_t put = ::pwrite(descriptor_, bytes.data(), bytes.size(), static_cast<off_t>(position));
+        if (put <= 0) {
+            return false;
+        }
+        bytes.remove_prefix(static_cast<std::size_t>(put));
+        position += static_cast<std::uint64_t>(put);
+    }
+    return true;
+}
+
+bool HostFile::setLength(std::uint64_t length) {
+    return !faults_.strikes(Operation::SetLength) &&
+           ::ftruncate(descriptor_, static_cast<off_t>(length)) == 0;
+}
+
+} // namespace tarvelon

@@ -1,0 +1,365 @@
+#include "platform/sim/sim_files.h"
+
+#include "platform/sim/faults.h"
+#include "platform/sim/host_file.h"
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+
+namespace tarvelon {
+
+namespace {
+
+constexpr std::size_t longestPath = 259;
+
+bool isFolder(const std::string& host) {
+    struct stat status;
+    return ::stat(host.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+bool exists(const std::string& host) {
+    struct stat status;
+    return ::stat(host.c_str(), &status) == 0;
+}
+
+int openFlags(OpenMode mode) {
+    switch (mode) {
+    case OpenMode::Read:
+        return O_RDONLY;
+    case OpenMode::ReadWrite:
+    case OpenMode::ReadOrCreate:
+        return O_RDWR;
+    case OpenMode::Create:
+        return O_WRONLY | O_TRUNC;
+    }
+    return O_RDONLY;
+}
+
+int openHost(const std::string& host, int flags) {
+    return ::open(host.c_str(), flags | O_CLOEXEC, 0644);
+}
+
+bool isFolder(int descriptor) {
+    struct stat status;
+    return ::fstat(descriptor, &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+// Two writes within one tick of the host's clock would leave the same stamp; this one moves it on.
+void makeStampDiffer(const std::string& host, const timespec& before) {
+    struct stat status;
+    if (::stat(host.c_str(), &status) != 0 || status.st_mtim.tv_sec != before.tv_sec ||
+        status.st_mtim.tv_nsec != before.tv_nsec) {
+        return;
+    }
+    timespec times[2] = {{0, UTIME_OMIT}, {before.tv_sec + 1, before.tv_nsec}};
+    ::utimensat(AT_FDCWD, host.c_str(), times, 0);
+}
+
+} // namespace
+
+SimFiles::SimFiles(Faults& faults)
+    : faults_(faults) {}
+
+void SimFiles::mapDrive(char letter, const std::string& hostFolder) {
+    drives_[upper(std::string(1, letter))[0]] = hostFolder;
+}
+
+std::string SimFiles::hostPath(const std::string& path) const {
+    const auto asked = place(path);
+    if (!asked) {
+        throw std::invalid_argument("no place for " + path);
+    }
+    return find(*asked, true).value_or(asked->path);
+}
+
+void SimFiles::put(const std::string& path, std::string_view bytes) {
+    makeFolders(path.substr(0, path.rfind('\\') + 1));
+    const std::string host = hostPath(path);
+    struct stat before {};
+    ::stat(host.c_str(), &before);
+    std::ofstream file(host, std::ios::binary | std::ios::trunc);
+    file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    file.close();
+    if (!file) {
+        throw std::runtime_error("cannot write " + host);
+    }
+    makeStampDiffer(host, before.st_mtim);
+}
+
+std::optional<std::string> SimFiles::get(const std::string& path) const {
+    const std::string host = hostPath(path);
+    std::ifstream file(host, std::ios::binary);
+    if (!file || isFolder(host)) {
+        return std::nullopt;
+    }
+    return std::string(std::istreambuf_iterator<char>(file), {});
+}
+
+void SimFiles::makeFolders(const std::string& path) {
+    for (std::size_t slash = path.find('\\', 3); slash != std::string::npos;
+         slash = path.find('\\', slash + 1)) {
+        ::mkdir(hostPath(path.substr(0, slash)).c_str(), 0755);
+    }
+}
+
+std::string SimFiles::firstName(const std::string& folder) {
+    listing_.clear();
+    nextInListing_ = 0;
+    const auto asked = place(folder);
+    if (faults_.strikes(Operation::ListFolder) || !asked) {
+        return {};
+    }
+    const auto host = find(*asked);
+    if (!host || !isFolder(*host)) {
+        return {};
+    }
+    listing_ = namesIn(*host);
+    if (!asked->isRoot()) {
+        listing_.insert(listing_.begin(), {".", ".."});
+    }
+    return nextName();
+}
+
+std::string SimFiles::nextName() {
+    return nextInListing_ < listing_.size() ? listing_[nextInListing_++] : std::string();
+}
+
+std::unique_ptr<OpenFile> SimFiles::open(const std::string& path, OpenMode mode) {
+    const auto asked = place(path);
+    if (faults_.strikes(Operation::OpenFile) || !asked || isLocked(path) ||
+        (mode != OpenMode::Read && isReadOnly(path))) {
+        return nullptr;
+    }
+    const int flags = openFlags(mode);
+    int descriptor = openHost(asked->path, flags);
+    if (descriptor < 0 && errno == ENOENT) {
+        const bool mayCreate = mode == OpenMode::ReadOrCreate || mode == OpenMode::Create;
+        if (const auto found = find(*asked, mayCreate)) {
+            descriptor = openHost(*found, mayCreate ? flags | O_CREAT : flags);
+        }
+    }
+    if (descriptor < 0) {
+        return nullptr;
+    }
+    auto file = std::make_unique<HostFile>(descriptor, faults_);
+    if (mode == OpenMode::Read && isFolder(descriptor)) {
+        return nullptr; // The host opens folders for reading; the system does not.
+    }
+    return file;
+}
+
+std::optional<std::uint64_t> SimFiles::length(const std::string& path) {
+    const auto asked = place(path);
+    if (faults_.strikes(Operation::LengthByName) || !asked) {
+        return std::nullopt;
+    }
+    struct stat status;
+    if (::stat(asked->path.c_str(), &status) != 0) {
+        const auto found = find(*asked);
+        if (!found || ::stat(found->c_str(), &status) != 0) {
+            return std::nullopt;
+        }
+    }
+    if (S_ISDIR(status.st_mode)) {
+        return std::nullopt;
+    }
+    return static_cast<std::uint64_t>(status.st_size);
+}
+
+bool SimFiles::copy(const std::string& from, const std::string& to) {
+    const auto source = place(from);
+    const auto target = place(to);
+    if (faults_.strikes(Operation::CopyFile) || !source || !target || isLocked(from) || isLocked(to) ||
+        isReadOnly(to)) {
+        return false;
+    }
+    const auto foundSource = find(*source);
+    const auto foundTarget = find(*target, true);
+    struct stat status;
+    if (!foundSource || !foundTarget || *foundSource == *foundTarget || isFolder(*foundTarget) ||
+        ::stat(foundSource->c_str(), &status) != 0 || S_ISDIR(status.st_mode)) {
+        return false;
+    }
+    std::ifstream in(*foundSource, std::ios::binary);
+    const std::string bytes(std::istreambuf_iterator<char>(in), {});
+    std::ofstream out(*foundTarget, std::ios::binary | std::ios::trunc);
+    out << bytes << std::flush;
+    if (!in || !out) {
+        return false;
+    }
+    // A copy keeps the time of the last write.
+    const timespec times[2] = {{0, UTIME_OMIT}, status.st_mtim};
+    return ::utimensat(AT_FDCWD, foundTarget->c_str(), times, 0) == 0;
+}
+
+bool SimFiles::remove(const std::string& path) {
+    const auto asked = place(path);
+    if (faults_.strikes(Operation::RemoveFile) || !asked || isLocked(path) || isReadOnly(path)) {
+        return false;
+    }
+    const auto found = find(*asked);
+    return found && ::unlink(found->c_str()) == 0;
+}
+
+bool SimFiles::createFolder(const std::string& path) {
+    const auto asked = place(path);
+    if (faults_.strikes(Operation::CreateFolder) || !asked) {
+        return false;
+    }
+    const auto found = find(*asked, true);
+    return found && ::mkdir(found->c_str(), 0755) == 0;
+}
+
+bool SimFiles::searchTreeForFile(const std::string& root, const std::string& name, char* buffer) {
+    const auto asked = place(root);
+    const auto host = asked ? find(*asked) : std::nullopt;
+    if (faults_.strikes(Operation::SearchTree) || !host || !isFolder(*host)) {
+        return false;
+    }
+    const std::string shown = root.back() == '\\' ? root : root + "\\";
+    const auto hit = searchFolder(*host, shown, upper(name));
+    if (!hit || hit->size() > longestPath) {
+        return false;
+    }
+    std::memcpy(buffer, hit->c_str(), hit->size() + 1);
+    return true;
+}
+
+std::optional<std::string> SimFiles::searchFolder(const std::string& hostFolder,
+                                                  const std::string& shownFolder,
+                                                  const std::string& upperName) const {
+    for (const std::string& name : namesIn(hostFolder)) {
+        const std::string host = hostFolder + "/" + name;
+        if (isFolder(host)) {
+            if (auto hit = searchFolder(host, shownFolder + name + "\\", upperName)) {
+                return hit;
+            }
+        } else if (upper(name) == upperName) {
+            return shownFolder + name;
+        }
+    }
+    return std::nullopt;
+}
+
+/// Takes a path apart as the system does: cut at the first zero, slashes of both kinds and runs of them
+/// alike, no blanks or dots at the end, no wildcards. Empty for a path that is not of the form `X:\...`.
+std::optional<SimFiles::Place> SimFiles::place(const std::string& path) const {
+    const std::string_view asked = path.c_str();
+    if (asked.size() < 3 || asked.size() > longestPath || asked[1] != ':' ||
+        (asked[2] != '\\' && asked[2] != '/') ||
+        asked.find_first_of("*?\"<>|", 2) != std::string_view::npos) {
+        return std::nullopt;
+    }
+    const char letter = static_cast<char>(SimCodePage().upper(static_cast<unsigned char>(asked[0])));
+    const auto drive = drives_.find(letter);
+    if (drive == drives_.end()) {
+        return std::nullopt;
+    }
+    Place result{drive->second, drive->second.size()};
+    for (std::size_t from = 3; from < asked.size();) {
+        const std::size_t slash = std::min(asked.find_first_of("\\/", from), asked.size());
+        const std::string_view part = asked.substr(from, slash - from);
+        from = slash + 1;
+        if (part == "..") {
+            result.path.resize(result.isRoot() ? result.rootLength : result.path.rfind('/'));
+        } else if (!part.empty() && part != ".") {
+            result.path.append("/").append(part);
+        }
+    }
+    while (!result.isRoot() && (result.path.back() == ' ' || result.path.back() == '.')) {
+        result.path.pop_back();
+    }
+    return result;
+}
+
+std::optional<std::string> SimFiles::find(const Place& asked, bool newLast) const {
+    if (exists(asked.path)) {
+        return asked.path;
+    }
+    std::string found = asked.path.substr(0, asked.rootLength);
+    for (std::size_t from = asked.rootLength + 1; from < asked.path.size();) {
+        const std::size_t slash = std::min(asked.path.find('/', from), asked.path.size());
+        const std::string part = asked.path.substr(from, slash - from);
+        from = slash + 1;
+        if (exists(found + "/" + part)) {
+            found += "/" + part;
+            continue;
+        }
+        const std::string entry = entryLike(found, part);
+        if (!entry.empty()) {
+            found += "/" + entry;
+        } else if (newLast && slash == asked.path.size() && isFolder(found)) {
+            return found + "/" + part;
+        } else {
+            return std::nullopt;
+        }
+    }
+    return found;
+}
+
+std::string SimFiles::entryLike(const std::string& hostFolder, const std::string& name) const {
+    const std::string wanted = upper(name);
+    for (const std::string& entry : namesIn(hostFolder)) {
+        if (upper(entry) == wanted) {
+            return entry;
+        }
+    }
+    return {};
+}
+
+/// Without the dot entries, in the order of the upper-cased names.
+std::vector<std::string> SimFiles::namesIn(const std::string& hostFolder) const {
+    struct Entry {
+        std::string key;
+        std::string name;
+    };
+    std::vector<Entry> entries;
+    if (DIR* const folder = ::opendir(hostFolder.c_str())) {
+        while (const dirent* entry = ::readdir(folder)) {
+            const std::string name = entry->d_name;
+            if (name != "." && name != "..") {
+                entries.push_back({upper(name), name});
+            }
+        }
+        ::closedir(folder);
+    }
+    std::sort(entries.begin(), entries.end(), [](const Entry& a, const Entry& b) { return a.key < b.key; });
+    std::vector<std::string> names;
+    names.reserve(entries.size());
+    for (Entry& entry : entries) {
+        names.push_back(std::move(entry.name));
+    }
+    return names;
+}
+
+std::string SimFiles::upper(std::string text) const {
+    SimCodePage codePage;
+    for (char& character : text) {
+        character = static_cast<char>(codePage.upper(static_cast<unsigned char>(character)));
+    }
+    return text;
+}
+
+std::string SimFiles::lockName(const std::string& path) const {
+    const auto asked = place(path);
+    return asked ? upper(asked->path) : std::string();
+}
+
+bool SimFiles::isLocked(const std::string& path) const {
+    return !locked_.empty() && locked_.contains(lockName(path));
+}
+
+bool SimFiles::isReadOnly(const std::string& path) const {
+    return !readOnly_.empty() && readOnly_.contains(lockName(path));
+}
+
+} // namespace tarvelon

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "platform/files.h"
+#include "platform/sim/sim_codepage.h"
+
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace tarvelon {
+
+class Faults;
+
+/// Real files below host folders that stand for drives. Names count without regard to case, in code page
+/// 1252, and are kept on the host byte for byte. A name in the right case costs what the host's own call
+/// costs.
+class SimFiles : public Files {
+public:
+    explicit SimFiles(Faults& faults);
+
+    /// The drive's root is this existing host folder.
+    void mapDrive(char letter, const std::string& hostFolder);
+    /// Where a path lies on the host, whether it exists or not. Throws std::invalid_argument for a bad path.
+    std::string hostPath(const std::string& path) const;
+
+    /// For tests, past all locks and faults: writes a whole file and makes the folders it needs. The time of
+    /// the last write always changes.
+    void put(const std::string& path, std::string_view bytes);
+    /// The whole file; empty when it does not exist.
+    std::optional<std::string> get(const std::string& path) const;
+    void makeFolders(const std::string& path);
+
+    /// Another process keeps the file to itself: nothing opens, copies or removes it.
+    void lock(const std::string& path) { locked_.insert(lockName(path)); }
+    void unlock(const std::string& path) { locked_.erase(lockName(path)); }
+    /// The file is read-only.
+    void denyWrites(const std::string& path) { readOnly_.insert(lockName(path)); }
+    void allowWrites(const std::string& path) { readOnly_.erase(lockName(path)); }
+
+    std::string firstName(const std::string& folder) override;
+    std::string nextName() override;
+    std::unique_ptr<OpenFile> open(const std::string& path, OpenMode mode) override;
+    std::optional<std::uint64_t> length(const std::string& path) override;
+    bool copy(const std::string& from, const std::string& to) override;
+    bool remove(const std::string& path) override;
+    bool createFolder(const std::string& path) override;
+    bool searchTreeForFile(const std::string& root, const std::string& name, char* buffer) override;
+
+private:
+    /// A path on the host, in the case as asked for.
+    struct Place {
+        std::string path;
+        std::size_t rootLength = 0;
+
+        bool isRoot() const { return path.size() == rootLength; }
+    };
+
+    std::optional<Place> place(const std::string& path) const;
+    /// The path of what exists there in any case; with `newLast`, also where a new entry of an existing
+    /// folder would lie.
+    std::optional<std::string> find(const Place& place, bool newLast = false) const;
+    std::string entryLike(const std::string& hostFolder, const std::string& name) const;
+    std::vector<std::string> namesIn(const std::string& hostFolder) const;
+    std::optional<std::string> searchFolder(const std::string& hostFolder, const std::string& shownFolder,
+                                            const std::string& upperName) const;
+
+    std::string upper(std::string text) const;
+    std::string lockName(const std::string& path) const;
+    bool isLocked(const std::string& path) const;
+    bool isReadOnly(const std::string& path) const;
+
+    Faults& faults_;
+    std::map<char, std::string> drives_;
+    std::set<std::string> locked_;
+    std::set<std::string> readOnly_;
+    std::vector<std::string> listing_;
+    std::size_t nextInListing_ = 0;
+};
+
+} // namespace tarvelon
