@@ -1,0 +1,71 @@
+#include "core/application.h"
+
+#include "core/failure.h"
+#include "platform/dialogs.h"
+
+namespace tarvelon {
+
+Application::Application(Platform& onPlatform)
+    : platform(onPlatform) {
+    globals.cases = CaseRules(platform.codePage);
+    tellFailures();
+    bindHooks();
+}
+
+void Application::start() {
+    mForm1.load();
+    if (!mForm1.hiddenWhileLoading()) {
+        mForm1.show();
+    }
+}
+
+/// A failure that no handler dealt with ends that handler only.
+void Application::tellFailures() {
+    for (Screen* screen : screens()) {
+        screen->dispatcher = [this](const Screen::Handler& handler) {
+            try {
+                handler();
+            } catch (const Failure& failure) {
+                platform.dialogs.message({.text = failure.what(), .icon = Icon::Warning});
+            }
+        };
+    }
+}
+
+void Application::bindHooks() {
+    const auto showScan = [this] { intCheck.show(); };
+    const auto loadUp = [this] { scan.LoadUp(); };
+
+    mForm1.onLoad = [this] { startUp.run(); };
+    startUp.hooks = {
+        .checkIntFile = [this] { baseline.checkIntFile(); },
+        .checkRegFile = [this] { snapshotFile.checkRegFile(); },
+        .loadSettings = [this] { settingsPages.loadSettings(); },
+        .setDatName = [this] { checksum.setDatName(); },
+        .loadIntFile = [this] { dataFile.loadIntFile(globals.app.intFile); },
+        .hideMainWindow = [this] { mForm1.hide(); },
+        .showScan = showScan,
+        .loadUp = loadUp,
+        .minimizeScan = [this] { intCheck.Minimized = true; },
+        .showLogoff =
+            [this] {
+                globals.app.autoLoadRun = true;
+                intCheck.show();
+                scan.LoadUp();
+            },
+        .preShut0 =
+            [this] {
+                globals.app.autoLoadRun = true;
+                intCheck.show();
+                scan.LoadUp();
+            },
+    };
+    dataFile.buildCustomDat = [this](const std::string& folder, const std::string& file,
+                                     const std::string& number) {
+        return baseline.buildCustomDat(folder, file, number);
+    };
+    baseline.hooks = {.showScan = showScan, .leaveScan = [this] { scan.Command1_Click(); }, .loadUp = loadUp};
+    scan.hooks.showMainWindow = [this] { mForm1.show(); };
+}
+
+} // namespace tarvelon

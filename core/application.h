@@ -1,0 +1,63 @@
+#pragma once
+
+#include "avshell/s_avir_screen.h"
+#include "core/globals.h"
+#include "core/settings_file.h"
+#include "core/start_up.h"
+#include "core/utilities.h"
+#include "hash/checksum.h"
+#include "integrity/baseline.h"
+#include "integrity/comparison.h"
+#include "integrity/data_file.h"
+#include "integrity/intcheck.h"
+#include "integrity/intcheck_screen.h"
+#include "platform/platform.h"
+#include "regwatch/snapshot_file.h"
+#include "shutdown/sprog_screen.h"
+#include "ui/mform1.h"
+#include "ui/mform1_screen.h"
+#include "ui/settings_pages.h"
+
+#include <vector>
+
+namespace tarvelon {
+
+/// The whole program over one platform: its state, its screens, its parts, and the one place where what runs
+/// upward or sideways between them is bound.
+class Application {
+public:
+    explicit Application(Platform& platform);
+
+    /// Every screen, for a view to attach to before the start.
+    std::vector<Screen*> screens() { return {&mForm1, &intCheck, &sProg, &s_avir}; }
+
+    /// Loads the main window, which is the whole start-up, and shows it unless a switch or a scan hid it.
+    void start();
+
+    Platform& platform;
+    Globals globals;
+
+    MForm1Screen mForm1;
+    IntCheckScreen intCheck;
+    SProgScreen sProg;
+    SAvirScreen s_avir;
+
+    Utilities utilities{platform};
+    SettingsFile settingsFile{globals, platform};
+    Checksum checksum{globals, platform};
+    SnapshotFile snapshotFile{globals, platform};
+    DataFile dataFile{globals, platform, settingsFile, utilities};
+    Baseline baseline{globals, platform, dataFile, utilities, mForm1};
+    Comparison comparison{intCheck, sProg, globals, platform, settingsFile, checksum, dataFile, utilities};
+    IntCheck scan{intCheck,
+                  {globals, platform, settingsFile, checksum, dataFile, baseline, utilities, comparison}};
+    SettingsPages settingsPages{mForm1, s_avir, globals, platform, settingsFile, utilities};
+    MForm1 mainForm{mForm1, platform};
+    StartUp startUp{globals, platform, settingsFile, utilities};
+
+private:
+    void bindHooks();
+    void tellFailures();
+};
+
+} // namespace tarvelon

@@ -1,0 +1,12 @@
+#include "core/application.h"
+#include "platform/win32/win32_platform.h"
+
+int main() {
+    tarvelon::Win32Platform system;
+    tarvelon::Application application(system.platform());
+    for (tarvelon::Screen* screen : application.screens()) {
+        system.view().attach(*screen);
+    }
+    application.start();
+    return system.runMessageLoop();
+}

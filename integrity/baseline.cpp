@@ -1,0 +1,177 @@
+#include "integrity/baseline.h"
+
+#include "core/failure.h"
+#include "core/file_text.h"
+#include "core/globals.h"
+#include "core/restart.h"
+#include "core/utilities.h"
+#include "integrity/data_file.h"
+#include "platform/dialogs.h"
+#include "platform/files.h"
+#include "platform/messages.h"
+#include "platform/platform.h"
+#include "ui/mform1_screen.h"
+
+#include <array>
+#include <optional>
+#include <vector>
+
+namespace tarvelon {
+
+namespace {
+
+using SectionLists = std::array<std::vector<std::string>, sectionCount>;
+
+/// The section of a file by its last four characters, from 0.
+std::optional<std::size_t> sectionOf(const CaseRules& cases, const std::string& name) {
+    for (std::size_t n = 0; n < sectionCount; ++n) {
+        if (cases.equal(lastCharacters(name, 4), std::string(".") + sectionNames[n])) {
+            return n;
+        }
+    }
+    return std::nullopt;
+}
+
+/// Names of the matching files directly in the folder; a folder with such a name counts as a file.
+SectionLists walk(Globals& globals, Platform& platform, const std::string& folder) {
+    SectionLists lists;
+    for (std::string name = platform.files.firstName(folder); !name.empty();
+         name = platform.files.nextName()) {
+        if (name == "." || name == "..") {
+            continue;
+        }
+        if (const auto section = sectionOf(globals.cases, name)) {
+            lists[*section].push_back(name);
+        }
+        platform.messages.pump();
+    }
+    return lists;
+}
+
+std::string blankText(const SectionLists& lists) {
+    std::string text = std::string(dataFileHeader) + "\r\n";
+    for (std::size_t n = 0; n < sectionCount; ++n) {
+        text.append("[").append(sectionNames[n]).append("]\r\n");
+        for (const std::string& name : lists[n]) {
+            // A comma in a name breaks it into two entries; the scan then reports the whole name as new.
+            for (const std::string& part : split(name, ',')) {
+                text.append(part).append("=NULL*E\r\n");
+            }
+        }
+        text.append("NULL*E\r\n");
+    }
+    return text;
+}
+
+} // namespace
+
+Baseline::Baseline(Globals& globals, Platform& platform, DataFile& dataFile, const Utilities& utilities,
+                   MForm1Screen& mForm1)
+    : globals_(globals)
+    , platform_(platform)
+    , dataFile_(dataFile)
+    , utilities_(utilities)
+    , mForm1_(mForm1) {}
+
+void Baseline::checkIntFile() {
+    if (!platform_.files.open(globals_.app.intFile, OpenMode::Read)) {
+        const std::string backup = backupOf(globals_.app.intFile);
+        if (utilities_.fileThere(backup)) {
+            restoreOrRestart(backup);
+            return;
+        }
+        const Answer answer = platform_.dialogs.message(
+            {.text =
+                 "This is your first time using Tarvelon.  Tarvelon is required to do a system file "
+                 "Integrity scan before proceeding.\r\n"
+                 "If you are sure there are no viruses on your computer, it is safe to scan now. Otherwise, "
+                 "please do a full scan at a later time. The full scan should take no more than five "
+                 "minutes to complete.\r\n\r\n"
+                 "Perform scan now?",
+             .buttons = Buttons::YesNo});
+        if (answer != Answer::Yes) {
+            platform_.dialogs.message(
+                {.text = "You have chosen not to do a full scan at this time.  You need to run the full scan "
+                         "before using the Integrity Checker."});
+            return;
+        }
+        buildPrimary();
+    }
+    mForm1_.Caption = "Welcome to Tarvelon";
+}
+
+void Baseline::restoreOrRestart(const std::string& backup) {
+    const Answer answer = platform_.dialogs.message(
+        {.text = "Your Integrity.dat file cannot be found! But the backup file was located!\r\n"
+                 "Would you like to restore the backup?",
+         .title = "Missing Integrity.dat file",
+         .buttons = Buttons::YesNo});
+    if (answer == Answer::Yes) {
+        if (!platform_.files.copy(backup, globals_.app.intFile)) {
+            throw Failure("The backup cannot be restored to:\r\n" + globals_.app.intFile);
+        }
+        return;
+    }
+    restartWithoutBackup(globals_, platform_, backup);
+}
+
+void Baseline::buildPrimary() {
+    globals_.baselines.primaryBuild = true;
+    const std::string& path = globals_.app.intFile;
+    if (!writeWholeFile(platform_.files, path, {})) {
+        throw Failure("The data file cannot be made:\r\n" + path);
+    }
+    mForm1_.Caption = "Building Integrity File...";
+    platform_.messages.pump();
+    const SectionLists lists = walk(globals_, platform_, trim(utilities_.getSysDir()));
+    mForm1_.Caption = "Saving...";
+    platform_.messages.pump();
+    if (!writeWholeFile(platform_.files, path, blankText(lists))) {
+        throw Failure("The data file cannot be written:\r\n" + path);
+    }
+    mForm1_.hide();
+    globals_.baselines.primaryScan = true;
+    hooks.showScan();
+    hooks.loadUp();
+}
+
+bool Baseline::buildCustomDat(std::string folder, const std::string& datFile, const std::string&) {
+    if (!globals_.app.autoLoadRun) {
+        const Answer answer = platform_.dialogs.message(
+            {.text = "This Custom Folder " + folder +
+                     " has not been fully scanned yet. The scan is required by the Integrity Checker.\r\n\r\n"
+                     "Perform scan now?",
+             .buttons = Buttons::YesNo});
+        if (answer != Answer::Yes) {
+            platform_.dialogs.message(
+                {.text = "You have chosen not to scan this Custom Folder.  You need to run the scan before "
+                         "using this Custom Folder Integrity Checker."});
+            return false;
+        }
+    }
+    if (!writeWholeFile(platform_.files, datFile, {})) {
+        throw Failure("The data file cannot be made:\r\n" + datFile);
+    }
+    folder = withBackslash(std::move(folder));
+    if (!writeWholeFile(platform_.files, datFile, blankText(walk(globals_, platform_, folder)))) {
+        throw Failure("The data file cannot be written:\r\n" + datFile);
+    }
+    if (globals_.app.autoLoadRun) {
+        return true;
+    }
+
+    ScanRun& scan = globals_.scan;
+    scan.pageScan = true;
+    scan.noAutoAction = true;
+    hooks.leaveScan();
+    dataFile_.loadCustomDat(datFile);
+    scan.want(true);
+    scan.customIndex = static_cast<std::int16_t>(mForm1_.Combo1.listIndex());
+    scan.customFirstScan = true;
+    scan.pageScan = true;
+    scan.customFolder = folder;
+    hooks.loadUp();
+    return true;
+}
+
+} // namespace tarvelon

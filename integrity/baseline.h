@@ -1,0 +1,50 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+namespace tarvelon {
+
+struct Globals;
+struct Platform;
+struct MForm1Screen;
+class DataFile;
+class Utilities;
+
+/// How the baseline build reaches the scan window, which stands above it.
+struct BaselineHooks {
+    std::function<void()> showScan;  ///< Makes the scan window visible.
+    std::function<void()> leaveScan; ///< Its leave action, which clears an earlier scan.
+    std::function<void()> loadUp;    ///< Plans a scan and starts it.
+};
+
+/// Makes sure that baselines exist: lists a folder into a data file without checksums, and starts the scan
+/// that fills them in.
+class Baseline {
+public:
+    Baseline(Globals& globals, Platform& platform, DataFile& dataFile, const Utilities& utilities,
+             MForm1Screen& mForm1);
+
+    BaselineHooks hooks;
+
+    /// Sees to the system baseline: restores the backup, or on the user's word lists the system directory and
+    /// starts the primary full scan. Throws `Failure` when a file cannot be made or restored.
+    void checkIntFile();
+
+    /// Does the same for a custom folder; `number` is its slot. False when the user refuses the scan; no file
+    /// has been made then. In a run without questions the file stays blank and no scan is started here.
+    bool buildCustomDat(std::string folder, const std::string& datFile, const std::string& number);
+
+private:
+    void restoreOrRestart(const std::string& backup);
+    void buildPrimary();
+    void writeBlank(const std::string& folder, const std::string& path);
+
+    Globals& globals_;
+    Platform& platform_;
+    DataFile& dataFile_;
+    const Utilities& utilities_;
+    MForm1Screen& mForm1_;
+};
+
+} // namespace tarvelon

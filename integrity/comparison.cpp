@@ -1,0 +1,196 @@
+#include "integrity/comparison.h"
+
+#include "core/failure.h"
+#include "core/globals.h"
+#include "core/settings_file.h"
+#include "core/utilities.h"
+#include "hash/checksum.h"
+#include "hash/do_events.h"
+#include "integrity/data_file.h"
+#include "integrity/intcheck_screen.h"
+#include "platform/files.h"
+#include "platform/messages.h"
+#include "platform/platform.h"
+#include "shutdown/sprog_screen.h"
+
+#include <cmath>
+#include <cstdint>
+#include <optional>
+
+namespace tarvelon {
+
+namespace {
+
+/// Rounded to the nearest whole number, halves to the even one; empty when that has more than 16 bits.
+std::optional<std::int16_t> toInt16(double value) {
+    const double rounded = std::nearbyint(value);
+    if (!(rounded >= -32768.0 && rounded <= 32767.0)) {
+        return std::nullopt;
+    }
+    return static_cast<std::int16_t>(rounded);
+}
+
+} // namespace
+
+/// What a pass keeps while it runs.
+struct Comparison::Pass {
+    PassArguments arguments;
+    std::string folder;
+    PassLabels* labels = nullptr;
+    std::int16_t passTotal = 0; ///< Stays 0 when the planned count is no number or too large.
+    std::int32_t done = 0;      ///< Files done in all passes.
+    double grand = 0;
+    std::int16_t scanPercent = 0;
+    std::int16_t passPercent = 0;
+    clsDoEvents pump;
+};
+
+Comparison::Comparison(IntCheckScreen& screen, SProgScreen& sProg, Globals& globals, Platform& platform,
+                       SettingsFile& settings, Checksum& checksum, DataFile& dataFile,
+                       const Utilities& utilities)
+    : screen_(screen)
+    , sProg_(sProg)
+    , globals_(globals)
+    , platform_(platform)
+    , settings_(settings)
+    , checksum_(checksum)
+    , dataFile_(dataFile)
+    , utilities_(utilities) {}
+
+void Comparison::comparePass(const PassArguments& arguments) {
+    ScanRun& scan = globals_.scan;
+    scan.passDone = 0;
+    Pass pass{.arguments = arguments, .pump = clsDoEvents(platform_.messages)};
+    pass.pump.QueueUsed(userInput);
+    if (scan.passType >= 1 && scan.passType <= 6) {
+        pass.labels = &screen_.passes[static_cast<std::size_t>(scan.passType - 1)];
+    }
+    pass.passTotal = toInt16(toNumber(screen_.pb1max.Caption()).value_or(0)).value_or(0);
+    pass.done = toNumber(screen_.pbm.Caption()).value_or(0);
+    pass.grand = toNumber(screen_.pb2max.Caption()).value_or(0);
+    if (scan.customFolder.empty()) {
+        pass.folder = trim(utilities_.getSysDir());
+    } else {
+        pass.folder = withBackslash(scan.customFolder);
+        pass.arguments.dataFile = checksum_.getCustomDat(scan.customIndex);
+    }
+
+    for (std::string name = platform_.files.firstName(pass.folder); !name.empty();) {
+        pass.pump.GetInputState();
+        if (name != "." && name != ".." && compareFile(pass, name) == Outcome::Cancelled) {
+            return;
+        }
+        name = platform_.files.nextName();
+        while (scan.scanPaused) {
+            platform_.messages.wait();
+            platform_.messages.pump();
+        }
+    }
+    if (!inShutDown()) {
+        screen_.pbm.Caption = std::to_string(pass.done);
+        if (pass.labels) {
+            pass.labels->percent.Caption = "100%";
+        }
+    }
+}
+
+Comparison::Outcome Comparison::compareFile(Pass& pass, const std::string& name) {
+    ScanRun& scan = globals_.scan;
+    const std::string tail = globals_.cases.upper(lastCharacters(name, 4));
+    if (tail != pass.arguments.ext1 && tail != pass.arguments.ext2) {
+        return Outcome::Done;
+    }
+    if (!inShutDown() && pass.labels) {
+        pass.labels->file.Caption = name;
+    }
+    const std::string checksum = checksum_.getChecksum(pass.folder + name);
+    pass.pump.GetInputState();
+    if (scan.scanCancelled) {
+        return Outcome::Cancelled;
+    }
+
+    const std::string section = globals_.cases.upper(lastCharacters(name, 3));
+    const std::string stored = pass.arguments.dataFile.empty() ? dataFile_.getEntry(name, section)
+                                                               : dataFile_.getCustomEntry(name, section);
+    if (stored.empty() || stored == "NULL") {
+        noteNew(pass, name, section, checksum);
+    } else {
+        if (scan.scanCancelled) {
+            return Outcome::Cancelled;
+        }
+        if (shiftText("ABC", checksum) != stored) {
+            noteFailed(pass, name, checksum);
+        }
+    }
+    ++pass.done;
+    ++scan.passDone;
+    showProgress(pass);
+    pass.pump.GetInputState();
+    return Outcome::Done;
+}
+
+void Comparison::noteNew(Pass& pass, const std::string& name, const std::string& section,
+                         const std::string& checksum) {
+    ++globals_.scan.newCount;
+    if (!globals_.baselines.primaryScan) {
+        list(pass, name, " *NEW*", shiftText("ABC", checksum));
+        return;
+    }
+    const std::string& dataFile = pass.arguments.dataFile;
+    passOver([&] {
+        settings_.writeEntry(dataFile.empty() ? globals_.app.intFile : dataFile, name, checksum + "*E",
+                             section);
+    });
+}
+
+void Comparison::noteFailed(Pass& pass, const std::string& name, const std::string& checksum) {
+    ++globals_.scan.failCount;
+    if (!globals_.baselines.primaryScan) {
+        list(pass, name, "", shiftText("ABC", checksum));
+    }
+}
+
+/// Puts a finding on the screen and among those to be accepted later.
+void Comparison::list(const Pass& pass, const std::string& name, const std::string& mark,
+                      const std::string& value) {
+    ScanRun& scan = globals_.scan;
+    const std::string path = pass.folder + name;
+    screen_.List1.add(path + mark);
+    if (scan.customFolder.empty()) {
+        scan.failList.append(path).append(" ").append(value).append(",");
+    } else {
+        const std::string slot = "(" + std::to_string(scan.customIndex) + ")";
+        scan.customFailList.append(path).append(slot).append(" ").append(value).append(",");
+    }
+}
+
+void Comparison::showProgress(Pass& pass) {
+    const ScanRun& scan = globals_.scan;
+    if (const auto percent = toInt16(pass.done / pass.grand * 100)) {
+        pass.scanPercent = *percent;
+    }
+    // The last pass is planned without a count: its percentage stays at 0 until it ends.
+    if (pass.passTotal != 0) {
+        if (const auto percent = toInt16(static_cast<double>(scan.passDone) / pass.passTotal * 100)) {
+            pass.passPercent = *percent;
+        }
+    }
+    if (inShutDown()) {
+        sProg_.ProgressBar1.setValue(pass.passPercent);
+        return;
+    }
+    screen_.Caption = std::to_string(pass.scanPercent) + "% AutoCheck";
+    if (pass.labels) {
+        pass.labels->percent.Caption = std::to_string(pass.passPercent) + "%";
+    }
+    screen_.Label6.Caption = std::to_string(pass.done);
+    screen_.Label9.Caption = std::to_string(scan.failCount);
+    screen_.Label8.Caption = std::to_string(scan.newCount);
+    screen_.Label7.Caption = std::to_string(pass.done - scan.failCount - scan.newCount);
+}
+
+bool Comparison::inShutDown() const {
+    return globals_.app.shutAction != -1;
+}
+
+} // namespace tarvelon

@@ -1,0 +1,122 @@
+#include "integrity/data_file.h"
+
+#include "core/failure.h"
+#include "core/file_text.h"
+#include "core/settings_file.h"
+#include "core/utilities.h"
+#include "platform/dialogs.h"
+#include "platform/files.h"
+#include "platform/messages.h"
+#include "platform/platform.h"
+
+namespace tarvelon {
+
+namespace {
+
+void demand(bool done, const char* what, const std::string& path) {
+    if (!done) {
+        throw Failure(what + ("\r\n" + path));
+    }
+}
+
+} // namespace
+
+DataFile::DataFile(Globals& globals, Platform& platform, SettingsFile& settings, const Utilities& utilities)
+    : globals_(globals)
+    , platform_(platform)
+    , settings_(settings)
+    , utilities_(utilities) {}
+
+void DataFile::loadIntFile(const std::string& path) {
+    load(path, globals_.baselines.sectionText, globals_.baselines.sectionName);
+}
+
+void DataFile::loadCustomDat(const std::string& path) {
+    const std::string backup = backupOf(path);
+    if (!utilities_.fileThere(path) && utilities_.fileThere(backup)) {
+        const Answer answer =
+            platform_.dialogs.message({.text = "The data file is missing! Would you like to use the backup?",
+                                       .title = ".Dat file Missing!",
+                                       .buttons = Buttons::YesNo});
+        if (answer == Answer::Yes) {
+            demand(platform_.files.copy(backup, path), "The backup cannot be copied to:", path);
+        }
+    }
+    if (!utilities_.fileThere(path)) {
+        // The number is all that stands between "Data\" and the first ".", so a name with an algorithm in it
+        // ("7-md5") is no slot of the settings, and the folder comes out empty.
+        const std::string number = getBetween(globals_.cases, path, 1, "Data\\", ".");
+        const std::string folder = settings_.readIni(globals_.app.settFile, "path", number);
+        if (buildCustomDat) {
+            buildCustomDat(folder, path, number);
+        }
+    }
+    load(path, globals_.baselines.customText, globals_.baselines.customName);
+}
+
+void DataFile::load(const std::string& path, Blocks& blocks, Names& names) {
+    auto file = platform_.files.open(path, OpenMode::ReadOrCreate);
+    if (!file) {
+        file = platform_.files.open(path, OpenMode::Read);
+    }
+    const auto text = file ? readAll(*file) : std::nullopt;
+    file.reset();
+    if (!text) {
+        throw Failure("The data file cannot be read:\r\n" + path);
+    }
+    for (std::size_t n = 0; n < sectionCount; ++n) {
+        blocks[n].setText({});
+        names[n].clear();
+    }
+
+    // Each section reaches from its "[" to the next "[" that begins a line.
+    std::size_t begin = text->find('[');
+    std::size_t found = 0;
+    while (found < sectionCount && begin != std::string::npos) {
+        const std::size_t next = text->find("\r\n[", begin + 1);
+        const std::size_t end = next == std::string::npos ? text->size() : next + lineEnd.size();
+        blocks[found++].setText(text->substr(begin, end - begin));
+        begin = next == std::string::npos ? next : end;
+        if (begin != std::string::npos) {
+            platform_.messages.pump();
+        }
+    }
+    for (std::size_t n = 0; n < found; ++n) {
+        const std::string& block = blocks[n].text();
+        const std::size_t close = block.find(']');
+        names[n] = close == std::string::npos ? std::string() : block.substr(1, close - 1);
+    }
+}
+
+std::string DataFile::getEntry(const std::string& key, const std::string& section) const {
+    return entry(globals_.baselines.sectionText, settings_.findSection(section), key);
+}
+
+std::string DataFile::getCustomEntry(const std::string& key, const std::string& section) const {
+    return entry(globals_.baselines.customText, settings_.findCustomSection(section), key);
+}
+
+std::string DataFile::entry(const Blocks& blocks, std::optional<std::size_t> number,
+                            const std::string& key) const {
+    if (!number) {
+        return {};
+    }
+    const std::string value = trim(blocks[*number - 1].find(globals_.cases, key));
+    platform_.messages.pump();
+    return value;
+}
+
+void DataFile::saveIntFile() {
+    const std::string& path = globals_.app.intFile;
+    Files& files = platform_.files;
+    demand(files.copy(path, globals_.app.appPath + "Data\\integrity.bak"),
+           "The data file cannot be backed up:", path);
+    demand(files.remove(path), "The data file cannot be replaced:", path);
+    std::string text = dataFileHeader;
+    for (const EntryBlock& block : globals_.baselines.sectionText) {
+        text += block.text();
+    }
+    demand(writeWholeFile(files, path, text), "The data file cannot be written:", path);
+}
+
+} // namespace tarvelon

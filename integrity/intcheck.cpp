@@ -1,0 +1,440 @@
+#include "integrity/intcheck.h"
+
+#include "core/failure.h"
+#include "core/globals.h"
+#include "core/settings_file.h"
+#include "core/utilities.h"
+#include "hash/checksum.h"
+#include "integrity/baseline.h"
+#include "integrity/data_file.h"
+#include "integrity/intcheck_screen.h"
+#include "platform/dialogs.h"
+#include "platform/files.h"
+#include "platform/messages.h"
+#include "platform/platform.h"
+#include "platform/processes.h"
+
+#include <array>
+
+namespace tarvelon {
+
+namespace {
+
+constexpr int folderSlots = 20;
+
+/// What each wanted pass adds to the list of extensions.
+constexpr std::array<const char*, 6> passExtensions = {".dll", ".drv",     ".sys.386",
+                                                       ".ocx", ".exe.com", ".pif.scr"};
+
+constexpr std::array<const char*, 7> passTitles = {"DLL Scan",          "Driver Scan",
+                                                   "System Files Scan", "OCX Scan",
+                                                   "Executable Scan",   "Commonly Exploited Executable Scan",
+                                                   "Custom Folder"};
+
+struct PassRow {
+    const char* ext1;
+    const char* ext2; ///< "..." equals no four characters of a name.
+    const char* notWanted;
+};
+
+constexpr std::array<PassRow, 6> passRows{
+    {{".DLL", "...", "DLL Scan --- Not Scanning"},
+     {".DRV", "...", "Driver Scan --- Not Scanning"},
+     {".SYS", ".386", "System Files --- Not Scanning"},
+     {".OCX", "...", "OCX Scan --- Not Scanning"},
+     {".EXE", ".COM", "Executable Scan --- Not Scanning"},
+     {".PIF", ".SCR", "Commonly Exploited Executables --- Not Scanning"}}};
+
+constexpr const char* closeWindowCaption = "Close Integrity Check Window";
+
+} // namespace
+
+IntCheck::IntCheck(IntCheckScreen& screen, const IntCheckParts& parts)
+    : screen_(screen)
+    , parts_(parts)
+    , globals_(parts.globals)
+    , platform_(parts.platform) {
+    bind();
+}
+
+void IntCheck::bind() {
+    screen_.onLoad = [this] {
+        readScanners();
+        readScanner("AV2", screen_.textav1, screen_.textav2);
+    };
+    screen_.onQueryClose = [this] { return queryClose(); };
+    screen_.Timer1.onTick = [this] { Timer1_Tick(); };
+    screen_.Image9.onClick = [this] { setPaused(!globals_.scan.scanPaused); };
+    screen_.Label11.onClick = screen_.Image9.onClick;
+    screen_.Image11.onClick = [this] { Command1_Click(); };
+    screen_.Command1.onClick = screen_.Image11.onClick;
+    screen_.Label2.onClick = [this] { Label2_Click(); };
+    screen_.Label12.onClick = [this] {
+        if (hooks.resultAction) {
+            hooks.resultAction();
+        }
+    };
+}
+
+// ---- The plan
+
+/// How far the planning has come.
+struct IntCheck::Plan {
+    int slot = 0; ///< The custom folder slot looked at last.
+    std::int32_t grandTotal = 0;
+};
+
+void IntCheck::LoadUp() {
+    screen_.load();
+    parts_.baseline.checkIntFile();
+    resetCaptions();
+    setPaused(false);
+    screen_.Frame1.Visible = true;
+    screen_.Frame2.Visible = false;
+    screen_.Frame3.Visible = false;
+    platform_.messages.pump();
+    screen_.Label14.Visible = false;
+    resetRun();
+    wantTypesOfRun();
+
+    Plan plan;
+    bool another = true;
+    while (another) {
+        countFolder(plan);
+        if (globals_.baselines.primaryBuild) {
+            break;
+        }
+        const bool foldersJoin = inShutDown() || !globals_.app.cmdLine.empty();
+        another = foldersJoin && joinNextFolder(plan);
+        if (foldersJoin && !another) {
+            // The joining folders have used the flags; they go back to what the system passes want.
+            globals_.scan.want(false);
+            passOver([this] { wantFromWithAutoScan(savedTypes()); });
+        }
+    }
+    screen_.pb2max.Caption = std::to_string(plan.grandTotal == 0 ? 1 : plan.grandTotal);
+    screen_.Timer1.Enabled = true;
+}
+
+void IntCheck::resetRun() {
+    ScanRun& scan = globals_.scan;
+    scan.failList.clear();
+    scan.customFailList.clear();
+    scan.customQueue.clear();
+    extList.clear();
+    cntDLL = cntDRV = cntSYS = cntOCX = cntEXE = cntPIF = 0;
+    for (std::size_t i = 0; i < screen_.passes.size(); ++i) {
+        screen_.passes[i].title.Caption = passTitles[i];
+        screen_.passes[i].file.Caption = "";
+        screen_.passes[i].percent.Caption = "0%";
+    }
+    scan.passDone = scan.failCount = scan.newCount = 0;
+}
+
+void IntCheck::wantTypesOfRun() {
+    if (globals_.scan.pageScan) {
+        screen_.show();
+    } else if (globals_.baselines.primaryScan) {
+        globals_.scan.want(true);
+    } else {
+        // Flags that are already set stay set; a list only adds to them.
+        wantFromWithAutoScan(!inShutDown() && globals_.app.schedRun ? "1,1,1,1,1,1,1" : savedTypes());
+    }
+}
+
+std::string IntCheck::savedTypes() const {
+    return parts_.settings.getSetting(inShutDown() ? "GETSETT2" : "GETSETT");
+}
+
+/// Sets the flags of the passes whose position is "1".
+void IntCheck::wantFrom(const std::string& list) {
+    const std::vector<std::string> positions = split(list, ',');
+    const auto flags = globals_.scan.wanted();
+    for (std::size_t i = 0; i < flags.size() && i < positions.size(); ++i) {
+        *flags[i] = *flags[i] || positions[i] == "1";
+    }
+}
+
+void IntCheck::wantFromWithAutoScan(const std::string& list) {
+    wantFrom(list);
+    const std::vector<std::string> positions = split(list, ',');
+    if (positions.size() > 6 && positions[6] == "1") {
+        globals_.settings.autoScanFailed = true;
+    }
+}
+
+/// Counts the current folder's files of the wanted types.
+void IntCheck::countFolder(Plan& plan) {
+    extList.clear();
+    const auto flags = globals_.scan.wanted();
+    for (std::size_t i = 0; i < flags.size(); ++i) {
+        extList += *flags[i] ? passExtensions[i] : "";
+    }
+    passOver([this] { readScanners(); });
+    const std::string& custom = globals_.scan.customFolder;
+    const std::string folder = withBackslash(custom.empty() ? trim(parts_.utilities.getSysDir()) : custom);
+
+    const CaseRules& cases = globals_.cases;
+    const std::string wanted = cases.upper(extList);
+    Files& files = platform_.files;
+    for (std::string name = files.firstName(folder); !name.empty(); name = files.nextName()) {
+        const std::string tail = cases.upper(lastCharacters(name, 4));
+        if (name == "." || name == ".." || wanted.find(tail) == std::string::npos) {
+            continue;
+        }
+        cntDLL += tail == ".DLL";
+        cntDRV += tail == ".DRV";
+        cntSYS += tail == ".SYS" || tail == ".386";
+        cntOCX += tail == ".OCX";
+        cntEXE += tail == ".EXE" || tail == ".COM";
+        cntPIF += tail == ".PIF"; // ".SCR" counts towards the total only.
+        ++plan.grandTotal;
+    }
+}
+
+/// Makes the next custom folder that takes part the current one, with its own types. False when there is no
+/// further one; the system directory is then current again.
+bool IntCheck::joinNextFolder(Plan& plan) {
+    ScanRun& scan = globals_.scan;
+    SettingsFile& settings = parts_.settings;
+    const std::string& file = globals_.app.settFile;
+    for (;;) {
+        ++plan.slot;
+        const std::string list = settings.readIni(file, inShutDown() ? "args2" : "args", plan.slot);
+        if (lastCharacters(list, 1) == "1") {
+            scan.customQueue += std::to_string(plan.slot) + ",";
+            scan.want(false);
+            wantFrom(list);
+            scan.customFolder = settings.readIni(file, "path", plan.slot);
+            return true;
+        }
+        if (plan.slot > folderSlots) {
+            scan.customFolder.clear();
+            return false;
+        }
+    }
+}
+
+// ---- The passes
+
+void IntCheck::Timer1_Tick() {
+    screen_.Timer1.Enabled = false;
+    globals_.scan.scanCancelled = false;
+    screen_.pb1max.Caption = "0";
+    screen_.pbm.Caption = "0";
+    int turn = 0;
+    std::size_t folders = 0;
+    do {
+        resetCaptions();
+        runPasses();
+    } while (takeNextCustomFolder(turn, folders));
+    finish();
+}
+
+void IntCheck::runPasses() {
+    const std::array<const std::int32_t*, 6> counts{&cntDLL, &cntDRV, &cntSYS, &cntOCX, &cntEXE, nullptr};
+    for (std::size_t i = 0; i < passRows.size(); ++i) {
+        const PassLabels& labels = screen_.passes[i];
+        if (!*globals_.scan.wanted()[i]) {
+            labels.title.Caption = passRows[i].notWanted;
+            continue;
+        }
+        globals_.scan.passType = static_cast<std::int16_t>(i + 1);
+        for (Label* label : {&labels.title, &labels.file, &labels.percent}) {
+            label->ForeColor = colors::scanGrey;
+        }
+        // The last pass has no count, so its percentage stands still until it ends.
+        screen_.pb1max.Caption = counts[i] ? std::to_string(*counts[i]) : std::string();
+        IntegrityChecker2(passRows[i].ext1, passRows[i].ext2);
+    }
+}
+
+void IntCheck::IntegrityChecker2(const std::string& ext1, const std::string& ext2,
+                                 const std::string& dataFile) {
+    parts_.comparison.comparePass({ext1, ext2, dataFile});
+}
+
+/// Takes the first folder off the queue and makes it the current one; false when the queue is empty. `turn`
+/// is its number in this scan, and `folders` how many there were at the first.
+bool IntCheck::takeNextCustomFolder(int& turn, std::size_t& folders) {
+    ScanRun& scan = globals_.scan;
+    if (scan.customQueue.empty()) {
+        return false;
+    }
+    const std::vector<std::string> queue = split(scan.customQueue, ',');
+    if (turn == 0) {
+        folders = queue.size() - 1;
+    }
+    ++turn;
+    const std::string& slot = queue.front();
+    SettingsFile& settings = parts_.settings;
+    const std::string& file = globals_.app.settFile;
+    scan.customFolder = settings.readIni(file, "path", slot);
+    screen_.l_cust2.Caption = "Custom Folder " + std::to_string(turn) + "/" + std::to_string(folders);
+    platform_.messages.pump();
+
+    // The types are those of "args" in a shut-down as well, although "args2" chose the folder.
+    const std::string types = settings.readIni(file, "args", slot);
+    scan.want(false);
+    wantFrom(types);
+    scan.customIndex = static_cast<std::int16_t>(toNumber(slot).value_or(0));
+    scan.customQueue.erase(0, slot.size() + 1);
+    passOver([&] { parts_.dataFile.loadCustomDat(parts_.checksum.getCustomDat(scan.customIndex)); });
+    platform_.messages.pump();
+    return true;
+}
+
+void IntCheck::finish() {
+    Baselines& baselines = globals_.baselines;
+    ScanRun& scan = globals_.scan;
+    if (baselines.primaryScan) {
+        baselines.primaryScan = false;
+        passOver([this] { parts_.dataFile.loadIntFile(globals_.app.intFile); });
+        screen_.hide();
+        hooks.showMainWindow();
+    }
+    const auto resultAction = [this] {
+        if (hooks.resultAction) {
+            passOver(hooks.resultAction);
+        }
+    };
+    if (!scan.noAutoAction && (inShutDown() || globals_.settings.autoScanFailed)) {
+        resultAction();
+    }
+    if (!scan.scanCancelled && screen_.Label6.Caption() == screen_.Label7.Caption()) {
+        screen_.Label14.Visible = true;
+        if (!inShutDown() && globals_.app.autoLoadRun) {
+            platform_.processes.end();
+        }
+    }
+    if (screen_.Label14.Visible()) {
+        screen_.Label2.Caption = closeWindowCaption;
+    }
+    if (scan.customFirstScan) {
+        resultAction();
+    }
+    showOutcome();
+    if (inShutDown() && hooks.preShut2) {
+        passOver(hooks.preShut2);
+    }
+    platform_.messages.pump();
+}
+
+void IntCheck::showOutcome() {
+    const bool cancelled = globals_.scan.scanCancelled;
+    screen_.Frame1.Visible = cancelled;
+    screen_.Frame2.Visible = !cancelled;
+    screen_.Frame3.Visible = false;
+    if (!cancelled) {
+        screen_.Label13.Caption = "Results";
+        // A run at log-on scans minimised; what it found is to be seen.
+        screen_.Minimized = false;
+    }
+}
+
+// ---- The screen
+
+void IntCheck::readScanners() {
+    readScanner("ANTIVIRUS", screen_.Text1, screen_.Text2);
+}
+
+/// A setting without a "|" leaves the fields as they are.
+void IntCheck::readScanner(const char* request, Control& exe, Control& args) {
+    if (const auto scanner = splitExeAndArgs(parts_.settings.getSetting(request))) {
+        exe.Caption = scanner->exe;
+        args.Caption = scanner->args;
+    }
+}
+
+void IntCheck::resetCaptions() {
+    for (const PassLabels& labels : screen_.passes) {
+        for (Label* label : {&labels.title, &labels.file, &labels.percent}) {
+            label->ForeColor = colors::black;
+        }
+    }
+    screen_.Label12.Caption = "Scan Failing Files...";
+    screen_.Label2.Caption = "Repair and Update Failed Files...";
+    screen_.Label13.Caption = "Scanning...Please Wait";
+    platform_.messages.pump();
+}
+
+void IntCheck::setPaused(bool paused) {
+    globals_.scan.scanPaused = paused;
+    screen_.Label11.Visible = paused;
+}
+
+void IntCheck::Label2_Click() {
+    if (screen_.Label2.Caption() == closeWindowCaption) {
+        Command1_Click();
+        return;
+    }
+    screen_.Frame1.Visible = false;
+    screen_.Frame2.Visible = false;
+    screen_.Frame3.Visible = true;
+    screen_.Label13.Caption = "Failed Files List";
+}
+
+void IntCheck::Command1_Click() {
+    ScanRun& scan = globals_.scan;
+    screen_.load();
+    scan.customQueue.clear();
+    setPaused(false);
+    parts_.baseline.checkIntFile();
+    if (!confirmLeave()) {
+        return;
+    }
+    scan.scanCancelled = true;
+    screen_.Timer1.Enabled = false;
+    if (scan.customFolder.empty()) {
+        parts_.dataFile.loadIntFile(globals_.app.intFile);
+    }
+    screen_.hide();
+}
+
+/// The window's close box: the same leave, but the queue stays, nothing is checked, and the system baseline
+/// is loaded anew whatever folder was in hand.
+bool IntCheck::queryClose() {
+    setPaused(false);
+    if (!confirmLeave()) {
+        return false;
+    }
+    globals_.scan.scanCancelled = true;
+    screen_.Timer1.Enabled = false;
+    screen_.hide();
+    parts_.dataFile.loadIntFile(globals_.app.intFile);
+    return true;
+}
+
+/// True when a scan of the main window may be left. Any other scan ends the program instead.
+bool IntCheck::confirmLeave() {
+    if (screen_.List1.count() > 0) {
+        const Answer answer = platform_.dialogs.message(
+            {.text = "Some files failed the integrity check!  Are you sure you want to exit?",
+             .title = "Warning",
+             .buttons = Buttons::YesNo});
+        if (answer != Answer::Yes) {
+            return false;
+        }
+        screen_.List1.clear();
+    }
+    if (globals_.scan.pageScan) {
+        return true;
+    }
+    if (globals_.baselines.primaryScan) {
+        const Answer answer = platform_.dialogs.message(
+            {.text = "If you stop the scan now, you will need to re-start it later\r\n"
+                     "Are you sure you want to abandon the full system scan?",
+             .buttons = Buttons::YesNo});
+        if (answer != Answer::Yes) {
+            return false;
+        }
+        platform_.files.remove(globals_.app.intFile);
+    }
+    platform_.processes.end();
+}
+
+bool IntCheck::inShutDown() const {
+    return globals_.app.shutAction != -1;
+}
+
+} // namespace tarvelon

@@ -1,0 +1,102 @@
+#pragma once
+
+#include "integrity/comparison.h"
+
+#include <cstdint>
+#include <functional>
+#include <string>
+
+namespace tarvelon {
+
+class Control;
+struct Globals;
+struct IntCheckScreen;
+struct Platform;
+class Baseline;
+class Checksum;
+class DataFile;
+class SettingsFile;
+class Utilities;
+
+/// What a scan calls above itself.
+struct IntCheckHooks {
+    std::function<void()> resultAction;   ///< Hands the findings over and accepts them (`Label12`).
+    std::function<void()> preShut2;       ///< A scan inside a shut-down is over.
+    std::function<void()> showMainWindow; ///< The primary full scan is over.
+};
+
+/// What a scan works with.
+struct IntCheckParts {
+    Globals& globals;
+    Platform& platform;
+    SettingsFile& settings;
+    Checksum& checksum;
+    DataFile& dataFile;
+    Baseline& baseline;
+    const Utilities& utilities;
+    Comparison& comparison;
+};
+
+/// The scan window's behaviour: plans a scan, runs its passes folder by folder, shows the results, and
+/// leaves.
+class IntCheck {
+public:
+    IntCheck(IntCheckScreen& screen, const IntCheckParts& parts);
+
+    IntCheckHooks hooks;
+
+    /// Plans the scan by the run's flags and starts it on `Timer1`; returns before it runs. Throws `Failure`
+    /// when the settings cannot be read.
+    void LoadUp();
+
+    /// The leave action: asks what there is to ask, then ends the program or goes back to the main window.
+    void Command1_Click();
+
+    /// Runs one pass over the current folder.
+    void IntegrityChecker2(const std::string& ext1, const std::string& ext2,
+                           const std::string& dataFile = "");
+
+private:
+    struct Plan;
+
+    void bind();
+    void readScanners();
+    void readScanner(const char* request, Control& exe, Control& args);
+    void resetCaptions();
+    void setPaused(bool paused);
+
+    void resetRun();
+    void wantTypesOfRun();
+    void countFolder(Plan& plan);
+    bool joinNextFolder(Plan& plan);
+    std::string savedTypes() const;
+    void wantFrom(const std::string& list);
+    void wantFromWithAutoScan(const std::string& list);
+
+    void Timer1_Tick();
+    void runPasses();
+    bool takeNextCustomFolder(int& turn, std::size_t& folders);
+    void finish();
+    void showOutcome();
+
+    void Label2_Click();
+    bool queryClose();
+    bool confirmLeave();
+    bool inShutDown() const;
+
+    IntCheckScreen& screen_;
+    IntCheckParts parts_;
+    Globals& globals_;
+    Platform& platform_;
+
+    // Files planned for each pass, over all folders of the scan.
+    std::int32_t cntDLL = 0;
+    std::int32_t cntDRV = 0;
+    std::int32_t cntSYS = 0;
+    std::int32_t cntOCX = 0;
+    std::int32_t cntEXE = 0;
+    std::int32_t cntPIF = 0;
+    std::string extList; ///< The wanted extensions of the folder being counted, one behind the other.
+};
+
+} // namespace tarvelon

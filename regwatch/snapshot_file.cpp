@@ -1,0 +1,30 @@
+#include "regwatch/snapshot_file.h"
+
+#include "core/failure.h"
+#include "core/file_text.h"
+#include "core/globals.h"
+#include "platform/files.h"
+#include "platform/platform.h"
+#include "regwatch/locations.h"
+
+namespace tarvelon {
+
+void SnapshotFile::checkRegFile() {
+    const std::string& path = globals_.app.regFile;
+    if (platform_.files.open(path, OpenMode::Read)) {
+        return;
+    }
+    globals_.regWatch.regNew = true;
+    std::string text;
+    for (const char* section : locationSections) {
+        text.append("[").append(section).append("]\r\n\r\n");
+    }
+    if (!writeWholeFile(platform_.files, path, text)) {
+        throw Failure("The registry snapshot cannot be made:\r\n" + path);
+    }
+    if (setReg) {
+        setReg();
+    }
+}
+
+} // namespace tarvelon

@@ -1,0 +1,106 @@
+#include "ui/settings_pages.h"
+
+#include "avshell/s_avir_screen.h"
+#include "core/failure.h"
+#include "core/globals.h"
+#include "core/settings_file.h"
+#include "core/utilities.h"
+#include "ui/mform1_screen.h"
+#include "ui/shortcuts.h"
+
+#include <cstdint>
+#include <limits>
+#include <vector>
+
+namespace tarvelon {
+
+namespace {
+
+/// Ticks the boxes by the positions that the list has; false at one that is no number.
+template<class Boxes>
+bool tick(const Boxes& boxes, const std::string& list) {
+    const std::vector<std::string> positions = split(list, ',');
+    for (std::size_t i = 0; i < boxes.size() && i < positions.size(); ++i) {
+        const auto value = toNumber(positions[i]);
+        if (!value) {
+            return false;
+        }
+        boxes[i]->setValue(*value != 0);
+    }
+    return true;
+}
+
+void fillScanner(const std::string& setting, Control& exe, Control& args) {
+    if (const auto scanner = splitExeAndArgs(setting)) {
+        exe.Caption = scanner->exe;
+        args.Caption = scanner->args;
+    }
+}
+
+} // namespace
+
+SettingsPages::SettingsPages(MForm1Screen& screen, SAvirScreen& scanners, Globals& globals,
+                             Platform& platform, SettingsFile& settings, const Utilities& utilities)
+    : screen_(screen)
+    , scanners_(scanners)
+    , globals_(globals)
+    , platform_(platform)
+    , settings_(settings)
+    , utilities_(utilities) {}
+
+void SettingsPages::loadSettings() {
+    passOver([this] {
+        if (!loadAutoLoad() || !loadAdvanced()) {
+            return;
+        }
+        globals_.settings.autoScanFailed = screen_.Check8.value() == 1;
+        passOver(
+            [this] { fillScanner(settings_.getSetting("ANTIVIRUS"), scanners_.Text5, scanners_.Text6); });
+        passOver([this] { fillScanner(settings_.getSetting("AV2"), scanners_.Text1, scanners_.Text2); });
+        if (!loadShellOptions()) {
+            return;
+        }
+        globals_.settings.algoName = settings_.getSetting("ALGO");
+    });
+}
+
+bool SettingsPages::loadAutoLoad() {
+    screen_.Check1.setValue(utilities_.fileThere(autoLoadShortcut(platform_)));
+    return tick(screen_.autoLoadChecks, settings_.getSetting("GETSETT")) &&
+           tick(screen_.shutDownChecks, settings_.getSetting("GETSETT2"));
+}
+
+bool SettingsPages::loadAdvanced() {
+    const std::vector<std::string> positions = split(settings_.getSetting("ADV"), ',');
+    Settings& values = globals_.settings;
+    for (std::size_t i = 0; i < 3 && i < positions.size(); ++i) {
+        const auto number = toNumber(positions[i]);
+        const bool fits = number && (i < 2 || (*number >= std::numeric_limits<std::int16_t>::min() &&
+                                               *number <= std::numeric_limits<std::int16_t>::max()));
+        if (!fits) {
+            return false;
+        }
+        switch (i) {
+        case 0:
+            values.readBuffer = *number;
+            break;
+        case 1:
+            values.passCount = *number;
+            break;
+        default:
+            values.useWsh = static_cast<std::int16_t>(*number);
+        }
+    }
+    return true;
+}
+
+bool SettingsPages::loadShellOptions() {
+    if (!tick(screen_.shellChecks, settings_.getSetting("ANTIVIRUS2"))) {
+        return false;
+    }
+    globals_.settings.quoteChar = screen_.Check10.value() != 0 ? "\"" : "";
+    globals_.settings.shortPaths = screen_.Check11.value() != 0;
+    return true;
+}
+
+} // namespace tarvelon
