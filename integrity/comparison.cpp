@@ -35,7 +35,7 @@ std::optional<std::int16_t> toInt16(double value) {
 /// What a pass keeps while it runs.
 struct Comparison::Pass {
     PassArguments arguments;
-    std::string folder;
+    std::string folder{};
     PassLabels* labels = nullptr;
     std::int16_t passTotal = 0; ///< Stays 0 when the planned count is no number or too large.
     std::int32_t done = 0;      ///< Files done in all passes.

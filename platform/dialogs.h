@@ -11,8 +11,8 @@ enum class Answer { Ok, Cancel, Yes, No };
 
 /// A question or a notice. An empty title stands for the application's title.
 struct MessageBox {
-    std::string text;
-    std::string title;
+    std::string text{};
+    std::string title{};
     Buttons buttons = Buttons::Ok;
     Icon icon = Icon::None;
 };

@@ -13,7 +13,10 @@ MForm1::MForm1(MForm1Screen& screen, Platform& platform)
 }
 
 void MForm1::bind() {
-    screen_.onQueryClose = [this]() -> bool { platform_.processes.end(); };
+    screen_.onQueryClose = [this] {
+        platform_.processes.end();
+        return true;
+    };
     screen_.cButton9.onClick = [this] { platform_.processes.end(); };
     screen_.Image5.onClick = [this] { open(screen_.Image5, screen_.intF); };
     screen_.Image7.onClick = [this] { open(screen_.Image7, screen_.regF); };
