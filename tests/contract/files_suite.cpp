@@ -1,0 +1,194 @@
+#include "tests/contract/contract_fixture.h"
+
+#include <chrono>
+
+namespace tarvelon {
+
+namespace {
+
+using testing::ElementsAre;
+
+constexpr OpenMode allModes[] = {OpenMode::Read, OpenMode::ReadWrite, OpenMode::ReadOrCreate,
+                                 OpenMode::Create};
+
+// Longer than a tick of any clock that file times are taken from.
+void letTimePass() {
+    const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(60);
+    while (std::chrono::steady_clock::now() < end) {
+    }
+}
+
+TEST_F(Contract, ListingGivesDotEntriesThenAllNamesInOrder) {
+    ASSERT_TRUE(put(folder + "beta.txt", ""));
+    ASSERT_TRUE(put(folder + "Alpha.dll", ""));
+    ASSERT_TRUE(put(folder + "gamma.sys", ""));
+    ASSERT_TRUE(put(folder + "b_low.txt", ""));
+    ASSERT_TRUE(files.createFolder(folder + "Delta"));
+    workstation->hide(folder + "gamma.sys");
+    EXPECT_THAT(list(folder),
+                ElementsAre(".", "..", "Alpha.dll", "beta.txt", "b_low.txt", "Delta", "gamma.sys"));
+    EXPECT_EQ(files.nextName(), "") << "The listing has ended";
+    EXPECT_THAT(list(folder + "Delta\\"), ElementsAre(".", ".."));
+}
+
+TEST_F(Contract, ThereIsOneListing) {
+    ASSERT_TRUE(files.createFolder(folder + "one"));
+    ASSERT_TRUE(files.createFolder(folder + "two"));
+    ASSERT_TRUE(put(folder + "one\\a", ""));
+    ASSERT_TRUE(put(folder + "two\\b", ""));
+
+    EXPECT_EQ(files.firstName(folder + "one\\"), ".");
+    EXPECT_EQ(files.firstName(folder + "two\\"), ".");
+    EXPECT_EQ(files.nextName(), "..");
+    EXPECT_EQ(files.nextName(), "b");
+
+    EXPECT_EQ(files.firstName(folder + "one\\"), ".");
+    EXPECT_EQ(files.firstName(folder + "missing\\"), "");
+    EXPECT_EQ(files.nextName(), "") << "A listing that fails ends the one before";
+}
+
+TEST_F(Contract, OpenModesMakeAndKeepWhatTheySay) {
+    EXPECT_FALSE(files.open(folder + "missing", OpenMode::Read));
+    EXPECT_FALSE(files.open(folder + "missing", OpenMode::ReadWrite));
+    EXPECT_FALSE(files.length(folder + "missing"));
+    EXPECT_TRUE(files.open(folder + "made", OpenMode::ReadOrCreate));
+    EXPECT_EQ(files.length(folder + "made"), 0u);
+    EXPECT_FALSE(files.open(folder + "no folder\\file", OpenMode::Create));
+
+    ASSERT_TRUE(put(folder + "kept", "content"));
+    EXPECT_TRUE(files.open(folder + "kept", OpenMode::ReadOrCreate));
+    EXPECT_TRUE(files.open(folder + "kept", OpenMode::ReadWrite));
+    EXPECT_EQ(get(folder + "kept"), "content");
+    EXPECT_FALSE(files.open(folder + "kept", OpenMode::Read)->writeAt(0, "x"));
+    EXPECT_TRUE(files.open(folder + "kept", OpenMode::Create));
+    EXPECT_EQ(files.length(folder + "kept"), 0u);
+}
+
+TEST_F(Contract, FoldersDoNotOpenAndHaveNoLength) {
+    ASSERT_TRUE(files.createFolder(folder + "sub"));
+    for (const OpenMode mode : allModes) {
+        EXPECT_FALSE(files.open(folder + "sub", mode));
+        EXPECT_FALSE(files.open(folder + "sub\\", mode));
+    }
+    EXPECT_FALSE(files.length(folder + "sub"));
+    EXPECT_FALSE(files.remove(folder + "sub"));
+    EXPECT_FALSE(files.createFolder(folder + "sub")) << "It exists";
+    EXPECT_FALSE(files.createFolder(folder + "a\\b")) << "No parent";
+}
+
+TEST_F(Contract, PositionsAndLengths) {
+    const auto file = files.open(folder + "f", OpenMode::Create);
+    ASSERT_TRUE(file);
+    EXPECT_TRUE(file->writeAt(0, "0123456789"));
+    char buffer[20] = {};
+    EXPECT_EQ(file->readAt(7, buffer, sizeof buffer), 3u);
+    EXPECT_STREQ(buffer, "789");
+    EXPECT_EQ(file->readAt(10, buffer, 5), 0u);
+    EXPECT_EQ(file->readAt(99, buffer, 5), 0u);
+
+    EXPECT_TRUE(file->writeAt(2, "xx"));
+    EXPECT_TRUE(file->setLength(5));
+    EXPECT_EQ(file->length(), 5u);
+    EXPECT_TRUE(file->writeAt(7, "end"));
+    EXPECT_EQ(get(folder + "f"), std::string("01xx4\0\0end", 10)) << "The gap is zeros";
+    EXPECT_EQ(files.length(folder + "f"), 10u);
+}
+
+TEST_F(Contract, CopyAndRemove) {
+    ASSERT_TRUE(put(folder + "from", "new content"));
+    ASSERT_TRUE(put(folder + "to", "a longer old content"));
+    EXPECT_TRUE(files.copy(folder + "from", folder + "to"));
+    EXPECT_EQ(get(folder + "to"), "new content");
+    EXPECT_EQ(files.open(folder + "to", OpenMode::Read)->lastWrite(),
+              files.open(folder + "from", OpenMode::Read)->lastWrite())
+        << "A copy has its original's time";
+    EXPECT_FALSE(files.copy(folder + "missing", folder + "to"));
+    EXPECT_FALSE(files.copy(folder + "from", folder + "no folder\\to"));
+    EXPECT_FALSE(files.copy(folder + "from", folder + "FROM")) << "Onto itself";
+    EXPECT_EQ(get(folder + "to"), "new content");
+
+    workstation->makeReadOnly(folder + "to");
+    EXPECT_FALSE(files.copy(folder + "from", folder + "to"));
+    EXPECT_FALSE(files.open(folder + "to", OpenMode::ReadWrite));
+    EXPECT_FALSE(files.open(folder + "to", OpenMode::ReadOrCreate));
+    EXPECT_FALSE(files.open(folder + "to", OpenMode::Create));
+    EXPECT_TRUE(files.open(folder + "to", OpenMode::Read));
+    EXPECT_FALSE(files.remove(folder + "to"));
+
+    EXPECT_TRUE(files.remove(folder + "from"));
+    EXPECT_FALSE(files.remove(folder + "from"));
+    EXPECT_FALSE(files.open(folder + "from", OpenMode::Read));
+}
+
+TEST_F(Contract, LastWriteMovesWithEachWriteAndNoRead) {
+    ASSERT_TRUE(put(folder + "f", "1"));
+    const auto first = files.open(folder + "f", OpenMode::Read)->lastWrite();
+    ASSERT_TRUE(first);
+    letTimePass();
+    EXPECT_EQ(get(folder + "f"), "1");
+    EXPECT_EQ(files.open(folder + "f", OpenMode::ReadWrite)->lastWrite(), first);
+    EXPECT_TRUE(files.open(folder + "f", OpenMode::ReadWrite)->writeAt(0, "2"));
+    EXPECT_GT(files.open(folder + "f", OpenMode::Read)->lastWrite(), first);
+}
+
+TEST_F(Contract, FilesAreSharedUnlessSomeoneLocksThem) {
+    ASSERT_TRUE(put(folder + "f", "shared"));
+    {
+        const auto reader = files.open(folder + "f", OpenMode::Read);
+        const auto writer = files.open(folder + "f", OpenMode::ReadWrite);
+        ASSERT_TRUE(reader && writer);
+        EXPECT_TRUE(writer->writeAt(0, "SH"));
+        EXPECT_EQ(get(folder + "f"), "SHared");
+    }
+    auto lock = workstation->lock(folder + "f");
+    for (const OpenMode mode : allModes) {
+        EXPECT_FALSE(files.open(folder + "F", mode));
+    }
+    EXPECT_EQ(files.length(folder + "f"), 6u) << "Told without opening";
+    EXPECT_FALSE(files.copy(folder + "f", folder + "g"));
+    EXPECT_FALSE(files.remove(folder + "f"));
+    lock.reset();
+    EXPECT_EQ(get(folder + "f"), "SHared");
+}
+
+TEST_F(Contract, PathsCountWithoutRegardToCase) {
+    ASSERT_TRUE(files.createFolder(folder + "Sub"));
+    ASSERT_TRUE(put(folder + "Sub\\Kernel32.dll", "1"));
+    EXPECT_EQ(get(folder + "SUB\\KERNEL32.DLL"), "1");
+    EXPECT_EQ(files.length(folder + "sub\\kernel32.dll"), 1u);
+    EXPECT_TRUE(put(folder + "SUB\\kernel32.DLL", "22"));
+    EXPECT_THAT(list(folder + "sUB\\"), ElementsAre(".", "..", "Kernel32.dll"))
+        << "The same file, its case kept";
+    EXPECT_TRUE(files.copy(folder + "sub\\kernel32.dll", folder + "sub\\Other.bak"));
+    EXPECT_TRUE(files.copy(folder + "sub\\kernel32.dll", folder + "sub\\OTHER.BAK"));
+    EXPECT_TRUE(files.remove(folder + "sub\\KERNEL32.dll"));
+    EXPECT_THAT(list(folder + "Sub\\"), ElementsAre(".", "..", "Other.bak"));
+}
+
+TEST_F(Contract, PathsAreReadAsTheSystemReadsThem) {
+    ASSERT_TRUE(put(folder + "file.txt", "1"));
+    EXPECT_EQ(get(folder + "file.txt" + std::string(5, '\0') + "rest"), "1") << "Cut at the first zero";
+    EXPECT_EQ(get(folder + "\\file.txt"), "1") << "Two backslashes count as one";
+    EXPECT_EQ(get(folder + ".\\x\\..\\file.txt"), "1");
+    EXPECT_EQ(get(folder + "file.txt. "), "1") << "Dots and blanks at the end do not count";
+    EXPECT_FALSE(files.open(folder + "*.txt", OpenMode::Read));
+    EXPECT_FALSE(files.open("", OpenMode::Read));
+    EXPECT_FALSE(files.length(""));
+    EXPECT_FALSE(files.open(folder + std::string(260, 'x'), OpenMode::Create));
+}
+
+TEST_F(Contract, SearchTreeFindsTheNameInAnyDepth) {
+    char buffer[520] = "untouched";
+    EXPECT_FALSE(files.searchTreeForFile(folder, "scan.exe", buffer));
+    ASSERT_TRUE(files.createFolder(folder + "One"));
+    ASSERT_TRUE(files.createFolder(folder + "One\\Two"));
+    ASSERT_TRUE(put(folder + "One\\Two\\Scan.exe", ""));
+    ASSERT_TRUE(files.searchTreeForFile(folder, "sCAN.EXE", buffer));
+    EXPECT_EQ(files.length(buffer), 0u) << buffer;
+    EXPECT_STRCASEEQ(buffer, (folder + "One\\Two\\Scan.exe").c_str());
+    EXPECT_FALSE(files.searchTreeForFile(folder + "missing", "scan.exe", buffer));
+}
+
+} // namespace
+
+} // namespace tarvelon

@@ -1,0 +1,41 @@
+#include "tests/contract/contract_fixture.h"
+
+#include "platform/sim/workstation.h"
+
+#include <algorithm>
+
+namespace tarvelon {
+
+namespace {
+
+class SimContractWorkstation : public ContractWorkstation {
+public:
+    Platform platform() override { return sim_.platform(); }
+    std::string emptyFolder() override {
+        sim_.files.makeFolders(R"(C:\Contract\)");
+        return R"(C:\Contract\)";
+    }
+    void hide(const std::string&) override {} // Listings show hidden files anyway.
+    void makeReadOnly(const std::string& path) override { sim_.files.denyWrites(path); }
+    std::shared_ptr<void> lock(const std::string& path) override {
+        sim_.files.lock(path);
+        return std::shared_ptr<void>(&sim_, [this, path](void*) { sim_.files.unlock(path); });
+    }
+    void removeDefaultKeyContainer() override { sim_.crypto.containers.clear(); }
+    bool hasMade(const std::string&, const std::string& commandLine) override {
+        return std::ranges::any_of(sim_.processes.started(), [&](const StartedProcess& process) {
+            return process.commandLine == commandLine;
+        });
+    }
+
+private:
+    SimWorkstation sim_;
+};
+
+} // namespace
+
+std::unique_ptr<ContractWorkstation> makeContractWorkstation() {
+    return std::make_unique<SimContractWorkstation>();
+}
+
+} // namespace tarvelon

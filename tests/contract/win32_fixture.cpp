@@ -1,0 +1,86 @@
+#include "tests/contract/contract_fixture.h"
+
+#include "platform/win32/win32_platform.h"
+
+#include <windows.h>
+
+#include <wincrypt.h>
+
+namespace tarvelon {
+
+namespace {
+
+void removeTree(const std::string& folder) {
+    WIN32_FIND_DATAA found;
+    const HANDLE listing = FindFirstFileA((folder + "*").c_str(), &found);
+    if (listing == INVALID_HANDLE_VALUE) {
+        return;
+    }
+    do {
+        const std::string name = found.cFileName;
+        const std::string path = folder + name;
+        if (name == "." || name == "..") {
+            continue;
+        }
+        SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_NORMAL);
+        if (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) {
+            removeTree(path + "\\");
+        } else {
+            DeleteFileA(path.c_str());
+        }
+    } while (FindNextFileA(listing, &found));
+    FindClose(listing);
+    RemoveDirectoryA(folder.c_str());
+}
+
+class Win32ContractWorkstation : public ContractWorkstation {
+public:
+    Win32ContractWorkstation() {
+        char temporary[MAX_PATH];
+        GetTempPathA(sizeof temporary, temporary);
+        folder_ =
+            std::string(temporary) + "tarvelon-contract-" + std::to_string(GetCurrentProcessId()) + "\\";
+    }
+    ~Win32ContractWorkstation() override { removeTree(folder_); }
+
+    Platform platform() override { return win32_.platform(); }
+    std::string emptyFolder() override {
+        removeTree(folder_);
+        CreateDirectoryA(folder_.c_str(), nullptr);
+        return folder_;
+    }
+    void hide(const std::string& path) override { SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_HIDDEN); }
+    void makeReadOnly(const std::string& path) override {
+        SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_READONLY);
+    }
+    std::shared_ptr<void> lock(const std::string& path) override {
+        const HANDLE file = CreateFileA(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+        EXPECT_NE(file, INVALID_HANDLE_VALUE) << path;
+        return std::shared_ptr<void>(file, CloseHandle);
+    }
+    void removeDefaultKeyContainer() override {
+        HCRYPTPROV none = 0;
+        CryptAcquireContextA(&none, "", MS_ENHANCED_PROV_A, PROV_RSA_FULL, CRYPT_DELETEKEYSET);
+    }
+    bool hasMade(const std::string& path, const std::string&) override {
+        for (int tries = 0; tries < 100; ++tries) {
+            if (GetFileAttributesA(path.c_str()) != INVALID_FILE_ATTRIBUTES) {
+                return true;
+            }
+            Sleep(100);
+        }
+        return false;
+    }
+
+private:
+    Win32Platform win32_;
+    std::string folder_;
+};
+
+} // namespace
+
+std::unique_ptr<ContractWorkstation> makeContractWorkstation() {
+    return std::make_unique<Win32ContractWorkstation>();
+}
+
+} // namespace tarvelon

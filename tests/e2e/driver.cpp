@@ -1,0 +1,332 @@
+#include "driver.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace e2e {
+
+namespace {
+
+constexpr DWORD pollInterval = 20; // milliseconds
+constexpr DWORD hand = 60;         // milliseconds between the parts of a click
+constexpr UINT answerTime = 5'000; // milliseconds that a busy window may take for one message
+
+std::string classOf(HWND window) {
+    char name[64] = {};
+    GetClassNameA(window, name, sizeof name);
+    return name;
+}
+
+LRESULT send(HWND window, UINT message, WPARAM first, LPARAM second) {
+    DWORD_PTR result = 0;
+    SendMessageTimeoutA(window, message, first, second, SMTO_NORMAL, answerTime, &result);
+    return static_cast<LRESULT>(result);
+}
+
+std::string textOf(HWND window) {
+    char text[4096] = {};
+    send(window, WM_GETTEXT, sizeof text, reinterpret_cast<LPARAM>(text));
+    return text;
+}
+
+/// Wide, since the narrow message comes back unconverted from another process.
+std::string rowText(HWND list, WPARAM row) {
+    wchar_t wide[1024] = {};
+    SendMessageTimeoutW(list, LB_GETTEXT, row, reinterpret_cast<LPARAM>(wide), SMTO_NORMAL, answerTime, nullptr);
+    char text[1024] = {};
+    WideCharToMultiByte(CP_ACP, 0, wide, -1, text, sizeof text, nullptr, nullptr);
+    return text;
+}
+
+/// The texts of buttons mark their access key with "&".
+std::string withoutMarks(std::string text) {
+    text.erase(std::remove(text.begin(), text.end(), '&'), text.end());
+    return text;
+}
+
+std::vector<HWND> visibleChildren(HWND parent) {
+    std::vector<HWND> children;
+    EnumChildWindows(
+        parent,
+        [](HWND child, LPARAM list) {
+            if (IsWindowVisible(child) != 0) {
+                reinterpret_cast<std::vector<HWND>*>(list)->push_back(child);
+            }
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&children));
+    return children;
+}
+
+RECT placeOf(HWND window) {
+    RECT place{};
+    GetWindowRect(window, &place);
+    return place;
+}
+
+void mouse(DWORD event) {
+    INPUT input{};
+    input.type = INPUT_MOUSE;
+    input.mi.dwFlags = event;
+    SendInput(1, &input, sizeof input);
+}
+
+/// A real click, through the system's input queue. The control must lie open under the mouse.
+void clickOn(HWND control) {
+    HWND const window = GetAncestor(control, GA_ROOT);
+    SetForegroundWindow(window);
+    const RECT place = placeOf(control);
+    const POINT centre{(place.left + place.right) / 2, (place.top + place.bottom) / 2};
+    const bool open = comesTrue(
+        [&] {
+            SetCursorPos(centre.x, centre.y);
+            return GetForegroundWindow() == window && GetAncestor(WindowFromPoint(centre), GA_ROOT) == window;
+        },
+        Milliseconds(answerTime));
+    if (!open) {
+        throw NotSeen("\"" + textOf(control) + "\" is covered by \"" + textOf(WindowFromPoint(centre)) + "\"");
+    }
+    Sleep(hand);
+    mouse(MOUSEEVENTF_LEFTDOWN);
+    Sleep(hand);
+    mouse(MOUSEEVENTF_LEFTUP);
+}
+
+/// The closest visible control that `distance` accepts: it gives a distance, or a negative number.
+std::string nearestText(HWND window, HWND label, const std::function<long(RECT, RECT)>& distance) {
+    HWND nearest = nullptr;
+    long shortest = 0;
+    for (HWND child : visibleChildren(window)) {
+        const long away = child == label ? -1 : distance(placeOf(label), placeOf(child));
+        if (away >= 0 && (nearest == nullptr || away < shortest)) {
+            nearest = child;
+            shortest = away;
+        }
+    }
+    return nearest == nullptr ? std::string() : textOf(nearest);
+}
+
+} // namespace
+
+bool comesTrue(const std::function<bool()>& holds, Milliseconds limit) {
+    const auto end = std::chrono::steady_clock::now() + limit;
+    while (!holds()) {
+        if (std::chrono::steady_clock::now() > end) {
+            return false;
+        }
+        Sleep(pollInterval);
+    }
+    return true;
+}
+
+std::string plainBreaks(const std::string& text) {
+    std::string plain;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == '\r') {
+            plain += '\n';
+            i += i + 1 < text.size() && text[i + 1] == '\n' ? 1 : 0;
+        } else {
+            plain += text[i];
+        }
+    }
+    return plain;
+}
+
+std::string Form::caption() const {
+    return textOf(window_);
+}
+
+bool Form::isVisible() const {
+    return IsWindowVisible(window_) != 0;
+}
+
+HWND Form::find(const std::string& text) const {
+    for (HWND child : visibleChildren(window_)) {
+        if (withoutMarks(textOf(child)) == text) {
+            return child;
+        }
+    }
+    return nullptr;
+}
+
+HWND Form::await(const std::string& text) const {
+    HWND found = nullptr;
+    comesTrue([&] { return (found = find(text)) != nullptr; });
+    if (found == nullptr) {
+        throw NotSeen("no \"" + text + "\" on " + describe());
+    }
+    return found;
+}
+
+bool Form::shows(const std::string& text) const {
+    return find(text) != nullptr;
+}
+
+void Form::awaitText(const std::string& text) const {
+    await(text);
+}
+
+void Form::click(const std::string& text) const {
+    clickOn(await(text));
+}
+
+std::string Form::beside(const std::string& label) const {
+    return nearestText(window_, await(label), [](RECT from, RECT to) -> long {
+        const long middle = (to.top + to.bottom) / 2;
+        const bool sameRow = middle >= from.top && middle < from.bottom;
+        return sameRow ? to.left - from.left - 1 : -1;
+    });
+}
+
+std::string Form::below(const std::string& label) const {
+    return nearestText(window_, await(label), [](RECT from, RECT to) -> long {
+        const bool sameColumn = to.left < from.right && to.right > from.left;
+        return sameColumn ? to.top - from.bottom : -1;
+    });
+}
+
+std::vector<std::string> Form::rows() const {
+    std::vector<std::string> rows;
+    for (HWND child : visibleChildren(window_)) {
+        if (CompareStringA(LOCALE_INVARIANT, NORM_IGNORECASE, classOf(child).c_str(), -1, "ListBox", -1) !=
+            CSTR_EQUAL) {
+            continue;
+        }
+        const LRESULT count = send(child, LB_GETCOUNT, 0, 0);
+        for (LRESULT row = 0; row < count; ++row) {
+            rows.push_back(rowText(child, static_cast<WPARAM>(row)));
+        }
+    }
+    return rows;
+}
+
+void Form::close() const {
+    PostMessageA(window_, WM_SYSCOMMAND, SC_CLOSE, 0);
+}
+
+std::string Form::describe() const {
+    std::string texts = "window \"" + caption() + "\":";
+    for (HWND child : visibleChildren(window_)) {
+        const std::string text = textOf(child);
+        texts += text.empty() ? "" : " [" + text + "]";
+    }
+    return texts;
+}
+
+void Box::press(const std::string& button) const {
+    for (HWND child : visibleChildren(window)) {
+        if (withoutMarks(textOf(child)) == button) {
+            clickOn(child);
+            if (!comesTrue([&] { return IsWindow(window) == 0; })) {
+                throw NotSeen("\"" + button + "\" did not close \"" + text + "\"");
+            }
+            return;
+        }
+    }
+    throw NotSeen("no button \"" + button + "\" under \"" + text + "\"");
+}
+
+Program::Program(const std::string& file, const std::string& arguments) {
+    std::string commandLine = "\"" + file + "\"" + (arguments.empty() ? "" : " " + arguments);
+    STARTUPINFOA start{};
+    start.cb = sizeof start;
+    if (CreateProcessA(file.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
+                       &process_) == 0) {
+        throw NotSeen(file + " cannot be started");
+    }
+}
+
+Program::~Program() {
+    TerminateProcess(process_.hProcess, 1);
+    WaitForSingleObject(process_.hProcess, INFINITE);
+    CloseHandle(process_.hThread);
+    CloseHandle(process_.hProcess);
+}
+
+std::vector<HWND> Program::windows() const {
+    struct Search {
+        DWORD process;
+        std::vector<HWND> found;
+    } search{process_.dwProcessId, {}};
+    EnumWindows(
+        [](HWND window, LPARAM argument) {
+            auto& wanted = *reinterpret_cast<Search*>(argument);
+            DWORD owner = 0;
+            GetWindowThreadProcessId(window, &owner);
+            if (owner == wanted.process && IsWindowVisible(window) != 0) {
+                wanted.found.push_back(window);
+            }
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&search));
+    return search.found;
+}
+
+std::optional<HWND> Program::formNow(const std::string& captionPart) const {
+    for (HWND window : windows()) {
+        if (classOf(window) == "TarvelonForm" && textOf(window).find(captionPart) != std::string::npos) {
+            return window;
+        }
+    }
+    return std::nullopt;
+}
+
+bool Program::hasForm(const std::string& captionPart) const {
+    return formNow(captionPart).has_value();
+}
+
+bool Program::hasAnyWindow() const {
+    return !windows().empty();
+}
+
+Form Program::form(const std::string& captionPart) const {
+    std::optional<HWND> window;
+    if (!comesTrue([&] { return (window = formNow(captionPart)).has_value(); })) {
+        throw NotSeen("no window \"" + captionPart + "\"; " + describe());
+    }
+    if (IsIconic(*window) != 0) {
+        send(*window, WM_SYSCOMMAND, SC_RESTORE, 0);
+    }
+    return Form(*window);
+}
+
+Box Program::box() const {
+    HWND found = nullptr;
+    const bool came = comesTrue([&] {
+        const std::vector<HWND> all = windows();
+        const auto box =
+            std::find_if(all.begin(), all.end(), [](HWND window) { return classOf(window) == "#32770"; });
+        found = box == all.end() ? nullptr : *box;
+        return found != nullptr;
+    });
+    if (!came) {
+        throw NotSeen("no message box; " + describe());
+    }
+    Box box{found, textOf(found), "", {}};
+    for (HWND child : visibleChildren(found)) {
+        const std::string text = textOf(child);
+        if (classOf(child) == "Button") {
+            box.buttons.push_back(withoutMarks(text));
+        } else if (!text.empty()) {
+            box.text = plainBreaks(text);
+        }
+    }
+    return box;
+}
+
+bool Program::ends(Milliseconds limit) const {
+    return WaitForSingleObject(process_.hProcess, static_cast<DWORD>(limit.count())) == WAIT_OBJECT_0;
+}
+
+std::string Program::describe() const {
+    if (ends(Milliseconds(0))) {
+        return "the program has ended";
+    }
+    std::string all = "on the screen:";
+    for (HWND window : windows()) {
+        all += " " + Form(window).describe();
+    }
+    return all;
+}
+
+} // namespace e2e

@@ -1,0 +1,111 @@
+#pragma once
+
+#include <windows.h>
+
+#include <chrono>
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+/// Drives the program the way its user does: from another process, by what stands on the screen.
+namespace e2e {
+
+using Milliseconds = std::chrono::milliseconds;
+
+/// How long something on the screen may take before a test gives up: far longer than any healthy run.
+constexpr Milliseconds patience{8'000};
+
+/// What was looked for did not come. The text tells what was on the screen instead.
+class NotSeen : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// Asks again and again until `holds` is true; false when `limit` has passed.
+bool comesTrue(const std::function<bool()>& holds, Milliseconds limit = patience);
+
+/// Every line break as a single "\n", whichever way the system stores it.
+std::string plainBreaks(const std::string& text);
+
+/// One top-level window of the program. Controls are found by the text that the user reads.
+class Form {
+public:
+    explicit Form(HWND window)
+        : window_(window) {}
+
+    std::string caption() const;
+    bool isVisible() const;
+
+    /// True when a visible control has exactly this text.
+    bool shows(const std::string& text) const;
+    /// Waits for that.
+    void awaitText(const std::string& text) const;
+
+    /// Presses and releases the mouse on the control with this text, once it is there.
+    void click(const std::string& text) const;
+
+    /// The text of the nearest control to the right of a label, on the same row.
+    std::string beside(const std::string& label) const;
+    /// The text of the nearest control below a label.
+    std::string below(const std::string& label) const;
+
+    /// The rows of the visible list box.
+    std::vector<std::string> rows() const;
+
+    /// What the close box in the window's frame does.
+    void close() const;
+
+    /// All visible texts, for messages about failures.
+    std::string describe() const;
+
+private:
+    HWND find(const std::string& text) const;
+    HWND await(const std::string& text) const;
+
+    HWND window_;
+};
+
+/// A message box of the program, as read from the screen.
+struct Box {
+    HWND window = nullptr;
+    std::string title;
+    std::string text;
+    std::vector<std::string> buttons; ///< Without the marks of their access keys.
+
+    /// Clicks the button and waits until the box is gone.
+    void press(const std::string& button) const;
+};
+
+/// One running copy of the program. Destroying it ends the process if it still runs.
+class Program {
+public:
+    Program(const std::string& file, const std::string& arguments = "");
+    Program(const Program&) = delete;
+    ~Program();
+
+    /// Waits for a visible window whose caption contains the text, and brings it back when it is minimised.
+    Form form(const std::string& captionPart) const;
+    /// True when such a window is visible now.
+    bool hasForm(const std::string& captionPart) const;
+    bool hasAnyWindow() const;
+
+    /// Waits for a message box.
+    Box box() const;
+
+    /// True when the process has ended by itself within `limit`.
+    bool ends(Milliseconds limit = patience) const;
+
+    /// All visible windows of the process, for messages about failures.
+    std::string describe() const;
+
+private:
+    std::vector<HWND> windows() const;
+    std::optional<HWND> formNow(const std::string& captionPart) const;
+
+    PROCESS_INFORMATION process_{};
+};
+
+} // namespace e2e

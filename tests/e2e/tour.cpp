@@ -1,0 +1,124 @@
+// Shows the real program at work, for a machine without a display: its first full scan, then a changed and an
+// added file. What it says comes from the program's screen. A line "@picture NAME" asks the script that
+// started this for a picture of the screen; the tour goes on when the file NAME is there. usage: tour PROGRAM
+// PICTURES-FOLDER
+
+#include "driver.h"
+#include "workplace.h"
+
+#include <cstdio>
+#include <exception>
+
+namespace e2e {
+namespace {
+
+const char* const plantedFile = "tourletter.dll";
+const char* const addedFile = "tourvisitor.exe";
+
+void say(const std::string& sentence) {
+    std::printf("%s\n", sentence.c_str());
+    std::fflush(stdout);
+}
+
+class Tour {
+public:
+    explicit Tour(std::string pictures)
+        : pictures_(std::move(pictures)) {}
+
+    void firstScan() {
+        say("The program starts for the first time. It asks:");
+        const Program program(folder_.program());
+        const Box question = program.box();
+        say("  \"" + question.text + "\"");
+        picture("1-question");
+        say("The answer is Yes.");
+        question.press("Yes");
+        const auto start = std::chrono::steady_clock::now();
+
+        const Form scan = program.form("AutoCheck");
+        scan.click("Pause");
+        scan.awaitText("Resume");
+        say("The scan is held for a moment; its window reads \"" + scan.caption() + "\".");
+        picture("2-scan");
+        scan.click("Resume");
+
+        const Form window = program.form("Welcome to Tarvelon");
+        const auto taken =
+            std::chrono::duration_cast<std::chrono::seconds>(std::chrono::steady_clock::now() - start);
+        say("The first full scan of " + systemDirectory() + " is over after " +
+            std::to_string(taken.count()) + " seconds, the pause included. The main window opens.");
+        picture("3-main-window");
+        window.close();
+        program.ends();
+        say("The baseline holds " + std::to_string(entryCount()) + " files.");
+    }
+
+    void logOnScan() {
+        say("");
+        say("Now one file of the system directory is changed (" + std::string(plantedFile) +
+            ") and one is added (" + addedFile + "), and the program starts as at log-on, with /r.");
+        planted_.rewrite("The same letter, with one word too many.\r\n");
+        const PlantedFile visitor(systemDirectory() + addedFile, "Not here yesterday.\r\n");
+        const Program program(folder_.program(), "/r");
+        const Form results = program.form("AutoCheck");
+        results.awaitText("Results");
+        for (const char* label : {"Total Files Scanned:", "New Files:", "Failed Files:", "Passing Files:"}) {
+            say("  " + std::string(label) + " " + results.beside(label));
+        }
+        picture("4-results");
+        results.click("Repair and Update Failed Files...");
+        results.awaitText("Failed Files List");
+        say("The list of new and failed files:");
+        for (const std::string& row : results.rows()) {
+            say("  " + row);
+        }
+        picture("5-failed-files");
+    }
+
+private:
+    void picture(const std::string& name) const {
+        Sleep(300); // the last paint reaches the screen
+        say("@picture " + name + ".png");
+        comesTrue([&] { return readFile(pictures_ + name + ".png").has_value(); });
+    }
+
+    std::size_t entryCount() const {
+        const std::string text = folder_.data("Integrity.dat").value_or("");
+        std::size_t count = 0;
+        for (std::size_t at = text.find("*E\r\n"); at != std::string::npos;
+             at = text.find("*E\r\n", at + 1)) {
+            ++count;
+        }
+        return count - 9; // the end line of each section
+    }
+
+    static ProgramFolder makeFolder() {
+        ProgramFolder folder("tour");
+        folder.writeSettings({{"settings", "1,1,1,1,1,1,0,0"}});
+        return folder;
+    }
+
+    const std::string pictures_;
+    const ProgramFolder folder_ = makeFolder();
+    const PlantedFile planted_{systemDirectory() + plantedFile, "A letter that stays as it is.\r\n"};
+};
+
+} // namespace
+} // namespace e2e
+
+int main(int count, char** arguments) {
+    if (count != 3) {
+        std::fputs("usage: tour PROGRAM PICTURES-FOLDER\n", stderr);
+        return 2;
+    }
+    e2e::setInputs({arguments[1], ""});
+    try {
+        e2e::Tour tour(std::string(arguments[2]) + "\\");
+        tour.firstScan();
+        tour.logOnScan();
+        return 0;
+    } catch (const std::exception& problem) {
+        std::printf("The tour stops: %s\n", problem.what());
+        return 1;
+    }
+}

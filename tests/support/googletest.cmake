@@ -1,0 +1,21 @@
+# GoogleTest from its sources, so that it is built with the same compiler and sanitizers as the tests.
+set(GOOGLETEST_SOURCE_DIR /usr/src/googletest CACHE PATH "Sources of GoogleTest (package googletest)")
+if(NOT EXISTS ${GOOGLETEST_SOURCE_DIR}/CMakeLists.txt)
+    message(FATAL_ERROR "GoogleTest's sources are missing: install the package googletest")
+endif()
+
+set(INSTALL_GTEST OFF CACHE INTERNAL "")
+set(BUILD_GMOCK ON CACHE INTERNAL "")
+if(WIN32)
+    # The thread model of the Windows builds has no std::mutex; the tests have one thread.
+    set(gtest_disable_pthreads ON CACHE INTERNAL "")
+endif()
+add_subdirectory(${GOOGLETEST_SOURCE_DIR} ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL SYSTEM)
+foreach(library gtest gtest_main gmock gmock_main)
+    target_compile_options(${library} PRIVATE -w)
+    get_target_property(includes ${library} INTERFACE_INCLUDE_DIRECTORIES)
+    target_include_directories(${library} SYSTEM INTERFACE ${includes})
+    if(WIN32)
+        target_compile_definitions(${library} PUBLIC GTEST_IS_THREADSAFE=0)
+    endif()
+endforeach()
