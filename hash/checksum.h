@@ -1,5 +1,7 @@
 #pragma once
 
+#include "hash/file_reader.h"
+
 #include <string>
 
 namespace tarvelon {
@@ -12,9 +14,10 @@ class Checksum {
 public:
     Checksum(Globals& globals, Platform& platform);
 
-    /// The file's checksum as it stands in the baselines. CRC-32: upper-case hexadecimal without leading zeros,
-    /// "0" for an empty or unreadable file. MD4, MD5, SHA-1: the digest's bytes as decimal numbers without
-    /// separators, empty for an empty or unreadable file. Window messages may run once per read buffer.
+    /// The file's checksum as it stands in the baselines. CRC-32: upper-case hexadecimal without leading
+    /// zeros, "0" for an empty or unreadable file. MD4, MD5, SHA-1: the digest's bytes as decimal numbers
+    /// without separators, empty for an empty or unreadable file. Window messages may run once per read
+    /// buffer.
     std::string getChecksum(const std::string& path);
 
     /// Makes `intFile` follow `algoName`.
@@ -24,8 +27,11 @@ public:
     std::string getCustomDat(int number) const;
 
 private:
+    std::string dataFile(const std::string& stem) const;
+
     Globals& globals_;
     Platform& platform_;
+    FileReader reader_;
 };
 
 } // namespace tarvelon
