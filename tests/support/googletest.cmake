@@ -1,21 +1,22 @@
 # GoogleTest from its sources, so that it is built with the same compiler and sanitizers as the tests.
 set(GOOGLETEST_SOURCE_DIR /usr/src/googletest CACHE PATH "Sources of GoogleTest (package googletest)")
-if(NOT EXISTS ${GOOGLETEST_SOURCE_DIR}/CMakeLists.txt)
+if(NOT EXISTS ${GOOGLETEST_SOURCE_DIR}/googlemock/src/gmock-all.cc)
     message(FATAL_ERROR "GoogleTest's sources are missing: install the package googletest")
 endif()
 
-set(INSTALL_GTEST OFF CACHE INTERNAL "")
-set(BUILD_GMOCK ON CACHE INTERNAL "")
+add_library(gmock_main STATIC EXCLUDE_FROM_ALL
+    ${GOOGLETEST_SOURCE_DIR}/googletest/src/gtest-all.cc
+    ${GOOGLETEST_SOURCE_DIR}/googlemock/src/gmock-all.cc
+    ${GOOGLETEST_SOURCE_DIR}/googlemock/src/gmock_main.cc)
+target_compile_options(gmock_main PRIVATE -w)
+target_include_directories(gmock_main SYSTEM
+    PUBLIC ${GOOGLETEST_SOURCE_DIR}/googletest/include ${GOOGLETEST_SOURCE_DIR}/googlemock/include
+    PRIVATE ${GOOGLETEST_SOURCE_DIR}/googletest ${GOOGLETEST_SOURCE_DIR}/googlemock)
 if(WIN32)
     # The thread model of the Windows builds has no std::mutex; the tests have one thread.
-    set(gtest_disable_pthreads ON CACHE INTERNAL "")
+    target_compile_definitions(gmock_main PUBLIC GTEST_IS_THREADSAFE=0)
+    target_compile_options(gmock_main PRIVATE -include ${CMAKE_CURRENT_LIST_DIR}/gtest_auto_handle.h)
+else()
+    find_package(Threads REQUIRED)
+    target_link_libraries(gmock_main PUBLIC Threads::Threads)
 endif()
-add_subdirectory(${GOOGLETEST_SOURCE_DIR} ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL SYSTEM)
-foreach(library gtest gtest_main gmock gmock_main)
-    target_compile_options(${library} PRIVATE -w)
-    get_target_property(includes ${library} INTERFACE_INCLUDE_DIRECTORIES)
-    target_include_directories(${library} SYSTEM INTERFACE ${includes})
-    if(WIN32)
-        target_compile_definitions(${library} PUBLIC GTEST_IS_THREADSAFE=0)
-    endif()
-endforeach()
