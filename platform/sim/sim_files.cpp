@@ -39,7 +39,7 @@ int openFlags(OpenMode mode) {
     case OpenMode::ReadOrCreate:
         return O_RDWR;
     case OpenMode::Create:
-        return O_WRONLY | O_TRUNC;
+        return O_RDWR | O_TRUNC;
     }
     return O_RDONLY;
 }
