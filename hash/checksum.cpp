@@ -81,8 +81,11 @@ std::string Checksum::getCustomDat(int number) const {
 
 std::string Checksum::dataFile(const std::string& stem) const {
     const std::string name = trim(globals_.settings.algoName);
-    const bool crc32 = name.empty() || globals_.cases.upper(name) == crc32Name;
-    return globals_.app.appPath + "Data\\" + stem + (crc32 ? "" : "-" + globals_.cases.lower(name)) + ".dat";
+    std::string path = globals_.app.appPath + "Data\\" + stem;
+    if (!name.empty() && globals_.cases.upper(name) != crc32Name) {
+        path.append("-").append(globals_.cases.lower(name));
+    }
+    return path + ".dat";
 }
 
 } // namespace tarvelon
