@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdlib>
 #include <string>
 
 namespace tarvelon {
@@ -22,7 +23,14 @@ public:
     virtual bool start(const std::string& commandLine, WindowStyle style) = 0;
 
     /// Ends this process at once: all windows go, nothing is saved, no question is asked.
-    [[noreturn]] virtual void end() = 0;
+    [[noreturn]] void end() {
+        endNow();
+        std::abort(); // Not reached; compilers do not take a virtual call's word for not returning.
+    }
+
+protected:
+    /// Does not return.
+    virtual void endNow() = 0;
 };
 
 } // namespace tarvelon

@@ -15,7 +15,7 @@ bool SimProcesses::start(const std::string& commandLine, WindowStyle style) {
     return true;
 }
 
-void SimProcesses::end() {
+void SimProcesses::endNow() {
     ended_ = true;
     throw ProcessEnded();
 }

@@ -37,7 +37,9 @@ public:
     std::string programFile() override { return file; }
     std::string commandLine() override { return arguments; }
     bool start(const std::string& commandLine, WindowStyle style) override;
-    [[noreturn]] void end() override;
+
+protected:
+    [[noreturn]] void endNow() override;
 
 private:
     Faults& faults_;
