@@ -27,7 +27,8 @@ public:
     /// An empty folder, with its trailing backslash.
     virtual std::string emptyFolder() = 0;
     virtual void hide(const std::string& path) = 0;
-    virtual void makeReadOnly(const std::string& path) = 0;
+    /// False when this machine does not hold anybody back from writing: Wine does not, for its administrator.
+    virtual bool makeReadOnly(const std::string& path) = 0;
     /// Keeps the file open so that nobody else can, until the result goes.
     virtual std::shared_ptr<void> lock(const std::string& path) = 0;
     /// Removes the key container of the empty name.

@@ -16,7 +16,10 @@ public:
         return R"(C:\Contract\)";
     }
     void hide(const std::string&) override {} // Listings show hidden files anyway.
-    void makeReadOnly(const std::string& path) override { sim_.files.denyWrites(path); }
+    bool makeReadOnly(const std::string& path) override {
+        sim_.files.denyWrites(path);
+        return true;
+    }
     std::shared_ptr<void> lock(const std::string& path) override {
         sim_.files.lock(path);
         return std::shared_ptr<void>(&sim_, [this, path](void*) { sim_.files.unlock(path); });

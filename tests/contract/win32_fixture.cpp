@@ -50,8 +50,12 @@ public:
         return folder_;
     }
     void hide(const std::string& path) override { SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_HIDDEN); }
-    void makeReadOnly(const std::string& path) override {
+    bool makeReadOnly(const std::string& path) override {
         SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_READONLY);
+        const HANDLE file = CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+        const bool held = file == INVALID_HANDLE_VALUE;
+        CloseHandle(file);
+        return held;
     }
     std::shared_ptr<void> lock(const std::string& path) override {
         const HANDLE file = CreateFileA(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);

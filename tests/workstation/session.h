@@ -17,7 +17,8 @@ inline const std::string dataFolder = programFolder + R"(Data\)";
 inline const std::string systemFolder = R"(C:\WINDOWS\system32\)";
 inline const std::string firstRunQuestion =
     "This is your first time using Tarvelon.  Tarvelon is required to do a system file Integrity scan before "
-    "proceeding.\r\nIf you are sure there are no viruses on your computer, it is safe to scan now. Otherwise, "
+    "proceeding.\r\nIf you are sure there are no viruses on your computer, it is safe to scan now. "
+    "Otherwise, "
     "please do a full scan at a later time. The full scan should take no more than five minutes to "
     "complete.\r\n\r\nPerform scan now?";
 inline const std::string firstRunRefused =

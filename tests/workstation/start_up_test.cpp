@@ -1,0 +1,105 @@
+#include "tests/workstation/session.h"
+
+namespace tarvelon {
+namespace {
+
+class StartUpRun : public Session {};
+
+TEST_F(StartUpRun, SwitchesWithoutABaselineAreRefused) {
+    const std::string unfinished = "Primary Full Scan has not yet been completed.\r\n";
+    const std::pair<const char*, std::string> switches[] = {
+        {"/r", "Cannot start Auto-Load.  " + unfinished + "Closing"},
+        {" /s ", "Cannot start Secure Shut Down.  " + unfinished + "Closing."},
+        {"/a", "Cannot run Scheduled Scan.  " + unfinished + "Closing."}};
+    for (const auto& [typed, message] : switches) {
+        for (int i = 0; i < 2; ++i) {
+            pc.dialogs.expect({.text = firstRunQuestion, .answer = Answer::No});
+            pc.dialogs.expect({.text = firstRunRefused});
+        }
+        pc.dialogs.expect({.text = message, .title = "", .buttons = Buttons::Ok});
+        EXPECT_TRUE(start(typed)) << typed;
+    }
+}
+
+TEST_F(StartUpRun, UnknownSwitchesOpenTheMainWindow) {
+    pc.files.put(dataFolder + "Integrity.dat", "");
+    for (const char* typed : {"", "/R", "/r /s", "readme.txt"}) {
+        EXPECT_FALSE(start(typed));
+        EXPECT_TRUE(app->mForm1.Visible()) << typed;
+        EXPECT_FALSE(app->intCheck.Visible()) << typed;
+    }
+}
+
+TEST_F(StartUpRun, LogOnRunEndsUnseenWhenAllIsClean) {
+    pc.files.put(systemFolder + "a.dll", "a");
+    pc.files.put(dataFolder + "Tarvelon.dat", settingsWith("1,1,1,1,1,1,0,0"));
+    makeBaseline();
+    ASSERT_FALSE(start("/r"));
+    EXPECT_FALSE(app->mForm1.Visible());
+    EXPECT_TRUE(app->intCheck.Minimized());
+    EXPECT_TRUE(settle());
+    EXPECT_EQ(app->intCheck.Label7.Caption(), "1");
+}
+
+TEST_F(StartUpRun, SettingsReachControlsAndGlobals) {
+    pc.files.put(dataFolder + "Integrity.dat", "");
+    pc.files.put(R"(C:\Documents and Settings\All Users\x.lnk)", "");
+    pc.folders.special[24] = R"(C:\Start)";
+    pc.files.put(R"(C:\Start\Tarvelon.lnk)", "");
+    pc.files.put(dataFolder + "Tarvelon.dat",
+                 "[Tarvelon]\r\nSETTINGS=1,0,1,0,1,0,1,1,1,1\r\nsettings2=1,0,1\r\n"
+                 "advanced=131072,50,1\r\nantivirus=C:\\av one.exe| /s /x |y\r\n"
+                 "av2=C:\\b.exe|\r\nantivirus2=0,1,1\r\nalgo=Md5\r\n");
+    pc.files.put(dataFolder + "Integrity-md5.dat", "");
+    EXPECT_FALSE(start());
+    const MForm1Screen& form = app->mForm1;
+    std::string ticks;
+    for (const FlatCheck* check : form.autoLoadChecks) {
+        ticks += std::to_string(check->value());
+    }
+    for (const FlatCheck* check : form.shutDownChecks) {
+        ticks += std::to_string(check->value());
+    }
+    EXPECT_EQ(ticks, "10101011"
+                     "101000");
+    EXPECT_EQ(form.Check1.value(), 1);
+    const Settings& settings = app->globals.settings;
+    EXPECT_EQ(settings.readBuffer, 131072);
+    EXPECT_EQ(settings.passCount, 50);
+    EXPECT_EQ(settings.useWsh, 1);
+    EXPECT_EQ(settings.quoteChar, "");
+    EXPECT_TRUE(settings.shortPaths);
+    EXPECT_TRUE(settings.autoScanFailed);
+    EXPECT_EQ(settings.algoName, "Md5");
+    EXPECT_EQ(app->globals.app.intFile, dataFolder + "Integrity-md5.dat");
+    EXPECT_EQ(app->s_avir.Text5.Caption(), "C:\\av one.exe");
+    EXPECT_EQ(app->s_avir.Text6.Caption(), "/s /x |y");
+    EXPECT_EQ(app->s_avir.Text1.Caption(), "C:\\b.exe");
+}
+
+TEST_F(StartUpRun, DamagedSettingsNeverStopTheStart) {
+    pc.files.put(dataFolder + "Integrity.dat", "");
+    const std::string longLine(1 << 20, 'x');
+    const std::string texts[] = {"",
+                                 "[Tarvelon]\r\nsettings=1",
+                                 "[Tarvelon]\r\nadvanced=huge,,\r\nalgo=MD5\r\n",
+                                 "[Tarvelon]\r\nsettings=" + longLine + "\r\n",
+                                 "algo=x\r\n",
+                                 longLine,
+                                 "[Tarvelon]\r\nadvanced=99999999999,1\r\n"};
+    for (const std::string& text : texts) {
+        pc.files.put(dataFolder + "Tarvelon.dat", text);
+        EXPECT_FALSE(start()) << text.substr(0, 60);
+        EXPECT_TRUE(app->mForm1.Visible());
+        EXPECT_EQ(app->globals.settings.readBuffer, 65536);
+        EXPECT_EQ(app->globals.settings.algoName, "") << "an unusable value ends the reading in front of it";
+        EXPECT_EQ(file(dataFolder + "Tarvelon.dat"), text) << "nothing of the user's is overwritten";
+    }
+    pc.files.lock(dataFolder + "Tarvelon.dat");
+    EXPECT_FALSE(start("/r"));
+    EXPECT_FALSE(app->mForm1.Visible());
+    EXPECT_TRUE(app->intCheck.Visible()) << "no scan is planned, but the program does not run unseen";
+}
+
+} // namespace
+} // namespace tarvelon
