@@ -14,7 +14,6 @@ void restartWithoutBackup(Globals& globals, Platform& platform, const std::strin
     // In quotes, so that a program of a shorter name along the path is not started in its place.
     platform.processes.start("\"" + globals.app.appPath + "TarvelonLow.exe\"", WindowStyle::MinimizedFocus);
     platform.processes.end();
-    __builtin_unreachable(); // With the sanitizers the compiler forgets what it knows of a virtual call.
 }
 
 } // namespace tarvelon

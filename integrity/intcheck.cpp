@@ -59,8 +59,8 @@ IntCheck::IntCheck(IntCheckScreen& screen, const IntCheckParts& parts)
 
 void IntCheck::bind() {
     screen_.onLoad = [this] {
-        readScanners();
-        readScanner("AV2", screen_.textav1, screen_.textav2);
+        passOver([this] { readScanners(); });
+        passOver([this] { readScanner("AV2", screen_.textav1, screen_.textav2); });
     };
     screen_.onQueryClose = [this] { return queryClose(); };
     screen_.Timer1.onTick = [this] { Timer1_Tick(); };
