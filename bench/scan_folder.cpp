@@ -7,7 +7,6 @@
 // the milliseconds of each round, the files scanned, and the peak memory in KiB.
 
 #include "core/application.h"
-#include "core/file_text.h"
 #include "platform/sim/workstation.h"
 
 #include <sys/resource.h>
@@ -23,17 +22,26 @@ using namespace tarvelon;
 
 const std::string dataFolder = R"(C:\Program Files\Tarvelon\Data\)";
 
+/// Answers every question with Yes.
+class Yes : public Dialogs {
+public:
+    Answer message(const MessageBox&) override { return Answer::Yes; }
+    bool getOpenFileName(OpenFileRecord&) override { return false; }
+    bool browseForFolder(const std::string&, std::uint32_t, char*) override { return false; }
+};
+
 /// One run of the program; gives the milliseconds of its scan.
 double scan(const std::string& drive, const std::string& folder, bool first, std::string& files) {
     SimWorkstation pc(drive);
     pc.folders.systemDirectory = folder;
     if (first) {
         pc.files.remove(dataFolder + "Integrity.dat");
-        pc.dialogs.expect({.text = "", .answer = Answer::Yes});
     }
     pc.files.put(dataFolder + "Tarvelon.dat", "[Tarvelon]\r\nsettings=1,1,1,1,1,1,0,0\r\n");
     pc.processes.arguments = first ? "" : "/r";
-    Application app(pc.platform());
+    Yes yes;
+    Platform platform{pc.codePage, pc.files, pc.folders, pc.crypto, pc.messages, yes, pc.processes};
+    Application app(platform);
     for (Screen* screen : app.screens()) {
         pc.attach(*screen);
     }

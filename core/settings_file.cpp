@@ -39,12 +39,13 @@ std::string newSettings() {
                        "algo=crc32\r\n"
                        "\r\n";
     for (int slot = 1; slot <= folderSlots; ++slot) {
-        text += "[" + std::to_string(slot) +
-                "]\r\n"
-                "path=NULL\r\n"
-                "args=0,0,0,0,0,0,0\r\n"
-                "args2=0,0,0,0,0,0,0\r\n"
-                "\r\n";
+        text.append("[")
+            .append(std::to_string(slot))
+            .append("]\r\n"
+                    "path=NULL\r\n"
+                    "args=0,0,0,0,0,0,0\r\n"
+                    "args2=0,0,0,0,0,0,0\r\n"
+                    "\r\n");
     }
     return text;
 }
