@@ -1,0 +1,165 @@
+#include "core/profile_files.h"
+#include "core/profile_image.h"
+#include "platform/sim/workstation.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+namespace tarvelon {
+
+namespace {
+
+constexpr const char* path = R"(C:\Data\test.dat)";
+
+TEST(ProfileImage, ReadsAsTheSystemDoes) {
+    const CaseRules cases;
+    ProfileImage profile(cases);
+    profile.setText("stray=0\r\n"
+                    "[Main]\r\n"
+                    "; note=1\r\n"
+                    "  Path  =  C:\\My Folder  \r\n"
+                    "quoted=\" two \"\r\n"
+                    "single='x'\r\n"
+                    "half=\"x\r\n"
+                    "equals=a=b\r\n"
+                    "empty=\r\n"
+                    "twice=1\r\n"
+                    "twice=2\r\n"
+                    "no equals sign\r\n"
+                    "\r\n"
+                    "[ 1 ]\r\n"
+                    "path=one\n"
+                    "[main]\r\n"
+                    "late=1\r\n"
+                    "[last]\r\n"
+                    "open=end");
+    EXPECT_EQ(profile.read("MAIN", "PATH"), "C:\\My Folder");
+    EXPECT_EQ(profile.read("main", " path "), "C:\\My Folder");
+    EXPECT_EQ(profile.read("main", "quoted"), " two ");
+    EXPECT_EQ(profile.read("main", "single"), "x");
+    EXPECT_EQ(profile.read("main", "half"), "\"x");
+    EXPECT_EQ(profile.read("main", "equals"), "a=b");
+    EXPECT_EQ(profile.read("main", "empty"), "");
+    EXPECT_EQ(profile.read("main", "twice"), "1");
+    EXPECT_EQ(profile.read("1", "path"), "one");
+    EXPECT_EQ(profile.read("last", "open"), "end");
+    EXPECT_FALSE(profile.read("main", "stray"));
+    EXPECT_FALSE(profile.read("main", "; note"));
+    EXPECT_FALSE(profile.read("main", "no equals sign"));
+    EXPECT_FALSE(profile.read("main", "late")) << "The first section of a name counts";
+    EXPECT_FALSE(profile.read("2", "path"));
+}
+
+TEST(ProfileImage, WritesTouchOneLine) {
+    const CaseRules cases;
+    ProfileImage profile(cases);
+    profile.setText("; head\r\n[A]\r\nkey=old\r\nloose line\r\n\r\n\r\n[B]\r\n;note\r\nlast=1");
+    profile.write("a", "KEY", "new value");
+    profile.write("A", "added", "1");
+    profile.write("A", "added2", "2");
+    EXPECT_EQ(profile.text(),
+              "; head\r\n[A]\r\nkey=new value\r\nloose line\r\nadded=1\r\nadded2=2\r\n\r\n\r\n"
+              "[B]\r\n;note\r\nlast=1");
+    profile.write("b", "last", "22");
+    profile.write("b", "more", "3");
+    profile.write("New", "k", "v");
+    EXPECT_EQ(profile.text().substr(profile.text().find("[B]")),
+              "[B]\r\n;note\r\nlast=22\r\nmore=3\r\n[New]\r\nk=v\r\n");
+
+    ProfileImage empty(cases);
+    EXPECT_EQ(empty.write("S", "k", "v"), 0u);
+    EXPECT_EQ(empty.text(), "[S]\r\nk=v\r\n");
+}
+
+TEST(ProfileImage, AChangedImageIsTheSameAsAFreshlyReadOne) {
+    const CaseRules cases;
+    std::mt19937 random(7);
+    const auto number = [&](int to) { return std::uniform_int_distribution<int>(0, to)(random); };
+    ProfileImage kept(cases);
+    std::string text;
+    for (int round = 0; round < 5000; ++round) {
+        if (number(200) == 0) {
+            text += number(1) ? "\r\n" : "\n[" + std::to_string(number(3)) + "]\nopen=";
+            kept.setText(text);
+        }
+        const std::string section = std::to_string(number(3));
+        const std::string key = "k" + std::to_string(number(40));
+        ProfileImage fresh(cases);
+        fresh.setText(text);
+        ASSERT_EQ(kept.read(section, key), fresh.read(section, key));
+
+        const std::string value(static_cast<std::size_t>(number(30)), 'v');
+        const std::size_t changed = kept.write(section, key, value);
+        fresh.write(section, key, value);
+        ASSERT_EQ(kept.text(), fresh.text());
+        ASSERT_EQ(kept.text().substr(0, changed), text.substr(0, changed))
+            << "Changed in front of the position";
+        ASSERT_EQ(kept.read(section, key), value);
+        text = kept.text();
+    }
+}
+
+class ProfileOnDisk : public testing::Test {
+protected:
+    SimWorkstation workstation;
+    CaseRules cases;
+    ProfileFiles profiles{workstation.files, cases};
+};
+
+TEST_F(ProfileOnDisk, EachWriteIsOnTheDiskAndOthersChangesAreSeen) {
+    workstation.files.makeFolders("C:\\Data\\");
+    EXPECT_EQ(profiles.read(path, "A", "k"), "");
+    EXPECT_TRUE(profiles.write(path, "A", "k", "1"));
+    EXPECT_EQ(workstation.files.get(path), "[A]\r\nk=1\r\n");
+    EXPECT_TRUE(profiles.write(path, "A", "k", "a longer value"));
+    EXPECT_TRUE(profiles.write(path, "A", "k", ""));
+    EXPECT_EQ(workstation.files.get(path), "[A]\r\nk=\r\n") << "The file shrinks with its text";
+
+    workstation.files.put(path, "[A]\r\nk=9\r\n");
+    EXPECT_EQ(profiles.read(path, "A", "k"), "9");
+    workstation.files.put(path, "[A]\r\nk=8\r\n");
+    EXPECT_EQ(profiles.read(path, "A", "k"), "8") << "Changed at the same length";
+    workstation.files.put(path, "[A]\r\nk=7\r\nx=1\r\n");
+    EXPECT_TRUE(profiles.write(path, "A", "k", "6"));
+    EXPECT_EQ(workstation.files.get(path), "[A]\r\nk=6\r\nx=1\r\n");
+
+    const std::string other = R"(C:\Data\other.dat)";
+    EXPECT_TRUE(profiles.write(other, "A", "k", "other"));
+    EXPECT_EQ(profiles.read(path, "A", "k"), "6");
+    EXPECT_TRUE(workstation.files.remove(path));
+    EXPECT_EQ(profiles.read(path, "A", "k"), "");
+    EXPECT_TRUE(profiles.write(path, "A", "y", "1"));
+    EXPECT_EQ(workstation.files.get(path), "[A]\r\ny=1\r\n") << "Nothing of the removed file comes back";
+}
+
+TEST_F(ProfileOnDisk, AFailedWriteLosesNothing) {
+    const std::string before = "[A]\r\nk=1\r\nlong=0123456789\r\n";
+    workstation.files.put(path, before);
+    workstation.files.denyWrites(path);
+    EXPECT_FALSE(profiles.write(path, "A", "k", "2"));
+    workstation.files.allowWrites(path);
+    for (const Operation operation : {Operation::OpenFile, Operation::ReadFile, Operation::WriteFile}) {
+        ProfileFiles fresh(workstation.files, cases);
+        workstation.faults.failNth(operation, 1);
+        EXPECT_FALSE(fresh.write(path, "A", "k", "2"));
+        EXPECT_EQ(workstation.files.get(path), before);
+        EXPECT_EQ(fresh.read(path, "A", "k"), "1") << "What was not written is not believed";
+    }
+    workstation.faults.failNth(Operation::LastWrite, 1);
+    EXPECT_EQ(profiles.read(path, "A", "k"), "1");
+    EXPECT_TRUE(profiles.write(path, "A", "k", "3"));
+    EXPECT_EQ(workstation.files.get(path), "[A]\r\nk=3\r\nlong=0123456789\r\n");
+}
+
+TEST_F(ProfileOnDisk, RepeatedWritesReadTheFileOnce) {
+    workstation.files.put(path, "[A]\r\nk=1\r\n");
+    for (int i = 0; i < 50; ++i) {
+        EXPECT_TRUE(profiles.write(path, "A", "k", std::to_string(i)));
+    }
+    EXPECT_EQ(workstation.faults.calls(Operation::ReadFile), 1);
+}
+
+} // namespace
+
+} // namespace tarvelon
