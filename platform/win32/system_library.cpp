@@ -1,0 +1,33 @@
+#include "platform/win32/system_library.h"
+
+#include <string>
+
+namespace tarvelon {
+
+namespace {
+
+HMODULE loadFromSystemDirectory(const char* fileName) {
+    char folder[MAX_PATH];
+    const UINT length = GetSystemDirectoryA(folder, MAX_PATH);
+    if (length == 0 || length >= MAX_PATH) {
+        return nullptr;
+    }
+    return LoadLibraryA((std::string(folder, length) + "\\" + fileName).c_str());
+}
+
+} // namespace
+
+SystemLibrary::SystemLibrary(const char* fileName)
+    : module_(loadFromSystemDirectory(fileName)) {}
+
+SystemLibrary::~SystemLibrary() {
+    if (module_) {
+        FreeLibrary(module_);
+    }
+}
+
+FARPROC SystemLibrary::address(const char* name) const {
+    return module_ ? GetProcAddress(module_, name) : nullptr;
+}
+
+} // namespace tarvelon

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "platform/win32/windows_api.h"
+
+namespace tarvelon {
+
+/// A library of the system, loaded by its full path in the system directory, so that a file of the same name
+/// elsewhere is never taken. What newer systems alone have is looked up here instead of being imported.
+class SystemLibrary {
+public:
+    explicit SystemLibrary(const char* fileName);
+    SystemLibrary(const SystemLibrary&) = delete;
+    ~SystemLibrary();
+
+    /// The exported function, or null where this system does not have it.
+    template<class Function>
+    Function* find(const char* name) const {
+        return reinterpret_cast<Function*>(reinterpret_cast<void*>(address(name)));
+    }
+
+private:
+    FARPROC address(const char* name) const;
+
+    HMODULE module_;
+};
+
+} // namespace tarvelon

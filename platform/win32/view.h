@@ -1,0 +1,42 @@
+#pragma once
+
+#include "platform/win32/windows_api.h"
+#include "ui/controls/screen.h"
+
+#include <memory>
+#include <vector>
+
+namespace tarvelon {
+
+class FormWindow;
+struct ViewTools;
+
+/// Turns screens into windows. A screen's windows are made when it is loaded and go with the view.
+class Win32View : public ScreenListener {
+public:
+    Win32View();
+    Win32View(const Win32View&) = delete;
+    ~Win32View() override;
+
+    /// From now on the screen is drawn by this view.
+    void attach(Screen& screen) { screen.listener = this; }
+
+    void loaded(Screen& screen) override;
+    void changed(Screen& screen, Aspect aspect) override;
+    void changed(Control& control, Aspect aspect) override;
+
+    /// Gives one message to the form or window that it is for.
+    void handle(MSG& message);
+    /// Has all changes drawn that are not yet.
+    void refresh();
+    /// The same, as often as the eye can follow.
+    void refreshIfDue();
+
+private:
+    FormWindow* formOf(const Screen& screen) const;
+
+    std::unique_ptr<ViewTools> tools_;
+    std::vector<std::unique_ptr<FormWindow>> forms_; ///< Grows while messages are handled.
+};
+
+} // namespace tarvelon

@@ -1,0 +1,192 @@
+#include "platform/win32/view_canvas.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace tarvelon {
+
+BackBuffer::BackBuffer()
+    : dc_(CreateCompatibleDC(nullptr)) {}
+
+BackBuffer::~BackBuffer() {
+    if (bitmap_) {
+        SelectObject(dc_, original_);
+        DeleteObject(bitmap_);
+    }
+    DeleteDC(dc_);
+}
+
+bool BackBuffer::reserve(int width, int height) {
+    if (width <= width_ && height <= height_) {
+        return true;
+    }
+    const int newWidth = std::max(width, width_);
+    const int newHeight = std::max(height, height_);
+    BITMAPINFO info{};
+    info.bmiHeader.biSize = sizeof info.bmiHeader;
+    info.bmiHeader.biWidth = newWidth;
+    info.bmiHeader.biHeight = -newHeight; // The top row comes first.
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 32;
+    void* pixels = nullptr;
+    const HBITMAP bitmap = CreateDIBSection(dc_, &info, DIB_RGB_COLORS, &pixels, nullptr, 0);
+    if (!bitmap) {
+        return false;
+    }
+    const HGDIOBJ previous = SelectObject(dc_, bitmap);
+    if (bitmap_) {
+        DeleteObject(bitmap_);
+    } else {
+        original_ = previous;
+    }
+    bitmap_ = bitmap;
+    pixels_ = static_cast<std::uint32_t*>(pixels);
+    width_ = newWidth;
+    height_ = newHeight;
+    return true;
+}
+
+namespace {
+
+/// Pixels hold red and blue the other way round than colours do.
+constexpr std::uint32_t pixelFrom(Color color) {
+    return ((color & 0xff) << 16) | (color & 0xff00) | ((color >> 16) & 0xff);
+}
+
+constexpr std::uint32_t mix(std::uint32_t under, std::uint32_t over, std::uint32_t weight256, int shift) {
+    const std::uint32_t a = (under >> shift) & 0xff;
+    const std::uint32_t b = (over >> shift) & 0xff;
+    return ((a * (256 - weight256) + b * weight256) >> 8) << shift;
+}
+
+/// Distance from the edge of a box with round corners, negative inside.
+float boxDistance(const RECT& box, float radius, Spot spot) {
+    const float halfWidth = static_cast<float>(widthOf(box)) / 2;
+    const float halfHeight = static_cast<float>(heightOf(box)) / 2;
+    const float x = std::fabs(spot.x - static_cast<float>(box.left) - halfWidth) - halfWidth + radius;
+    const float y = std::fabs(spot.y - static_cast<float>(box.top) - halfHeight) - halfHeight + radius;
+    const float outsideX = std::max(x, 0.0F);
+    const float outsideY = std::max(y, 0.0F);
+    return std::sqrt(outsideX * outsideX + outsideY * outsideY) + std::min(std::max(x, y), 0.0F) - radius;
+}
+
+float lineDistance(Spot from, Spot to, Spot spot) {
+    const Spot line{to.x - from.x, to.y - from.y};
+    const Spot way{spot.x - from.x, spot.y - from.y};
+    const float length = line.x * line.x + line.y * line.y;
+    const float along =
+        length > 0 ? std::clamp((way.x * line.x + way.y * line.y) / length, 0.0F, 1.0F) : 0.0F;
+    const float x = way.x - along * line.x;
+    const float y = way.y - along * line.y;
+    return std::sqrt(x * x + y * y);
+}
+
+} // namespace
+
+Canvas::Canvas(BackBuffer& buffer, Fonts& fonts, Scale scale, int width, int height)
+    : buffer_(buffer)
+    , fonts_(fonts)
+    , scale_(scale)
+    , width_(width)
+    , height_(height) {}
+
+void Canvas::blend(std::uint32_t& pixel, Color color, float coverage) {
+    const std::uint32_t over = pixelFrom(color);
+    const auto weight = static_cast<std::uint32_t>(coverage * 256);
+    pixel = mix(pixel, over, weight, 16) | mix(pixel, over, weight, 8) | mix(pixel, over, weight, 0);
+}
+
+template<class Distance>
+void Canvas::shape(const RECT& bounds, Color color, Distance distance) {
+    GdiFlush();
+    RECT visible;
+    const RECT whole = area();
+    if (!IntersectRect(&visible, &bounds, &whole)) {
+        return;
+    }
+    for (int y = visible.top; y < visible.bottom; ++y) {
+        std::uint32_t* row = buffer_.row(y);
+        for (int x = visible.left; x < visible.right; ++x) {
+            const Spot middle{static_cast<float>(x) + 0.5F, static_cast<float>(y) + 0.5F};
+            blend(row[x], color, std::clamp(0.5F - distance(middle), 0.0F, 1.0F));
+        }
+    }
+}
+
+void Canvas::fill(const RECT& rect, Color color) {
+    GdiFlush();
+    RECT visible;
+    const RECT whole = area();
+    if (!IntersectRect(&visible, &rect, &whole)) {
+        return;
+    }
+    for (int y = visible.top; y < visible.bottom; ++y) {
+        std::fill(buffer_.row(y) + visible.left, buffer_.row(y) + visible.right, pixelFrom(color));
+    }
+}
+
+void Canvas::roundedBox(const RECT& rect, int radius, Color color) {
+    const auto corner = static_cast<float>(radius);
+    shape(rect, color, [&](Spot spot) { return boxDistance(rect, corner, spot); });
+}
+
+void Canvas::roundedBox(const RECT& rect, int radius, Color color, Color edge, int thickness) {
+    roundedBox(rect, radius, edge);
+    roundedBox(inset(rect, thickness, thickness), std::max(radius - thickness, 0), color);
+}
+
+void Canvas::stroke(std::initializer_list<Spot> spots, float thickness, Color color) {
+    const auto distance = [&](Spot spot) {
+        float nearest = std::numeric_limits<float>::max();
+        for (auto end = spots.begin() + 1; end != spots.end(); ++end) {
+            nearest = std::min(nearest, lineDistance(end[-1], *end, spot));
+        }
+        return nearest - thickness / 2;
+    };
+    shape(area(), color, distance);
+}
+
+int Canvas::textWidth(const std::string& text, const TextLook& look) {
+    SelectObject(dc(), fonts_.get(scale_.letters(look.tenthPoints), look.weight));
+    RECT size{};
+    DrawTextA(dc(), text.c_str(), static_cast<int>(text.size()), &size,
+              DT_CALCRECT | DT_SINGLELINE | (look.mnemonics ? 0U : DT_NOPREFIX));
+    return widthOf(size);
+}
+
+void Canvas::text(const std::string& text, const RECT& rect, const TextLook& look) {
+    if (text.empty()) {
+        return;
+    }
+    const auto length = static_cast<int>(text.size());
+    const UINT common =
+        (look.mnemonics ? DT_HIDEPREFIX : DT_NOPREFIX) | (look.align == Align::Center  ? DT_CENTER
+                                                          : look.align == Align::Right ? DT_RIGHT
+                                                                                       : DT_LEFT);
+    const int wanted = scale_.letters(look.tenthPoints);
+    RECT size{};
+    UINT format = DT_SINGLELINE;
+    bool paragraph = false;
+    for (int height = wanted; height >= wanted * 4 / 5; --height) {
+        SelectObject(dc(), fonts_.get(height, look.weight, look.underlined));
+        TEXTMETRICA metrics;
+        GetTextMetricsA(dc(), &metrics);
+        const bool severalLines = heightOf(rect) >= 2 * metrics.tmHeight;
+        paragraph = heightOf(rect) >= 3 * metrics.tmHeight;
+        format = common | (severalLines ? DT_WORDBREAK : DT_SINGLELINE);
+        size = {0, 0, widthOf(rect), 0};
+        DrawTextA(dc(), text.c_str(), length, &size, format | DT_CALCRECT);
+        if (widthOf(size) <= widthOf(rect) && heightOf(size) <= heightOf(rect)) {
+            break;
+        }
+    }
+    const bool isPath = text.find('\\') != std::string::npos;
+    RECT place = rect;
+    place.top += paragraph ? 0 : std::max((heightOf(rect) - heightOf(size)) / 2, 0);
+    SetBkMode(dc(), TRANSPARENT);
+    SetTextColor(dc(), look.color);
+    DrawTextA(dc(), text.c_str(), length, &place, format | (isPath ? DT_PATH_ELLIPSIS : DT_END_ELLIPSIS));
+}
+
+} // namespace tarvelon

@@ -1,0 +1,138 @@
+#include "platform/win32/view_form.h"
+
+#include "platform/win32/view_frame.h"
+
+// What reaches a form from outside: messages, keys, the focus.
+
+namespace tarvelon {
+
+namespace {
+
+constexpr UINT dotsPerInchChanged = 0x02E0; ///< WM_DPICHANGED, of newer systems.
+
+} // namespace
+
+LRESULT CALLBACK FormWindow::procedure(HWND window, UINT message, WPARAM wide, LPARAM low) {
+    auto* self = reinterpret_cast<FormWindow*>(GetWindowLongPtrA(window, GWLP_USERDATA));
+    return self->handle(message, wide, low);
+}
+
+LRESULT FormWindow::handle(UINT message, WPARAM wide, LPARAM low) {
+    LRESULT result = 0;
+    if (reflectToChild(message, wide, low, result)) {
+        return result;
+    }
+    switch (message) {
+    case WM_CLOSE:
+        screen_.close();
+        return 0;
+    case WM_COMMAND:
+        if (LOWORD(wide) == IDCANCEL && !screen_.canMinimize) {
+            screen_.close();
+        }
+        return 0;
+    case WM_TIMER:
+        timerFired(wide);
+        return 0;
+    case WM_MOUSEMOVE:
+        screen_.dispatch(screen_.onMouseMove);
+        return 0;
+    case WM_SIZE:
+        screen_.Minimized = wide == SIZE_MINIMIZED;
+        return 0;
+    case WM_ACTIVATE:
+        result = DefWindowProcA(window_, message, wide, low);
+        activated(LOWORD(wide) != WA_INACTIVE);
+        return result;
+    case WM_NEXTDLGCTL:
+        moveFocus(wide, low);
+        return 0;
+    case WM_ERASEBKGND: {
+        RECT area;
+        GetClientRect(window_, &area);
+        const HBRUSH ground = CreateSolidBrush(tools_.theme.page.ground);
+        FillRect(reinterpret_cast<HDC>(wide), &area, ground);
+        DeleteObject(ground);
+        return 1;
+    }
+    case WM_GETTEXT:
+        return copyCaption(screen_.Caption(), wide, low);
+    case WM_GETTEXTLENGTH:
+        return static_cast<LRESULT>(screen_.Caption().size());
+    case WM_SETTINGCHANGE:
+    case WM_SYSCOLORCHANGE:
+        tools_.theme = currentTheme();
+        themeChanged();
+        break;
+    case dotsPerInchChanged:
+        scaleTo(HIWORD(wide), *reinterpret_cast<const RECT*>(low));
+        return 0;
+    default:
+        break;
+    }
+    return DefWindowProcA(window_, message, wide, low);
+}
+
+bool FormWindow::takes(MSG& message) {
+    const int key = static_cast<int>(message.wParam);
+    const bool down = message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN;
+    const bool up = message.message == WM_KEYUP || message.message == WM_SYSKEYUP;
+    if (down && screen_.onKeyDown) {
+        screen_.dispatch([&] { screen_.onKeyDown(key); });
+    } else if (up && screen_.onKeyUp) {
+        screen_.dispatch([&] { screen_.onKeyUp(key); });
+    }
+    return IsDialogMessageA(window_, &message) != FALSE;
+}
+
+void FormWindow::activated(bool active) {
+    if (!active) {
+        focusKept_ = GetFocus();
+    } else if (!IsIconic(window_)) {
+        if (IsChild(window_, focusKept_) && IsWindowVisible(focusKept_) && IsWindowEnabled(focusKept_)) {
+            SetFocus(focusKept_);
+        } else {
+            giveFocus();
+        }
+    }
+}
+
+void FormWindow::followFocus(const ControlWindow& window) {
+    const bool usable = window.control().Visible() && window.control().Enabled();
+    if (usable && window.control().kind() == ControlKind::Frame) {
+        pageShown_ = window.window();
+    }
+    const HWND focus = GetFocus();
+    if (!usable && focus && (focus == window.window() || IsChild(window.window(), focus))) {
+        SetFocus(window_);
+        focusLost_ = true;
+    }
+}
+
+void FormWindow::giveFocus() {
+    const HWND now = GetFocus();
+    if (GetActiveWindow() != window_ || (now && now != window_)) {
+        return;
+    }
+    HWND next = nullptr;
+    if (IsChild(window_, pageShown_) && IsWindowVisible(pageShown_)) {
+        next = GetNextDlgTabItem(pageShown_, nullptr, FALSE);
+    }
+    if (!next) {
+        next = GetNextDlgTabItem(window_, nullptr, FALSE);
+    }
+    if (next && IsWindowVisible(next) && IsWindowEnabled(next)) {
+        SetFocus(next);
+    }
+}
+
+void FormWindow::moveFocus(WPARAM wide, LPARAM low) {
+    const bool isWindow = LOWORD(low) != 0;
+    const HWND next =
+        isWindow ? reinterpret_cast<HWND>(wide) : GetNextDlgTabItem(window_, GetFocus(), wide != 0);
+    if (next) {
+        SetFocus(next);
+    }
+}
+
+} // namespace tarvelon

@@ -1,0 +1,234 @@
+#include "platform/win32/view_press.h"
+
+#include "platform/win32/view_form.h"
+
+#include <windowsx.h>
+
+namespace tarvelon {
+
+void PressWindow::notified(int code) {
+    if (code == BN_CLICKED) {
+        click();
+    }
+}
+
+LRESULT PressWindow::handle(UINT message, WPARAM wide, LPARAM low) {
+    switch (message) {
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONDBLCLK:
+        SetFocus(window());
+        SetCapture(window());
+        press();
+        return 0;
+    case WM_LBUTTONUP:
+        if (held_) {
+            release(contains({GET_X_LPARAM(low), GET_Y_LPARAM(low)}));
+        }
+        return 0;
+    case WM_CAPTURECHANGED:
+    case WM_CANCELMODE:
+        release(false);
+        return 0;
+    case WM_MOUSEMOVE:
+        mouseMoved({GET_X_LPARAM(low), GET_Y_LPARAM(low)});
+        return ControlWindow::handle(message, wide, low);
+    case WM_MOUSELEAVE:
+        hovered_ = false;
+        leave();
+        repaint();
+        return 0;
+    case WM_SETCURSOR:
+        SetCursor(LoadCursorA(nullptr, control().isUsable() ? IDC_HAND : IDC_ARROW));
+        return TRUE;
+    case WM_SETFOCUS:
+    case WM_KILLFOCUS:
+    case WM_ENABLE:
+        repaint();
+        return 0;
+    case WM_GETDLGCODE:
+    case WM_KEYDOWN:
+    case WM_KEYUP:
+        return keyboard(message, wide, low);
+    case BM_CLICK:
+        press();
+        release(true);
+        return 0;
+    case BM_GETCHECK:
+        return isTicked() ? BST_CHECKED : BST_UNCHECKED;
+    case BM_GETSTATE:
+        return (isTicked() ? BST_CHECKED : BST_UNCHECKED) | (isHeld() ? BST_PUSHED : 0) |
+               (isFocused() ? BST_FOCUS : 0);
+    case BM_SETCHECK:
+    case BM_SETSTATE:
+    case BM_SETSTYLE:
+        // The control alone decides; the class would draw its own look over ours.
+        return 0;
+    default:
+        return ControlWindow::handle(message, wide, low);
+    }
+}
+
+void PressWindow::press() {
+    if (!control().isUsable()) {
+        return;
+    }
+    held_ = true;
+    overWhileHeld_ = true;
+    down();
+    repaint();
+}
+
+void PressWindow::release(bool counts) {
+    if (!held_) {
+        return;
+    }
+    held_ = false;
+    if (GetCapture() == window()) {
+        ReleaseCapture();
+    }
+    up();
+    repaint();
+    if (counts) {
+        click();
+    }
+}
+
+bool PressWindow::contains(POINT where) const {
+    RECT area;
+    GetClientRect(window(), &area);
+    return PtInRect(&area, where) != FALSE;
+}
+
+void PressWindow::mouseMoved(POINT where) {
+    const bool inside = contains(where);
+    if (inside != hovered_) {
+        hovered_ = inside;
+        TRACKMOUSEEVENT track{sizeof track, TME_LEAVE, window(), 0};
+        TrackMouseEvent(&track);
+        repaint();
+    }
+    if (held_ && inside != overWhileHeld_) {
+        overWhileHeld_ = inside;
+        inside ? down() : up();
+        repaint();
+    }
+    hover(where);
+}
+
+LRESULT PressWindow::keyboard(UINT message, WPARAM key, LPARAM low) {
+    if (message == WM_GETDLGCODE) {
+        const auto* asked = reinterpret_cast<const MSG*>(low);
+        const bool isEnter = asked && asked->message == WM_KEYDOWN && asked->wParam == VK_RETURN;
+        return static_cast<LRESULT>(dialogCode() | (isEnter ? DLGC_WANTMESSAGE : 0U));
+    }
+    constexpr LPARAM wasDownBefore = 1 << 30;
+    if (message == WM_KEYDOWN && key == VK_SPACE && (low & wasDownBefore) == 0) {
+        press();
+    } else if (message == WM_KEYUP && key == VK_SPACE) {
+        release(true);
+    } else if (message == WM_KEYDOWN && key == VK_RETURN && (low & wasDownBefore) == 0) {
+        click();
+    }
+    return 0;
+}
+
+const Color& PressWindow::faceColor(const Face& face) const {
+    if (!control().isUsable()) {
+        return face.disabled;
+    }
+    if (isHeld()) {
+        return face.pressed;
+    }
+    return isHovered() ? face.hovered : face.normal;
+}
+
+void FlatButtonWindow::hover(POINT where) {
+    // The caption's line is the button's label; what lies above and below is the button's own ground.
+    RECT area;
+    GetClientRect(window(), &area);
+    const int halfLine = scale()(10);
+    const int middle = heightOf(area) / 2;
+    if (where.y < middle - halfLine || where.y > middle + halfLine || !contains(where)) {
+        button_.mouseMove();
+    } else if (button_.onMouseMove) {
+        button_.screen().dispatch(button_.onMouseMove);
+    }
+}
+
+void FlatButtonWindow::paint(Canvas& canvas) {
+    const Scale& scaled = canvas.scale();
+    const bool pressed = button_.Enabled() && button_.foreColor() == colors::white;
+    const Color face = pressed ? theme().button.pressed : faceColor(theme().button);
+    if (theme().highContrast) {
+        canvas.roundedBox(canvas.area(), scaled(4), face, theme().button.border, scaled(pressed ? 2 : 1));
+    } else {
+        canvas.roundedBox(canvas.area(), scaled(4), face);
+    }
+    const Color systemText = button_.isUsable() ? theme().button.border : theme().disabledText;
+    const Color text = theme().highContrast ? systemText : button_.foreColor();
+    canvas.text(button_.Caption(), inset(canvas.area(), scaled(6), scaled(1)),
+                {.color = text, .align = Align::Center, .mnemonics = true});
+    if (isFocused()) {
+        paintFocus(canvas, inset(canvas.area(), scaled(2), scaled(2)),
+                   theme().highContrast ? theme().focus : colors::white);
+    }
+}
+
+void ActionWindow::paint(Canvas& canvas) {
+    const Scale& scaled = canvas.scale();
+    canvas.roundedBox(canvas.area(), scaled(4), faceColor(theme().action), theme().action.border, scaled(1));
+    const Color own = theme().highContrast ? theme().action.border : label_.ForeColor();
+    canvas.text(label_.Caption(), inset(canvas.area(), scaled(8), scaled(1)),
+                {.color = label_.isUsable() ? own : theme().disabledText, .align = Align::Center});
+    if (isFocused()) {
+        paintFocus(canvas, inset(canvas.area(), scaled(2), scaled(2)), theme().focus);
+    }
+}
+
+NavButtonWindow::~NavButtonWindow() {
+    forgetPicture();
+}
+
+void NavButtonWindow::forgetPicture() {
+    if (picture_) {
+        DestroyIcon(picture_);
+        picture_ = nullptr;
+    }
+}
+
+void NavButtonWindow::arranged() {
+    forgetPicture();
+    const int size = scale()(32);
+    picture_ = static_cast<HICON>(LoadImageA(GetModuleHandleA(nullptr), button_.icon().c_str(), IMAGE_ICON,
+                                             size, size, LR_DEFAULTCOLOR));
+}
+
+void NavButtonWindow::paint(Canvas& canvas) {
+    const Scale& scaled = canvas.scale();
+    const RECT area = canvas.area();
+    const bool current = button_.Current();
+    if (current) {
+        canvas.fill(area, theme().navigationCurrent);
+        canvas.fill({0, 0, scaled(4), area.bottom}, theme().highContrast ? theme().focus : colors::white);
+    } else if (isHovered()) {
+        canvas.fill(area, theme().navigationHover);
+    }
+    const int size = scaled(32);
+    const int line = scaled(20);
+    const int gap = scaled(4);
+    const int top = (heightOf(area) - size - gap - line) / 2;
+    if (picture_) {
+        DrawIconEx(canvas.dc(), (widthOf(area) - size) / 2, top, picture_, size, size, 0, nullptr, DI_NORMAL);
+    }
+    canvas.text(button_.Caption(),
+                {scaled(8), top + size + gap, area.right - scaled(8), top + size + gap + line},
+                {.color = button_.isUsable() ? theme().navigation.text : theme().disabledText,
+                 .align = Align::Center,
+                 .mnemonics = true});
+    if (isFocused()) {
+        paintFocus(canvas, inset(area, scaled(2), scaled(2)),
+                   theme().highContrast ? theme().focus : theme().navigation.quietText);
+    }
+}
+
+} // namespace tarvelon

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "platform/win32/view_control.h"
+
+namespace tarvelon {
+
+class ProgressBarWindow : public ControlWindow {
+public:
+    ProgressBarWindow(FormWindow& form, ProgressBar& bar)
+        : ControlWindow(form, bar)
+        , bar_(bar) {}
+
+    void refresh() override;
+
+protected:
+    Kind kind() const override;
+    void paint(Canvas& canvas) override;
+    void arranged() override { tellClass(); }
+
+private:
+    /// For those who ask the window itself how far it is.
+    void tellClass();
+
+    ProgressBar& bar_;
+};
+
+} // namespace tarvelon

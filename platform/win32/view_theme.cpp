@@ -1,0 +1,76 @@
+#include "platform/win32/view_theme.h"
+
+namespace tarvelon {
+
+namespace {
+
+/// From the usual notation 0xRRGGBB.
+constexpr Color rgb(std::uint32_t notation) {
+    return ((notation & 0xff) << 16) | (notation & 0xff00) | (notation >> 16);
+}
+
+bool isHighContrast() {
+    HIGHCONTRASTA state{};
+    state.cbSize = sizeof state;
+    return SystemParametersInfoA(SPI_GETHIGHCONTRAST, sizeof state, &state, 0) &&
+           (state.dwFlags & HCF_HIGHCONTRASTON) != 0;
+}
+
+/// Black and white both read well on the faces of buttons: their captions change between the two.
+Theme ownTheme() {
+    return {
+        .highContrast = false,
+        .page = {rgb(0xEEF2F6), colors::black, rgb(0x55626F)},
+        .card = {rgb(0xFAFCFE), colors::black, rgb(0x55626F)},
+        .navigation = {rgb(0x1F2C3A), rgb(0xF2F6FA), rgb(0xB4C2D0)},
+        .border = rgb(0xB9C6D3),
+        .focus = rgb(0x1668C1),
+        .field = rgb(0xFFFFFF),
+        .fieldText = colors::black,
+        .selected = rgb(0x3A6391),
+        .selectedText = colors::white,
+        .disabledText = rgb(0x8A939D),
+        .link = colors::hoverBlue,
+        .button = {rgb(0x4D7AA8), rgb(0x6490BD), rgb(0x365C85), rgb(0x8D97A1), rgb(0x4D7AA8)},
+        .action = {rgb(0xD3E0ED), rgb(0xE6EFF8), rgb(0xB8CCE0), rgb(0xDDE2E7), rgb(0x8FABC8)},
+        .track = rgb(0xD5DEE7),
+        .bar = rgb(0x3F8F6B),
+        .navigationHover = rgb(0x2B3C4E),
+        .navigationCurrent = rgb(0x365C85),
+    };
+}
+
+Theme systemTheme() {
+    const auto system = [](int index) { return static_cast<Color>(GetSysColor(index)); };
+    const Surface window{system(COLOR_WINDOW), system(COLOR_WINDOWTEXT), system(COLOR_WINDOWTEXT)};
+    const Color face = system(COLOR_BTNFACE);
+    const Color edge = system(COLOR_BTNTEXT);
+    return {
+        .highContrast = true,
+        .page = window,
+        .card = window,
+        .navigation = window,
+        .border = system(COLOR_WINDOWTEXT),
+        .focus = system(COLOR_HIGHLIGHT),
+        .field = system(COLOR_WINDOW),
+        .fieldText = system(COLOR_WINDOWTEXT),
+        .selected = system(COLOR_HIGHLIGHT),
+        .selectedText = system(COLOR_HIGHLIGHTTEXT),
+        .disabledText = system(COLOR_GRAYTEXT),
+        .link = system(COLOR_HOTLIGHT),
+        .button = {face, face, face, face, edge},
+        .action = {face, face, face, face, edge},
+        .track = system(COLOR_WINDOW),
+        .bar = system(COLOR_HIGHLIGHT),
+        .navigationHover = system(COLOR_WINDOW),
+        .navigationCurrent = system(COLOR_WINDOW),
+    };
+}
+
+} // namespace
+
+Theme currentTheme() {
+    return isHighContrast() ? systemTheme() : ownTheme();
+}
+
+} // namespace tarvelon

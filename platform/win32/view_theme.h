@@ -1,0 +1,48 @@
+#pragma once
+
+#include "platform/win32/windows_api.h"
+#include "ui/controls/geometry.h"
+
+namespace tarvelon {
+
+/// What stands under a control decides its background and its quiet colours.
+struct Surface {
+    Color ground;
+    Color text;
+    Color quietText;
+};
+
+/// A face that is pressed: its colour as it lies, under the mouse, pressed, and when it cannot be used.
+struct Face {
+    Color normal;
+    Color hovered;
+    Color pressed;
+    Color disabled;
+    Color border;
+};
+
+/// All colours of the view. The user's own when the system is set to high contrast.
+struct Theme {
+    bool highContrast;
+    Surface page;
+    Surface card; ///< Inside a box with a title.
+    Surface navigation;
+    Color border;
+    Color focus;
+    Color field; ///< Behind typed text and rows.
+    Color fieldText;
+    Color selected;
+    Color selectedText;
+    Color disabledText;
+    Color link; ///< A check's label under the mouse.
+    Face button;
+    Face action; ///< Labels that are clicked.
+    Color track; ///< The part of a bar that is still to come.
+    Color bar;
+    Color navigationHover;
+    Color navigationCurrent;
+};
+
+Theme currentTheme();
+
+} // namespace tarvelon

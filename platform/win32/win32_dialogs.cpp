@@ -1,0 +1,88 @@
+#include "platform/win32/win32_dialogs.h"
+
+#include "platform/win32/shell_items.h"
+#include "platform/win32/windows_api.h"
+
+#include <commdlg.h>
+
+namespace tarvelon {
+
+namespace {
+
+constexpr const char* applicationTitle = "TarvelonLow";
+
+UINT buttonFlags(Buttons buttons) {
+    switch (buttons) {
+    case Buttons::OkCancel:
+        return MB_OKCANCEL;
+    case Buttons::YesNo:
+        return MB_YESNO;
+    case Buttons::Ok:
+        break;
+    }
+    return MB_OK;
+}
+
+UINT iconFlags(Icon icon) {
+    switch (icon) {
+    case Icon::Information:
+        return MB_ICONINFORMATION;
+    case Icon::Question:
+        return MB_ICONQUESTION;
+    case Icon::Warning:
+        return MB_ICONWARNING;
+    case Icon::Stop:
+        return MB_ICONSTOP;
+    case Icon::None:
+        break;
+    }
+    return 0;
+}
+
+Answer answerFrom(int button) {
+    switch (button) {
+    case IDYES:
+        return Answer::Yes;
+    case IDNO:
+        return Answer::No;
+    case IDCANCEL:
+        return Answer::Cancel;
+    default:
+        return Answer::Ok;
+    }
+}
+
+} // namespace
+
+Answer Win32Dialogs::message(const MessageBox& box) {
+    const HWND owner = GetActiveWindow();
+    const UINT modality = owner ? 0 : MB_TASKMODAL | MB_SETFOREGROUND;
+    const char* title = box.title.empty() ? applicationTitle : box.title.c_str();
+    return answerFrom(MessageBoxA(owner, box.text.c_str(), title,
+                                  buttonFlags(box.buttons) | iconFlags(box.icon) | modality));
+}
+
+bool Win32Dialogs::getOpenFileName(OpenFileRecord& record) {
+    OPENFILENAMEA request{};
+    // The record without its newer tail: the form of it that every Windows takes.
+    request.lStructSize = OPENFILENAME_SIZE_VERSION_400A;
+    request.hwndOwner = GetActiveWindow();
+    request.hInstance = GetModuleHandleA(nullptr);
+    request.lpstrFilter = record.filter.c_str();
+    request.nFilterIndex = record.filterIndex;
+    request.lpstrFile = record.file.data();
+    request.nMaxFile = record.maxFile;
+    request.lpstrTitle = record.title.empty() ? nullptr : record.title.c_str();
+    request.Flags = record.flags;
+    return GetOpenFileNameA(&request) != FALSE;
+}
+
+bool Win32Dialogs::browseForFolder(const std::string& title, std::uint32_t flags, char* buffer) {
+    BROWSEINFOA request{};
+    request.hwndOwner = GetActiveWindow();
+    request.lpszTitle = title.c_str();
+    request.ulFlags = flags;
+    return pathFromItems(SHBrowseForFolderA(&request), buffer);
+}
+
+} // namespace tarvelon

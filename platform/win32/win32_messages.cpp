@@ -1,0 +1,40 @@
+#include "platform/win32/win32_messages.h"
+
+#include "platform/win32/view.h"
+#include "platform/win32/windows_api.h"
+
+namespace tarvelon {
+
+void Win32MessageQueue::pump() {
+    view_.refreshIfDue();
+    MSG message;
+    while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {
+        if (message.message == WM_QUIT) {
+            // Left for the outermost loop.
+            PostQuitMessage(static_cast<int>(message.wParam));
+            return;
+        }
+        view_.handle(message);
+    }
+}
+
+void Win32MessageQueue::wait() {
+    view_.refresh();
+    WaitMessage();
+}
+
+std::uint32_t Win32MessageQueue::queueStatus(std::uint32_t flags) {
+    return GetQueueStatus(flags);
+}
+
+int Win32MessageQueue::run() {
+    MSG message;
+    while (GetMessageA(&message, nullptr, 0, 0) > 0) {
+        view_.handle(message);
+        const bool moreWaits = HIWORD(GetQueueStatus(QS_ALLINPUT)) != 0;
+        moreWaits ? view_.refreshIfDue() : view_.refresh();
+    }
+    return static_cast<int>(message.wParam);
+}
+
+} // namespace tarvelon

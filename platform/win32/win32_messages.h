@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/messages.h"
+
+namespace tarvelon {
+
+class Win32View;
+
+class Win32MessageQueue : public MessageQueue {
+public:
+    /// `view` gets each message first, for keys and navigation in its forms.
+    explicit Win32MessageQueue(Win32View& view)
+        : view_(view) {}
+
+    void pump() override;
+    void wait() override;
+    std::uint32_t queueStatus(std::uint32_t flags) override;
+
+    /// Handles messages until the thread is told to quit, and gives the exit code.
+    int run();
+
+private:
+    Win32View& view_;
+};
+
+} // namespace tarvelon

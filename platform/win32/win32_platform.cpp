@@ -1,0 +1,36 @@
+#include "platform/win32/win32_platform.h"
+
+#include "platform/win32/system_library.h"
+#include "platform/win32/windows_api.h"
+
+#include <objbase.h>
+
+namespace tarvelon {
+
+namespace {
+
+/// Libraries loaded later are not looked for in the current folder, which may be anybody's.
+void forgetCurrentFolderForLibraries() {
+    const SystemLibrary kernel("kernel32.dll");
+    using SetDllDirectory = BOOL WINAPI(LPCSTR path);
+    if (const auto setDllDirectory = kernel.find<SetDllDirectory>("SetDllDirectoryA")) {
+        setDllDirectory("");
+    }
+}
+
+} // namespace
+
+Win32Platform::Win32Platform() {
+    forgetCurrentFolderForLibraries();
+    CoInitialize(nullptr);
+}
+
+Win32Platform::~Win32Platform() {
+    CoUninitialize();
+}
+
+Platform Win32Platform::platform() {
+    return {codePage_, files_, folders_, crypto_, messages_, dialogs_, processes_};
+}
+
+} // namespace tarvelon

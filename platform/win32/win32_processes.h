@@ -1,0 +1,17 @@
+#pragma once
+
+#include "platform/processes.h"
+
+namespace tarvelon {
+
+class Win32Processes : public Processes {
+public:
+    std::string programFile() override;
+    std::string commandLine() override;
+    bool start(const std::string& commandLine, WindowStyle style) override;
+
+protected:
+    [[noreturn]] void endNow() override;
+};
+
+} // namespace tarvelon
