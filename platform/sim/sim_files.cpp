@@ -64,6 +64,21 @@ void makeStampDiffer(const std::string& host, const timespec& before) {
     ::utimensat(AT_FDCWD, host.c_str(), times, 0);
 }
 
+template<class Visit>
+void forEachEntry(const std::string& hostFolder, Visit visit) {
+    DIR* const folder = ::opendir(hostFolder.c_str());
+    if (!folder) {
+        return;
+    }
+    while (const dirent* entry = ::readdir(folder)) {
+        const std::string name = entry->d_name;
+        if (name != "." && name != "..") {
+            visit(name);
+        }
+    }
+    ::closedir(folder);
+}
+
 } // namespace
 
 SimFiles::SimFiles(Faults& faults)
@@ -308,35 +323,24 @@ std::optional<std::string> SimFiles::find(const Place& asked, bool newLast) cons
 
 std::string SimFiles::entryLike(const std::string& hostFolder, const std::string& name) const {
     const std::string wanted = upper(name);
-    for (const std::string& entry : namesIn(hostFolder)) {
+    std::string found;
+    forEachEntry(hostFolder, [&](const std::string& entry) {
         if (upper(entry) == wanted) {
-            return entry;
+            found = entry;
         }
-    }
-    return {};
+    });
+    return found;
 }
 
 /// Without the dot entries, in the order of the upper-cased names.
 std::vector<std::string> SimFiles::namesIn(const std::string& hostFolder) const {
-    struct Entry {
-        std::string key;
-        std::string name;
-    };
-    std::vector<Entry> entries;
-    if (DIR* const folder = ::opendir(hostFolder.c_str())) {
-        while (const dirent* entry = ::readdir(folder)) {
-            const std::string name = entry->d_name;
-            if (name != "." && name != "..") {
-                entries.push_back({upper(name), name});
-            }
-        }
-        ::closedir(folder);
-    }
-    std::sort(entries.begin(), entries.end(), [](const Entry& a, const Entry& b) { return a.key < b.key; });
+    std::vector<std::pair<std::string, std::string>> entries; // Upper-cased and as it is.
+    forEachEntry(hostFolder, [&](const std::string& entry) { entries.emplace_back(upper(entry), entry); });
+    std::sort(entries.begin(), entries.end());
     std::vector<std::string> names;
     names.reserve(entries.size());
-    for (Entry& entry : entries) {
-        names.push_back(std::move(entry.name));
+    for (auto& [key, name] : entries) {
+        names.push_back(std::move(name));
     }
     return names;
 }

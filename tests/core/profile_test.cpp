@@ -78,7 +78,7 @@ TEST(ProfileImage, AChangedImageIsTheSameAsAFreshlyReadOne) {
     const auto number = [&](int to) { return std::uniform_int_distribution<int>(0, to)(random); };
     ProfileImage kept(cases);
     std::string text;
-    for (int round = 0; round < 5000; ++round) {
+    for (int round = 0; round < 1500; ++round) {
         if (number(200) == 0) {
             text += number(1) ? "\r\n" : "\n[" + std::to_string(number(3)) + "]\nopen=";
             kept.setText(text);
