@@ -3,7 +3,8 @@
 
 int main() {
     tarvelon::Win32Platform system;
-    tarvelon::Application application(system.platform());
+    tarvelon::Platform platform = system.platform();
+    tarvelon::Application application(platform);
     for (tarvelon::Screen* screen : application.screens()) {
         system.view().attach(*screen);
     }

@@ -16,7 +16,7 @@ struct PassLabels {
 /// The scan window: progress, results and failed files, three views laid over each other.
 struct IntCheckScreen : Screen {
     IntCheckScreen()
-        : Screen("AutoCheck", 600, 456) {
+        : Screen("AutoCheck", 600, 452) {
         for (Label* hidden : {&pb1max, &pb2max, &pbm}) {
             hidden->Visible = false;
         }
@@ -56,8 +56,8 @@ struct IntCheckScreen : Screen {
     Label l_cust{Frame1, "", at(32, 290, 552, 18), TextStyle::Hint};
     Label l_scust{Frame1, "0%", at(384, 272, 200, 18), TextStyle::Gauge};
 
-    FlatButton Image9{Frame1, "Pause", at(16, 316, 120, 32)};
-    Label Label11{Frame1, "Resume", at(144, 316, 120, 32), TextStyle::Action, false};
+    FlatButton Image9{Frame1, "Pause", at(464, 316, 120, 32)};
+    Label Label11{Frame1, "Resume", at(336, 316, 120, 32), TextStyle::Action, false};
 
     // Results.
     Frame Frame2{*this, at(0, 48, 600, 352), false};
@@ -80,7 +80,7 @@ struct IntCheckScreen : Screen {
     Label Label12{Frame3, "Scan Failing Files...", at(16, 312, 280, 36), TextStyle::Action};
 
     // Under every view, so that the results can be left as well.
-    FlatButton Image11{*this, "Cancel", at(464, 408, 120, 32)};
+    FlatButton Image11{*this, "Cancel", at(464, 404, 120, 32)};
 
     // The scanners' programs and arguments; never shown.
     TextBox Text1{*this, at(0, 0, 8, 8), false};
