@@ -16,7 +16,7 @@ namespace e2e {
 using Milliseconds = std::chrono::milliseconds;
 
 /// How long something on the screen may take before a test gives up: far longer than any healthy run.
-constexpr Milliseconds patience{4'000};
+constexpr Milliseconds patience{60'000};
 
 /// What was looked for did not come. The text tells what was on the screen instead.
 class NotSeen : public std::runtime_error {

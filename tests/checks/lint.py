@@ -1,0 +1,60 @@
+#!/usr/bin/env python3
+"""Runs clang-tidy over the product's sources: lint.py BUILD-FOLDER STAMP-FOLDER
+
+A source that passed leaves a stamp keyed on everything that could change the outcome, and is not looked at again
+until one of those things changes.
+"""
+
+import concurrent.futures
+import hashlib
+import json
+import os
+import pathlib
+import subprocess
+import sys
+
+NOT_PRODUCT = {"tests", "bench", "build"}
+
+
+def digest(*parts):
+    whole = hashlib.sha256()
+    for part in parts:
+        whole.update(hashlib.sha256(part).digest())
+    return whole.hexdigest()
+
+
+def product_commands(root, build):
+    for command in json.loads((build / "compile_commands.json").read_text()):
+        path = pathlib.Path(command["file"])
+        if path.is_relative_to(root) and path.relative_to(root).parts[0] not in NOT_PRODUCT:
+            yield path, command["command"]
+
+
+def main():
+    build, stamps = (pathlib.Path(argument).resolve() for argument in sys.argv[1:])
+    root = pathlib.Path.cwd()
+    stamps.mkdir(parents=True, exist_ok=True)
+    headers = [path for path in sorted(root.rglob("*.h")) if path.relative_to(root).parts[0] != "build"]
+    version = subprocess.run(["clang-tidy", "--version"], check=True, capture_output=True).stdout
+    shared = digest(version, (root / ".clang-tidy").read_bytes(), *(path.read_bytes() for path in headers))
+
+    def lint(path, command):
+        stamp = stamps / digest(shared.encode(), command.encode(), path.read_bytes())
+        if stamp.exists():
+            return None
+        run = subprocess.run(["clang-tidy", "--quiet", "-p", build, path], capture_output=True, text=True)
+        if run.returncode == 0:
+            stamp.touch()
+            return None
+        return run.stdout + (run.stderr if not run.stdout else "")
+
+    commands = dict(product_commands(root, build))
+    with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
+        findings = [text for text in pool.map(lint, commands.keys(), commands.values()) if text is not None]
+    print("".join(findings), end="")
+    print(f"{len(commands)} sources, {len(findings)} with findings")
+    return 1 if findings or not commands else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
