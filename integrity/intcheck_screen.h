@@ -61,14 +61,14 @@ struct IntCheckScreen : Screen {
 
     // Results.
     Frame Frame2{*this, at(0, 48, 600, 352), false};
-    Label Label1{Frame2, "Total Files Scanned:", at(32, 24, 280, 32)};
-    Label Label6{Frame2, "1000", at(328, 24, 160, 32), TextStyle::Value};
-    Label Label3{Frame2, "New Files:", at(32, 72, 280, 32)};
-    Label Label8{Frame2, "1000", at(328, 72, 160, 32), TextStyle::Value};
-    Label Label4{Frame2, "Failed Files:", at(32, 120, 280, 32)};
-    Label Label9{Frame2, "1000", at(328, 120, 160, 32), TextStyle::Value};
-    Label Label5{Frame2, "Passing Files:", at(32, 168, 280, 32)};
-    Label Label7{Frame2, "1000", at(328, 168, 160, 32), TextStyle::Value};
+    Label Label1{Frame2, "Total Files Scanned:", at(32, 24, 168, 32)};
+    Label Label6{Frame2, "1000", at(208, 24, 104, 32), TextStyle::Value};
+    Label Label3{Frame2, "New Files:", at(32, 72, 168, 32)};
+    Label Label8{Frame2, "1000", at(208, 72, 104, 32), TextStyle::Value};
+    Label Label4{Frame2, "Failed Files:", at(32, 120, 168, 32)};
+    Label Label9{Frame2, "1000", at(208, 120, 104, 32), TextStyle::Value};
+    Label Label5{Frame2, "Passing Files:", at(32, 168, 168, 32)};
+    Label Label7{Frame2, "1000", at(208, 168, 104, 32), TextStyle::Value};
     Label Label14{Frame2, "Scan Complete. No new or modified files were found.", at(32, 232, 536, 24),
                   TextStyle::Heading, false};
     Label Label2{Frame2, "Repair and Update Failed Files...", at(32, 280, 280, 36), TextStyle::Action};
