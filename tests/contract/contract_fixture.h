@@ -7,6 +7,7 @@
 #include "platform/messages.h"
 #include "platform/platform.h"
 #include "platform/processes.h"
+#include "ui/controls/controls.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -33,6 +34,8 @@ public:
     virtual std::shared_ptr<void> lock(const std::string& path) = 0;
     /// Removes the key container of the empty name.
     virtual void removeDefaultKeyContainer() = 0;
+    /// Its timers run from its loading on. The screen outlives the workstation.
+    virtual void attach(Screen& screen) = 0;
     /// Whether a command line that makes this file has been run, at the latest within some seconds.
     virtual bool hasMade(const std::string& path, const std::string& commandLine) = 0;
 };

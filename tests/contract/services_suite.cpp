@@ -157,6 +157,41 @@ TEST_F(Contract, AnEmptyQueuePumpsAndHasNoInput) {
     EXPECT_EQ(platform.messages.queueStatus(0x85), 0u) << "No key, mouse button or hot key waits";
 }
 
+TEST_F(Contract, TimersTickInPumpsWhileEnabled) {
+    struct TimerScreen : Screen {
+        TimerScreen()
+            : Screen("Timers", 100, 100) {}
+        Timer repeating{*this, 20};
+        Timer oneShot{*this, 1};
+    } screen;
+    workstation->attach(screen);
+    screen.load();
+    int ticks = 0;
+    screen.repeating.onTick = [&] { screen.repeating.Enabled = ++ticks < 3; };
+    int shots = 0;
+    screen.oneShot.onTick = [&] {
+        screen.oneShot.Enabled = false;
+        ++shots;
+        platform.messages.pump(); // As long work does; the timer must not come again.
+    };
+    const auto waitFor = [&](const auto& reached) {
+        while (!reached()) {
+            platform.messages.wait();
+            platform.messages.pump();
+        }
+    };
+    screen.oneShot.Enabled = true;
+    waitFor([&] { return shots == 1; });
+    EXPECT_EQ(ticks, 0) << "Still disabled";
+    screen.repeating.Enabled = true;
+    EXPECT_EQ(ticks, 0) << "Ticks in pumps only";
+    waitFor([&] { return ticks == 3; });
+    screen.oneShot.Enabled = true;
+    waitFor([&] { return shots == 2; });
+    EXPECT_EQ(ticks, 3) << "Disabled in its own tick";
+    workstation.reset();
+}
+
 } // namespace
 
 } // namespace tarvelon

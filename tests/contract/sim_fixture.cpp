@@ -25,6 +25,7 @@ public:
         return std::shared_ptr<void>(&sim_, [this, path](void*) { sim_.files.unlock(path); });
     }
     void removeDefaultKeyContainer() override { sim_.crypto.containers.clear(); }
+    void attach(Screen& screen) override { sim_.attach(screen); }
     bool hasMade(const std::string&, const std::string& commandLine) override {
         return std::ranges::any_of(sim_.processes.started(), [&](const StartedProcess& process) {
             return process.commandLine == commandLine;

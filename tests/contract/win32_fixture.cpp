@@ -66,6 +66,7 @@ public:
         HCRYPTPROV none = 0;
         CryptAcquireContextA(&none, "", MS_ENHANCED_PROV_A, PROV_RSA_FULL, CRYPT_DELETEKEYSET);
     }
+    void attach(Screen& screen) override { win32_.view().attach(screen); }
     bool hasMade(const std::string& path, const std::string&) override {
         for (int tries = 0; tries < 100; ++tries) {
             if (GetFileAttributesA(path.c_str()) != INVALID_FILE_ATTRIBUTES) {
