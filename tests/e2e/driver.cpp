@@ -29,13 +29,26 @@ std::string textOf(HWND window) {
     return text;
 }
 
+std::string narrow(const wchar_t* wide) {
+    char text[4096] = {};
+    WideCharToMultiByte(CP_ACP, 0, wide, -1, text, sizeof text, nullptr, nullptr);
+    return text;
+}
+
+/// The text as the system keeps it. Unlike `textOf`, it asks nothing of the program, which answers only
+/// between two files while it scans.
+std::string shownText(HWND window) {
+    wchar_t wide[1024] = {};
+    InternalGetWindowText(window, wide, 1024);
+    return narrow(wide);
+}
+
 /// Wide, since the narrow message comes back unconverted from another process.
 std::string rowText(HWND list, WPARAM row) {
     wchar_t wide[1024] = {};
-    SendMessageTimeoutW(list, LB_GETTEXT, row, reinterpret_cast<LPARAM>(wide), SMTO_NORMAL, answerTime, nullptr);
-    char text[1024] = {};
-    WideCharToMultiByte(CP_ACP, 0, wide, -1, text, sizeof text, nullptr, nullptr);
-    return text;
+    SendMessageTimeoutW(list, LB_GETTEXT, row, reinterpret_cast<LPARAM>(wide), SMTO_NORMAL, answerTime,
+                        nullptr);
+    return narrow(wide);
 }
 
 /// The texts of buttons mark their access key with "&".
@@ -84,7 +97,8 @@ void clickOn(HWND control) {
         },
         Milliseconds(answerTime));
     if (!open) {
-        throw NotSeen("\"" + textOf(control) + "\" is covered by \"" + textOf(WindowFromPoint(centre)) + "\"");
+        throw NotSeen("\"" + textOf(control) + "\" is covered by \"" + textOf(WindowFromPoint(centre)) +
+                      "\"");
     }
     Sleep(hand);
     mouse(MOUSEEVENTF_LEFTDOWN);
@@ -133,7 +147,7 @@ std::string plainBreaks(const std::string& text) {
 }
 
 std::string Form::caption() const {
-    return textOf(window_);
+    return shownText(window_);
 }
 
 bool Form::isVisible() const {
@@ -142,7 +156,7 @@ bool Form::isVisible() const {
 
 HWND Form::find(const std::string& text) const {
     for (HWND child : visibleChildren(window_)) {
-        if (withoutMarks(textOf(child)) == text) {
+        if (withoutMarks(shownText(child)) == text) {
             return child;
         }
     }
@@ -207,7 +221,7 @@ void Form::close() const {
 std::string Form::describe() const {
     std::string texts = "window \"" + caption() + "\":";
     for (HWND child : visibleChildren(window_)) {
-        const std::string text = textOf(child);
+        const std::string text = shownText(child);
         texts += text.empty() ? "" : " [" + text + "]";
     }
     return texts;
@@ -264,7 +278,7 @@ std::vector<HWND> Program::windows() const {
 
 std::optional<HWND> Program::formNow(const std::string& captionPart) const {
     for (HWND window : windows()) {
-        if (classOf(window) == "TarvelonForm" && textOf(window).find(captionPart) != std::string::npos) {
+        if (classOf(window) == "TarvelonForm" && shownText(window).find(captionPart) != std::string::npos) {
             return window;
         }
     }

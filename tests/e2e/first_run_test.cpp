@@ -101,8 +101,8 @@ TEST(FirstRun, EverySwitchNeedsABaseline) {
 /// Enough work at the head of the system directory that a scan can be met while it runs.
 class RunningFirstScan : public testing::Test {
 protected:
-    static constexpr int fileCount = 24;
-    static constexpr std::int64_t fileLength = std::int64_t{512} << 20; // about a quarter of a second each
+    static constexpr int fileCount = 30;
+    static constexpr std::int64_t fileLength = std::int64_t{3} << 29; // a fifth of a second each, or more
 
     RunningFirstScan() {
         for (int number = 0; number < fileCount; ++number) {
@@ -136,7 +136,7 @@ TEST_F(RunningFirstScan, PausesGoesOnAndIsAbandonedForGood) {
     std::string before;
     ASSERT_TRUE(comesTrue([&] {
         before = scan.describe();
-        Sleep(1500);
+        Sleep(3000);
         return scan.describe() == before;
     })) << scan.describe();
     scan.click("Resume");
