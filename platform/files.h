@@ -67,6 +67,10 @@ public:
     /// `SearchTreeForFile`: looks for the name in the whole tree below `root`. On a hit, fills `buffer` (at
     /// least 260 bytes) with the path and a zero.
     virtual bool searchTreeForFile(const std::string& root, const std::string& name, char* buffer) = 0;
+
+    /// `GetShortPathNameA`, each name in the form of at most eight and three characters: the length without
+    /// the final zero; more than `size` when the buffer is too small; 0 on failure, as for what is not there.
+    virtual std::uint32_t getShortPathName(const std::string& path, char* buffer, std::uint32_t size) = 0;
 };
 
 } // namespace tarvelon

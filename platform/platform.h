@@ -9,6 +9,9 @@ class CryptoService;
 class MessageQueue;
 class Dialogs;
 class Processes;
+class Registry;
+class Clock;
+class Shell;
 
 /// Everything outside the process, one interface for each group of system calls.
 struct Platform {
@@ -19,6 +22,9 @@ struct Platform {
     MessageQueue& messages;
     Dialogs& dialogs;
     Processes& processes;
+    Registry& registry;
+    Clock& clock;
+    Shell& shell;
 };
 
 } // namespace tarvelon

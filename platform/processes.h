@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdlib>
 #include <string>
 
@@ -18,6 +19,9 @@ public:
 
     /// What stands behind the program's name on the command line, as typed.
     virtual std::string commandLine() = 0;
+
+    /// Major, minor and revision number of the program's version record; zeros when it has none.
+    virtual std::array<int, 3> programVersion() = 0;
 
     /// Starts a command line and does not wait for it. False when it cannot be started.
     virtual bool start(const std::string& commandLine, WindowStyle style) = 0;

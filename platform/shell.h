@@ -8,10 +8,14 @@ namespace tarvelon {
 /// Opening documents and addresses with the programs that the user's system has for them.
 class Shell {
 public:
+    /// The system's codes that a caller may want to tell apart.
+    static constexpr std::intptr_t fileNotFound = 2;
+    static constexpr std::intptr_t noProgram = 31;
+
     virtual ~Shell() = default;
 
-    /// `ShellExecuteA` with the desktop as owner and a normal window: more than 32 on success, else the
-    /// system's code (2: not found, 31: no program for it). An empty folder stands for none.
+    /// `ShellExecuteA` with the desktop as owner, the verb "Open" and a normal window: more than 32 on
+    /// success, else the system's code. The folder is where a file without a path lies; empty for none.
     virtual std::intptr_t open(const std::string& file, const std::string& folder) = 0;
 };
 

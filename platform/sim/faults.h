@@ -19,6 +19,7 @@ enum class Operation {
     RemoveFile,
     CreateFolder,
     SearchTree,
+    ShortPath,
     SystemDirectory,
     WindowsDirectory,
     SpecialFolder,
@@ -28,6 +29,13 @@ enum class Operation {
     GetHashParam,
     DestroyHash,
     StartProcess,
+    OpenKey,
+    EnumKey,
+    EnumValue,
+    QueryValue,
+    DeleteValue,
+    CloseKey,
+    OpenDocument,
     count_,
 };
 

@@ -2,6 +2,7 @@
 
 #include "platform/sim/faults.h"
 #include "platform/sim/host_file.h"
+#include "platform/sim/short_names.h"
 
 #include <dirent.h>
 #include <fcntl.h>
@@ -249,6 +250,39 @@ bool SimFiles::searchTreeForFile(const std::string& root, const std::string& nam
     return true;
 }
 
+std::uint32_t SimFiles::getShortPathName(const std::string& path, char* buffer, std::uint32_t size) {
+    const auto asked = place(path);
+    const auto host = asked ? find(*asked) : std::nullopt;
+    if (faults_.strikes(Operation::ShortPath) || !host) {
+        return 0;
+    }
+    std::string shortPath = path.substr(0, 3) + shortPathTo(*host, asked->rootLength);
+    if (!asked->isRoot() && path.back() == '\\') {
+        shortPath += '\\';
+    }
+    if (const auto set = shortPaths_.find(lockName(path)); set != shortPaths_.end()) {
+        shortPath = set->second;
+    }
+    const auto length = static_cast<std::uint32_t>(shortPath.size());
+    if (length >= size) {
+        return length + 1;
+    }
+    std::memcpy(buffer, shortPath.c_str(), length + 1);
+    return length;
+}
+
+/// Of the names behind the drive's root, without a backslash in front of them.
+std::string SimFiles::shortPathTo(const std::string& host, std::size_t rootLength) const {
+    std::string path;
+    for (std::size_t from = rootLength + 1; from < host.size();) {
+        const std::size_t slash = std::min(host.find('/', from), host.size());
+        path += path.empty() ? "" : "\\";
+        path += shortNameOf(host.substr(from, slash - from), namesIn(host.substr(0, from - 1)));
+        from = slash + 1;
+    }
+    return path;
+}
+
 std::optional<std::string> SimFiles::searchFolder(const std::string& hostFolder,
                                                   const std::string& shownFolder,
                                                   const std::string& upperName) const {
@@ -329,7 +363,13 @@ std::string SimFiles::entryLike(const std::string& hostFolder, const std::string
             found = entry;
         }
     });
-    return found;
+    if (!found.empty() || name.find('~') == std::string::npos) {
+        return found;
+    }
+    const std::vector<std::string> names = namesIn(hostFolder);
+    const auto hit = std::ranges::find_if(
+        names, [&](const std::string& entry) { return shortNameOf(entry, names) == wanted; });
+    return hit == names.end() ? std::string() : *hit;
 }
 
 /// Without the dot entries, in the order of the upper-cased names.

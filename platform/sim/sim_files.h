@@ -13,8 +13,8 @@ namespace tarvelon {
 class Faults;
 
 /// Real files below host folders that stand for drives. Names count without regard to case, in code page
-/// 1252, and are kept on the host byte for byte. A name in the right case costs what the host's own call
-/// costs.
+/// 1252, and are kept on the host byte for byte; every entry is found by its short name too. A name in the
+/// right case costs what the host's own call costs.
 class SimFiles : public Files {
 public:
     explicit SimFiles(Faults& faults);
@@ -37,6 +37,10 @@ public:
     /// The file is read-only.
     void denyWrites(const std::string& path) { readOnly_.insert(lockName(path)); }
     void allowWrites(const std::string& path) { readOnly_.erase(lockName(path)); }
+    /// The short path of what is there, in place of the one made from its names.
+    void setShortPath(const std::string& path, const std::string& shortPath) {
+        shortPaths_[lockName(path)] = shortPath;
+    }
 
     std::string firstName(const std::string& folder) override;
     std::string nextName() override;
@@ -46,6 +50,7 @@ public:
     bool remove(const std::string& path) override;
     bool createFolder(const std::string& path) override;
     bool searchTreeForFile(const std::string& root, const std::string& name, char* buffer) override;
+    std::uint32_t getShortPathName(const std::string& path, char* buffer, std::uint32_t size) override;
 
 private:
     /// A path on the host, in the case as asked for.
@@ -62,6 +67,7 @@ private:
     std::optional<std::string> find(const Place& place, bool newLast = false) const;
     std::string entryLike(const std::string& hostFolder, const std::string& name) const;
     std::vector<std::string> namesIn(const std::string& hostFolder) const;
+    std::string shortPathTo(const std::string& host, std::size_t rootLength) const;
     std::optional<std::string> searchFolder(const std::string& hostFolder, const std::string& shownFolder,
                                             const std::string& upperName) const;
 
@@ -74,6 +80,7 @@ private:
     std::map<char, std::string> drives_;
     std::set<std::string> locked_;
     std::set<std::string> readOnly_;
+    std::map<std::string, std::string> shortPaths_;
     std::vector<std::string> listing_;
     std::size_t nextInListing_ = 0;
 };

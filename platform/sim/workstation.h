@@ -10,6 +10,8 @@
 #include "platform/sim/sim_folders.h"
 #include "platform/sim/sim_messages.h"
 #include "platform/sim/sim_processes.h"
+#include "platform/sim/sim_registry.h"
+#include "platform/sim/sim_shell.h"
 #include "platform/sim/sim_view.h"
 
 namespace tarvelon {
@@ -40,9 +42,12 @@ public:
     SimMessages messages{clock, view};
     SimDialogs dialogs;
     SimProcesses processes{faults};
+    SimRegistry registry{faults};
+    SimShell shell{faults, files};
 
 private:
-    Platform platform_{codePage, files, folders, crypto, messages, dialogs, processes};
+    Platform platform_{codePage, files,     folders,  crypto, messages,
+                       dialogs,  processes, registry, clock,  shell};
     std::string ownFolder_; ///< Empty when the folder was given.
 };
 

@@ -68,4 +68,8 @@ bool Win32Files::searchTreeForFile(const std::string& root, const std::string& n
     return search && search(root.c_str(), name.c_str(), buffer) != FALSE;
 }
 
+std::uint32_t Win32Files::getShortPathName(const std::string& path, char* buffer, std::uint32_t size) {
+    return GetShortPathNameA(path.c_str(), buffer, size);
+}
+
 } // namespace tarvelon

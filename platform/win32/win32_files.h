@@ -19,6 +19,7 @@ public:
     bool remove(const std::string& path) override;
     bool createFolder(const std::string& path) override;
     bool searchTreeForFile(const std::string& root, const std::string& name, char* buffer) override;
+    std::uint32_t getShortPathName(const std::string& path, char* buffer, std::uint32_t size) override;
 
 private:
     void endListing();

@@ -2,6 +2,7 @@
 
 #include "platform/platform.h"
 #include "platform/win32/view.h"
+#include "platform/win32/win32_clock.h"
 #include "platform/win32/win32_codepage.h"
 #include "platform/win32/win32_crypto.h"
 #include "platform/win32/win32_dialogs.h"
@@ -9,6 +10,8 @@
 #include "platform/win32/win32_folders.h"
 #include "platform/win32/win32_messages.h"
 #include "platform/win32/win32_processes.h"
+#include "platform/win32/win32_registry.h"
+#include "platform/win32/win32_shell.h"
 
 namespace tarvelon {
 
@@ -33,6 +36,9 @@ private:
     Win32CryptoService crypto_;
     Win32Dialogs dialogs_;
     Win32Processes processes_;
+    Win32Registry registry_;
+    Win32Clock clock_;
+    Win32Shell shell_;
     Win32View view_;
     Win32MessageQueue messages_{view_};
 };

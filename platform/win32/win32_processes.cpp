@@ -2,9 +2,25 @@
 
 #include "platform/win32/windows_api.h"
 
+#include <cstddef>
 #include <cstring>
 
 namespace tarvelon {
+
+namespace {
+
+/// How a version record begins in a program's resources. The system's headers leave this to the reader.
+struct VersionRecord {
+    WORD length;
+    WORD valueLength;
+    WORD type;
+    WCHAR key[16]; ///< "VS_VERSION_INFO" and its zero.
+    WORD padding;
+    VS_FIXEDFILEINFO fixed;
+};
+static_assert(offsetof(VersionRecord, fixed) == 40);
+
+} // namespace
 
 std::string Win32Processes::programFile() {
     std::string path(MAX_PATH, '\0');
@@ -28,6 +44,22 @@ std::string Win32Processes::commandLine() {
     }
     const char* rest = quoted ? nameEnd + 1 : nameEnd;
     return rest + std::strspn(rest, " \t");
+}
+
+std::array<int, 3> Win32Processes::programVersion() {
+    const HRSRC found = FindResourceA(nullptr, MAKEINTRESOURCEA(VS_VERSION_INFO), RT_VERSION);
+    const HGLOBAL loaded = found ? LoadResource(nullptr, found) : nullptr;
+    const void* record = loaded ? LockResource(loaded) : nullptr;
+    if (!record || SizeofResource(nullptr, found) < sizeof(VersionRecord)) {
+        return {};
+    }
+    VersionRecord version;
+    std::memcpy(&version, record, sizeof version);
+    if (version.fixed.dwSignature != VS_FFI_SIGNATURE) {
+        return {};
+    }
+    return {HIWORD(version.fixed.dwFileVersionMS), LOWORD(version.fixed.dwFileVersionMS),
+            HIWORD(version.fixed.dwFileVersionLS)};
 }
 
 bool Win32Processes::start(const std::string& commandLine, WindowStyle style) {

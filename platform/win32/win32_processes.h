@@ -8,6 +8,7 @@ class Win32Processes : public Processes {
 public:
     std::string programFile() override;
     std::string commandLine() override;
+    std::array<int, 3> programVersion() override;
     bool start(const std::string& commandLine, WindowStyle style) override;
 
 protected:
