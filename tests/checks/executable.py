@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """Looks into the finished program file: executable.py FILE
 
-Size, protection flags, and that everything it imports is in Windows XP with Service Pack 2: the list of such calls
-stands beside this script.
+Size, protection flags, and imports: only the system's own libraries, and for the 32-bit program only calls that are in
+Windows XP with Service Pack 2. The list of them stands beside this script.
 """
 
 import pathlib
@@ -56,6 +56,9 @@ def faults(path):
     for name, flag in wanted.items():
         if not flags & flag:
             yield f"not marked: {name}"
+    subsystem = re.search(r"^MajorSubsystemVersion\s+(\d+)", dump, re.M)[1]
+    if not is_64_bit and int(subsystem) > 4:
+        yield f"marked for Windows {subsystem}.0 and later"
     if "relocations stripped" in dump:
         yield "no relocations left to move it by"
 
@@ -64,7 +67,7 @@ def faults(path):
         seen += 1
         if library not in known:
             yield f"{library} is not one of the system's own libraries"
-        elif name not in known[library]:
+        elif not is_64_bit and name not in known[library]:
             yield f"{name} of {library} is not known to be in Windows XP; see tests/checks/xp_calls.txt"
     if not seen:
         yield "no imports found; has the output of objdump changed?"
