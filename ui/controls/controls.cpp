@@ -235,6 +235,28 @@ ListBox::ListBox(ControlParent parent, Rect place, bool visible)
     Visible = visible;
 }
 
+CheckListBox::CheckListBox(ControlParent parent, Rect place)
+    : ItemControl(ControlKind::CheckList, parent, "", place) {}
+
+bool CheckListBox::ticked(int index) const {
+    return index >= 0 && static_cast<std::size_t>(index) < ticks_.size() &&
+           ticks_[static_cast<std::size_t>(index)];
+}
+
+void CheckListBox::setTicked(int index, bool ticked) {
+    if (index < 0 || index >= count() || this->ticked(index) == ticked) {
+        return;
+    }
+    ticks_.resize(static_cast<std::size_t>(count()), false);
+    ticks_[static_cast<std::size_t>(index)] = ticked;
+    changed(Aspect::Value);
+}
+
+void CheckListBox::toggle(int index) {
+    setTicked(index, !ticked(index));
+    select(index);
+}
+
 ComboBox::ComboBox(ControlParent parent, Rect place)
     : ItemControl(ControlKind::ComboBox, parent, "", place) {}
 

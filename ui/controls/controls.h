@@ -19,6 +19,7 @@ enum class ControlKind {
     NavButton,
     TextBox,
     ListBox,
+    CheckList,
     ComboBox,
     ProgressBar,
     Timer,
@@ -92,6 +93,7 @@ enum class TextStyle {
     Value,  ///< A figure that people look for: large, to the right.
     Gauge,  ///< A percentage such as "57%", drawn as a bar behind its text as well.
     Hint,   ///< Explanations: quieter than the texts around them.
+    Link,   ///< Opens something elsewhere: underlined, with a hand under the mouse.
     Action, ///< A label that is clicked like a button: drawn with a face that lights up under the mouse.
 };
 
@@ -169,6 +171,10 @@ private:
 class CheckBox : public Control {
 public:
     CheckBox(ControlParent parent, std::string caption, Rect place);
+
+    Property<Color, Control, Aspect::TextColor> ForeColor{*this, colors::black};
+    /// Empty: the ground it stands on.
+    Property<std::optional<Color>, Control, Aspect::TextColor> BackColor{*this, std::nullopt};
 
     /// 0 or 1.
     int value() const { return value_; }
@@ -260,6 +266,21 @@ private:
 class ListBox : public ItemControl {
 public:
     ListBox(ControlParent parent, Rect place, bool visible = true);
+};
+
+/// A list whose rows carry a tick each. A click on a row flips its tick and then tells of the click.
+class CheckListBox : public ItemControl {
+public:
+    CheckListBox(ControlParent parent, Rect place);
+
+    bool ticked(int index) const;
+    /// Ticked by code: no click is raised.
+    void setTicked(int index, bool ticked);
+    /// The user flips a row's tick.
+    void toggle(int index);
+
+private:
+    std::vector<bool> ticks_; ///< As many as were ever set; rows beyond are clear.
 };
 
 class ComboBox : public ItemControl {
