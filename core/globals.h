@@ -85,6 +85,10 @@ struct RegWatchState {
     bool regNew = false; ///< The next pass over the registry records instead of comparing.
 };
 
+struct ShutDownState {
+    std::int16_t scanLogged = 0; ///< 1: some list of files was logged during the shut-down.
+};
+
 /// The state that all subsystems share; made once, in `main`.
 struct Globals {
     CaseRules cases;
@@ -93,6 +97,7 @@ struct Globals {
     Baselines baselines;
     ScanRun scan;
     RegWatchState regWatch;
+    ShutDownState shutDown;
 };
 
 } // namespace tarvelon

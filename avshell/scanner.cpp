@@ -1,0 +1,80 @@
+#include "avshell/scanner.h"
+
+#include "core/failure.h"
+#include "core/globals.h"
+#include "platform/files.h"
+#include "platform/platform.h"
+#include "platform/processes.h"
+#include "ui/mform1_screen.h"
+
+namespace tarvelon {
+
+bool ScannerCommand::isSet() const {
+    return !trim(exe).empty();
+}
+
+std::string ScannerCommand::line(const std::string& files) const {
+    return exe + " " + args + " " + files;
+}
+
+std::string Scanner::toShortPath(const std::string& path) const {
+    // The short name comes with a zero behind it into a buffer of blanks, so the first blank tells its
+    // length. A name that holds a blank itself is cut there.
+    std::string buffer(1024, ' ');
+    platform_.files.getShortPathName(path, buffer.data(), static_cast<std::uint32_t>(buffer.size()));
+    const std::size_t blank = buffer.find(' ');
+    if (blank == std::string::npos || blank == 0) {
+        return {};
+    }
+    return trim(buffer.substr(0, blank - 1));
+}
+
+void Scanner::runScanner(const std::string& commandLine) const {
+    const WindowStyle style =
+        mForm1_.avfocus.value() == 1 ? WindowStyle::NormalFocus : WindowStyle::MinimizedFocus;
+    if (!platform_.processes.start(commandLine, style)) {
+        throw Failure("The scanner cannot be started:\r\n" + commandLine);
+    }
+}
+
+std::string Scanner::item(std::string name) const {
+    if (globals_.settings.shortPaths) {
+        name = toShortPath(name);
+    }
+    const std::string& quote = globals_.settings.quoteChar;
+    return quote + name + quote + " ";
+}
+
+bool Scanner::batch(int first, int last, const std::function<std::string(int)>& row,
+                    const std::function<bool(const std::string&)>& flush) const {
+    std::string list;
+    int rows = 0;
+    for (int index = first; index <= last; ++index) {
+        ++rows;
+        const std::string name = row(index);
+        if (!trim(name).empty()) {
+            list += item(name);
+        }
+        if (index >= last || rows >= globals_.settings.passCount) {
+            if (!flush(list)) {
+                return false;
+            }
+            list.clear();
+            rows = 0;
+        }
+    }
+    return true;
+}
+
+void Scanner::startBoth(const ScannerCommand& first, const ScannerCommand& second,
+                        const std::string& list) const {
+    if (list.empty()) {
+        return;
+    }
+    runScanner(first.line(list));
+    if (second.isSet()) {
+        runScanner(second.line(list));
+    }
+}
+
+} // namespace tarvelon
