@@ -107,16 +107,27 @@ std::string DataFile::entry(const Blocks& blocks, std::optional<std::size_t> num
 }
 
 void DataFile::saveIntFile() {
-    const std::string& path = globals_.app.intFile;
+    save(globals_.app.intFile, globals_.app.appPath + "Data\\integrity.bak", globals_.baselines.sectionText);
+}
+
+void DataFile::saveCustomDat(const std::string& path) {
+    save(path, backupOf(path), globals_.baselines.customText);
+}
+
+void DataFile::save(const std::string& path, const std::string& backup, const Blocks& blocks) {
     Files& files = platform_.files;
-    demand(files.copy(path, globals_.app.appPath + "Data\\integrity.bak"),
-           "The data file cannot be backed up:", path);
+    demand(files.copy(path, backup), "The data file cannot be backed up:", path);
     demand(files.remove(path), "The data file cannot be replaced:", path);
     std::string text = dataFileHeader;
-    for (const EntryBlock& block : globals_.baselines.sectionText) {
+    for (const EntryBlock& block : blocks) {
         text += block.text();
     }
-    demand(writeWholeFile(files, path, text), "The data file cannot be written:", path);
+    if (!writeWholeFile(files, path, text)) {
+        // A full disk must not cost the baseline: half a file would pass for a whole one at the next start.
+        files.remove(path);
+        files.copy(backup, path);
+        throw Failure("The data file cannot be written:\r\n" + path);
+    }
 }
 
 } // namespace tarvelon

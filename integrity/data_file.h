@@ -44,11 +44,15 @@ public:
     /// algorithm. Throws `Failure` at the first step that fails.
     void saveIntFile();
 
+    /// The same for a custom folder's baseline; its backup lies beside it.
+    void saveCustomDat(const std::string& path);
+
 private:
     using Blocks = std::array<EntryBlock, sectionCount>;
     using Names = std::array<std::string, sectionCount>;
 
     void load(const std::string& path, Blocks& blocks, Names& names);
+    void save(const std::string& path, const std::string& backup, const Blocks& blocks);
     std::string entry(const Blocks& blocks, std::optional<std::size_t> number, const std::string& key) const;
 
     Globals& globals_;

@@ -1,0 +1,132 @@
+#include "integrity/folder_scan_page.h"
+
+#include "core/globals.h"
+#include "core/restart.h"
+#include "core/settings_file.h"
+#include "core/utilities.h"
+#include "hash/checksum.h"
+#include "integrity/baseline.h"
+#include "integrity/data_file.h"
+#include "platform/dialogs.h"
+#include "platform/messages.h"
+#include "platform/platform.h"
+#include "ui/mform1_screen.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace tarvelon {
+
+namespace {
+
+constexpr int folderSlots = 20;
+
+} // namespace
+
+FolderScanPage::FolderScanPage(MForm1Screen& screen, const FolderScanParts& parts)
+    : screen_(screen)
+    , parts_(parts)
+    , globals_(parts.globals) {
+    bind();
+}
+
+void FolderScanPage::bind() {
+    screen_.Image5.onClick = [this] { Image5_Click(); };
+    screen_.Combo1.onClick = [this] { Combo1_Click(); };
+    for (std::size_t i = 0; i < screen_.check.size(); ++i) {
+        screen_.typeButtons[i]->onClick = [this, i] {
+            screen_.check[i].setValue(screen_.check[i].value() == 0);
+        };
+    }
+    screen_.bFULL.onClick = [this] { tickAll(true); };
+    screen_.bCLEAR.onClick = [this] { tickAll(false); };
+    screen_.bSCAN.onClick = [this] { bSCAN_Click(); };
+}
+
+void FolderScanPage::tickAll(bool ticked) {
+    for (FlatCheck& box : screen_.check) {
+        box.setValue(ticked);
+    }
+}
+
+void FolderScanPage::loadf() {
+    SettingsFile& settings = parts_.settings;
+    settings.checkSettFile();
+    screen_.Combo1.clear();
+    screen_.Combo1.add(parts_.utilities.getSysDir());
+    for (int slot = 1; slot <= folderSlots; ++slot) {
+        const std::string path = trim(settings.readIni(globals_.app.settFile, "path", slot));
+        if (path != "NULL") {
+            screen_.Combo1.add(path);
+        }
+    }
+    screen_.Combo1.setListIndex(0);
+}
+
+void FolderScanPage::Image5_Click() {
+    loadf();
+    hooks.norms2();
+    if (parts_.utilities.fileThere(globals_.app.intFile)) {
+        screen_.Image5.Current = true;
+        screen_.intF.Visible = true;
+        return;
+    }
+    const Answer answer = parts_.platform.dialogs.message(
+        {.text = "You have not yet completed the full system scan.  This is required before using the "
+                 "Integrity Checker.  Perform scan now?",
+         .title = "Missing File",
+         .buttons = Buttons::YesNo});
+    if (answer == Answer::Yes) {
+        restartWithoutBackup(globals_, parts_.platform, backupOf(globals_.app.intFile));
+    }
+}
+
+void FolderScanPage::Combo1_Click() {
+    const int index = screen_.Combo1.listIndex();
+    if (index <= 0) {
+        return;
+    }
+    const std::string file = parts_.checksum.getCustomDat(index);
+    if (!parts_.utilities.fileThere(file) &&
+        !parts_.baseline.buildCustomDat(screen_.Combo1.text(), file, std::to_string(index))) {
+        screen_.Combo1.setListIndex(0);
+        return;
+    }
+    const std::vector<std::string> types =
+        split(parts_.settings.readIni(globals_.app.settFile, "args", index), ',');
+    for (std::size_t i = 0; i < screen_.check.size() && i < types.size(); ++i) {
+        screen_.check[i].setValue(types[i] == "1");
+    }
+}
+
+void FolderScanPage::bSCAN_Click() {
+    parts_.baseline.checkIntFile();
+    ScanRun& scan = globals_.scan;
+    const auto wanted = scan.wanted();
+    bool any = false;
+    for (std::size_t i = 0; i < wanted.size(); ++i) {
+        *wanted[i] = screen_.check[i].value() != 0;
+        any = any || *wanted[i];
+    }
+    if (!any) {
+        parts_.platform.dialogs.message({.text = "Please select the files to scan."});
+        return;
+    }
+    scan.customFolder.clear();
+    scan.noAutoAction = true;
+    scan.pageScan = true;
+    scan.customFirstScan = false;
+    hooks.leaveScan();
+    parts_.platform.messages.pump();
+    const int index = screen_.Combo1.listIndex();
+    if (index > 0) {
+        parts_.dataFile.loadCustomDat(parts_.checksum.getCustomDat(index));
+        scan.customFolder = screen_.Combo1.text();
+        scan.customIndex = static_cast<std::int16_t>(index);
+    }
+    parts_.platform.messages.pump();
+    hooks.loadUp();
+}
+
+} // namespace tarvelon

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <functional>
+
+namespace tarvelon {
+
+struct Globals;
+struct MForm1Screen;
+struct Platform;
+class Baseline;
+class Checksum;
+class DataFile;
+class SettingsFile;
+class Utilities;
+
+/// What the page calls beside itself.
+struct FolderScanHooks {
+    std::function<void()> norms2;    ///< Hides all pages of the main window.
+    std::function<void()> leaveScan; ///< The scan window's leave action, which cancels what runs.
+    std::function<void()> loadUp;    ///< Plans a scan and starts it.
+};
+
+/// What the page works with.
+struct FolderScanParts {
+    Globals& globals;
+    Platform& platform;
+    SettingsFile& settings;
+    Checksum& checksum;
+    DataFile& dataFile;
+    Baseline& baseline;
+    const Utilities& utilities;
+};
+
+/// The page where the user picks a folder and file types and starts a scan by hand. The position of a folder
+/// in the drop-down list is taken for its slot, which holds as long as no slot in front of it is free.
+class FolderScanPage {
+public:
+    FolderScanPage(MForm1Screen& screen, const FolderScanParts& parts);
+
+    FolderScanHooks hooks;
+
+    /// Fills the list of folders: the system directory, then the custom folders.
+    void loadf();
+
+    /// Opens the page; without a baseline it offers to start over with the first full scan.
+    void Image5_Click();
+
+private:
+    void bind();
+    void tickAll(bool ticked);
+    void Combo1_Click();
+    void bSCAN_Click();
+
+    MForm1Screen& screen_;
+    FolderScanParts parts_;
+    Globals& globals_;
+};
+
+} // namespace tarvelon

@@ -1,0 +1,233 @@
+#include "integrity/result_action.h"
+
+#include "avshell/scanner.h"
+#include "core/failure.h"
+#include "core/globals.h"
+#include "core/settings_file.h"
+#include "core/utilities.h"
+#include "hash/checksum.h"
+#include "hash/do_events.h"
+#include "integrity/data_file.h"
+#include "integrity/intcheck_screen.h"
+#include "logging/log_files.h"
+#include "platform/dialogs.h"
+#include "platform/messages.h"
+#include "platform/platform.h"
+#include "platform/processes.h"
+
+#include <optional>
+
+namespace tarvelon {
+
+namespace {
+
+constexpr std::string_view newMark = " *NEW*";
+constexpr const char* closeWindowCaption = "Close Integrity Window";
+
+std::string withoutNewMark(std::string item) {
+    for (std::size_t hit = item.find(newMark); hit != std::string::npos; hit = item.find(newMark, hit)) {
+        item.erase(hit, newMark.size());
+    }
+    return item;
+}
+
+/// Where to go on behind a text, counted from 1: one past its position, and 1 when it is not there.
+std::size_t startBehind(const std::string& text, const std::string& searched) {
+    const std::size_t hit = text.find(searched);
+    return hit == std::string::npos ? 1 : hit + 2;
+}
+
+} // namespace
+
+ResultAction::ResultAction(IntCheckScreen& screen, const ResultActionParts& parts)
+    : screen_(screen)
+    , parts_(parts)
+    , globals_(parts.globals) {}
+
+void ResultAction::Label12_Click() {
+    if (!globals_.scan.customFirstScan && screen_.Label12.Caption() == closeWindowCaption) {
+        leaveScan();
+        return;
+    }
+    try {
+        // The first scan of a custom folder passes nothing to a scanner and logs nothing.
+        if (!globals_.scan.customFirstScan && !handOver()) {
+            return;
+        }
+        acceptFindings();
+    } catch (const Failure&) {
+        parts_.platform.dialogs.message({.text = "Your Anti-Virus program could not be executed!!!\rPlease "
+                                                 "verify the path of the software:\r" +
+                                                 screen_.Text1.Caption()});
+    }
+}
+
+/// Scanners and report. False when nothing is left to do.
+bool ResultAction::handOver() {
+    const bool noScanner = !parts_.utilities.fileThere(screen_.Text1.Caption());
+    if (noScanner) {
+        parts_.platform.dialogs.message(
+            {.text =
+                 "You do not have any Anti-Virus program setup with Tarvelon.  For your conveniance, these "
+                 "files will be added to the log, and will be updated in your Integrity File (so that you "
+                 "can scan them for viruses later)."});
+    }
+    std::string all;
+    const bool inShutDown = globals_.app.shutAction != -1;
+    if (startScanners(noScanner, all) == Handed::All && !inShutDown) {
+        if (globals_.baselines.primaryBuild) {
+            return false;
+        }
+        if (all.empty()) {
+            parts_.platform.processes.end();
+        }
+    }
+    screen_.Label13.Caption = "Logging Action...";
+    if (noScanner) {
+        parts_.logFiles.writeLog(
+            "Integrity Checker - These files were logged because you didn't setup an Anti-Virus Scanner," +
+                all,
+            true);
+    } else {
+        parts_.logFiles.writeLog(
+            "Integrity Checker - These files were either New or Failed the Integrity Check," + all);
+    }
+    return true;
+}
+
+/// Hands the list over in batches and collects them in `all`. Without a scanner the walk ends at the first
+/// batch, so that only this one reaches the report.
+ResultAction::Handed ResultAction::startScanners(bool noScanner, std::string& all) {
+    const ScannerCommand first{screen_.Text1.Caption(), screen_.Text2.Caption()};
+    const ScannerCommand second{screen_.textav1.Caption(), screen_.textav2.Caption()};
+    // One row past the end, which reads as empty and only hands over the last batch.
+    const int lastRow = screen_.List1.count();
+    const bool ended = parts_.scanner.batch(
+        0, lastRow, [this](int row) { return withoutNewMark(screen_.List1.item(row)); },
+        [&](const std::string& batch) {
+            all += batch;
+            if (!noScanner) {
+                parts_.scanner.startBoth(first, second, batch);
+            }
+            return !noScanner;
+        });
+    return ended ? Handed::All : Handed::FirstBatchOnly;
+}
+
+void ResultAction::acceptFindings() {
+    screen_.Label13.Caption = "Updating Integrity File...";
+    UpdateDatFile();
+    if (globals_.scan.customFirstScan) {
+        screen_.hide();
+        globals_.scan.customFirstScan = false;
+        screen_.List1.clear();
+        parts_.platform.dialogs.message({.text = "Initial Custom Folder Scan Completed Successfully!"});
+        return;
+    }
+    const bool runWithSwitch = !globals_.app.cmdLine.empty() && globals_.app.shutAction == -1;
+    if (runWithSwitch && globals_.settings.autoScanFailed) {
+        parts_.platform.processes.end();
+    }
+    screen_.List1.clear();
+}
+
+void ResultAction::UpdateDatFile() {
+    if (screen_.List1.count() == 0) {
+        return;
+    }
+    screen_.Caption = "Updating - Please Wait...";
+    clsDoEvents pump(parts_.platform.messages);
+    pump.QueueUsed(userInput);
+    const std::string failList = globals_.scan.failList;
+    const std::string customFailList = globals_.scan.customFailList;
+
+    // Both stay from one turn to the next: behind a system file, a custom folder's file also leaves a line in
+    // the system baseline, with the system file's checksum.
+    bool systemFileSeen = false;
+    std::string value;
+    const int count = screen_.List1.count();
+    for (int row = 0; row < count; ++row) {
+        const std::string item = withoutNewMark(screen_.List1.item(row));
+        const std::string section = globals_.cases.upper(lastCharacters(item, 3));
+        if (failList.find(item) != std::string::npos) {
+            value = systemValue(failList, item);
+            systemFileSeen = true;
+        } else {
+            queueForCustom(customFailList, item);
+        }
+        if (row == count - 1) {
+            for (int slot = 1; slot <= static_cast<int>(passFolderList.size()); ++slot) {
+                if (!passFolderList[static_cast<std::size_t>(slot - 1)].empty()) {
+                    passOver([&] { SpecialSave(slot); });
+                }
+            }
+        }
+        globals_.scan.customFolder.clear();
+        if (systemFileSeen) {
+            passOver([&] { acceptInSystem(item, value, section); });
+        }
+        pump.GetInputState();
+    }
+    screen_.Caption = "Integrity File(s) Updated";
+    passOver([this] { parts_.dataFile.saveIntFile(); });
+    passOver([this] { parts_.dataFile.loadIntFile(globals_.app.intFile); });
+    screen_.Label13.Caption = "Integrity File Updated";
+    screen_.Label12.Caption = closeWindowCaption;
+}
+
+/// The checksum that stands behind the item in the findings of the system directory.
+std::string ResultAction::systemValue(const std::string& copy, const std::string& item) const {
+    const CaseRules& cases = globals_.cases;
+    std::string value = getBetween(cases, copy, startBehind(copy, "," + item + " "), " ", ",");
+    if (value.empty()) {
+        value = getBetween(cases, copy, startBehind(copy, item + " "), " ", ",");
+    }
+    // A blank in the path makes the value begin inside it: "Files\X.DLL 3A2B44C1". The dot, three letters and
+    // the blank are skipped.
+    const std::size_t dot = value.find('.');
+    if (dot != std::string::npos) {
+        value = value.size() > dot + 5 ? value.substr(dot + 5) : std::string();
+    }
+    return value;
+}
+
+/// Puts the item and its checksum among the pending entries of its slot.
+void ResultAction::queueForCustom(const std::string& copy, const std::string& item) {
+    const CaseRules& cases = globals_.cases;
+    std::string found = getBetween(cases, copy, startBehind(copy, "," + item + "("), "(", ",");
+    if (found.empty()) {
+        found = getBetween(cases, copy, startBehind(copy, item + "("), "(", ",");
+    }
+    if (found.empty()) {
+        return;
+    }
+    const std::string entry = "(" + found + ",";
+    const auto slot = toNumber(getBetween(cases, entry, 1, "(", ")"));
+    if (slot && *slot >= 1 && *slot <= static_cast<int>(passFolderList.size())) {
+        passFolderList[static_cast<std::size_t>(*slot - 1)] += item + entry;
+    }
+}
+
+void ResultAction::acceptInSystem(const std::string& item, const std::string& value,
+                                  const std::string& section) {
+    parts_.settings.writeEntry(globals_.app.intFile, bareName(item), value + "*E", section);
+}
+
+void ResultAction::SpecialSave(int slot) {
+    const std::string file = parts_.checksum.getCustomDat(slot);
+    parts_.dataFile.loadCustomDat(file);
+    globals_.scan.customFolder = "!"; // Any text: entries now go to the custom baseline.
+    std::string& pending = passFolderList[static_cast<std::size_t>(slot - 1)];
+    while (!pending.empty()) {
+        const std::string path = pending.substr(0, pending.find('('));
+        const std::string value = getBetween(globals_.cases, pending, 1, ") ", ",");
+        const std::size_t comma = pending.find(',');
+        pending.erase(0, comma == std::string::npos ? comma : comma + 1);
+        const std::string section = globals_.cases.upper(lastCharacters(path, 3));
+        passOver([&] { parts_.settings.writeEntry(file, bareName(path), value + "*E", section); });
+        parts_.platform.messages.pump();
+    }
+    parts_.dataFile.saveCustomDat(file);
+}
+
+} // namespace tarvelon

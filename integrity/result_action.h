@@ -1,0 +1,70 @@
+#pragma once
+
+#include <array>
+#include <functional>
+#include <string>
+
+namespace tarvelon {
+
+struct Globals;
+struct IntCheckScreen;
+struct Platform;
+class Checksum;
+class DataFile;
+class LogFiles;
+class Scanner;
+class SettingsFile;
+class Utilities;
+
+/// What the result action works with.
+struct ResultActionParts {
+    Globals& globals;
+    Platform& platform;
+    SettingsFile& settings;
+    Checksum& checksum;
+    DataFile& dataFile;
+    const Utilities& utilities;
+    const Scanner& scanner;
+    LogFiles& logFiles;
+};
+
+/// What becomes of a scan's findings: they go to the scanners and into a report, and their present state is
+/// then the baseline.
+class ResultAction {
+public:
+    ResultAction(IntCheckScreen& screen, const ResultActionParts& parts);
+
+    /// The scan window's leave action.
+    std::function<void()> leaveScan;
+
+    /// The action, by click or by itself at the end of a scan. A scanner that cannot be started ends it with
+    /// a message; nothing is logged or accepted then, and it can be tried again.
+    void Label12_Click();
+
+    /// Accepts every listed finding into the baseline it belongs to and saves the baselines. Failures are
+    /// passed over.
+    void UpdateDatFile();
+
+    /// Accepts what is pending for a custom folder's slot, 1 to 20, and saves its baseline, the old file as
+    /// its backup. Throws `Failure` when the baseline cannot be loaded or saved.
+    void SpecialSave(int slot);
+
+private:
+    enum class Handed { All, FirstBatchOnly };
+
+    bool handOver();
+    Handed startScanners(bool noScanner, std::string& all);
+    void acceptFindings();
+    std::string systemValue(const std::string& copy, const std::string& item) const;
+    void queueForCustom(const std::string& copy, const std::string& item);
+    void acceptInSystem(const std::string& item, const std::string& value, const std::string& section);
+
+    IntCheckScreen& screen_;
+    ResultActionParts parts_;
+    Globals& globals_;
+
+    /// Pending entries of each slot: path, "(slot) ", checksum, comma. Empty between updates.
+    std::array<std::string, 20> passFolderList;
+};
+
+} // namespace tarvelon
