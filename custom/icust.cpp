@@ -1,0 +1,261 @@
+#include "custom/icust.h"
+
+#include "core/globals.h"
+#include "core/settings_file.h"
+#include "core/utilities.h"
+#include "custom/icust_screen.h"
+#include "hash/checksum.h"
+#include "platform/dialogs.h"
+#include "platform/files.h"
+#include "platform/platform.h"
+
+#include <array>
+#include <vector>
+
+namespace tarvelon {
+
+namespace {
+
+constexpr int folderSlots = 20;
+constexpr const char* noTypes = "0,0,0,0,0,0,0";
+constexpr const char* emptyMark = ") Empty:";
+constexpr Color tickedGround = 0x800000;
+constexpr Color clearedGround = 0x0000ff;
+
+constexpr std::array<const char*, 6> typeRows = {"Scan DLL Files",      "Scan DRV Files",
+                                                 "Scan 386, SYS Files", "Scan OCX Files",
+                                                 "Scan EXE, COM Files", "Scan SCR, PIF Files!"};
+
+constexpr std::array<const char*, 8> slotFiles = {".dat",     ".bak",     "-md4.dat",  "-md4.bak",
+                                                  "-md5.dat", "-md5.bak", "-sha1.dat", "-sha1.bak"};
+
+std::string rowText(int slot, const std::string& path) {
+    return std::to_string(slot) + ") " + path;
+}
+
+/// Passes the ticks over to the settings' digits, by way of the words that the lists speak.
+std::string digits(const CaseRules& cases, const std::string& words) {
+    return cases.replaceAll(cases.replaceAll(words, "False", "0"), "True", "1");
+}
+
+const char* word(bool ticked) {
+    return ticked ? "True" : "False";
+}
+
+} // namespace
+
+ICust::ICust(ICustScreen& screen, const ICustParts& parts)
+    : screen_(screen)
+    , parts_(parts)
+    , globals_(parts.globals) {
+    bind();
+}
+
+void ICust::bind() {
+    for (const char* row : typeRows) {
+        screen_.List2.add(row);
+        screen_.List4.add(row);
+    }
+    screen_.onLoad = [this] { begin(); };
+    screen_.onQueryClose = [this] { return queryClose(); };
+    screen_.onMouseMove = [this] { norms(); };
+    screen_.List1.onClick = [this] { List1_Click(); };
+    const auto atStartup = [this] { return Use{screen_.Check1, screen_.List2, screen_.List3}; };
+    const auto atShutDown = [this] { return Use{screen_.Check2, screen_.List4, screen_.List5}; };
+    screen_.Check1.onClick = [this, atStartup] { box_Click(atStartup()); };
+    screen_.List2.onClick = [this, atStartup] { types_Click(atStartup()); };
+    screen_.Check2.onClick = [this, atShutDown] { box_Click(atShutDown()); };
+    screen_.List4.onClick = [this, atShutDown] { types_Click(atShutDown()); };
+    screen_.cButton2.onClick = [this] { cButton2_Click(); };
+    screen_.Command2.onClick = [this] { Command2_Click(); };
+    screen_.Command3.onClick = [this] { Command3_Click(); };
+}
+
+void ICust::begin() {
+    custDirty = 0;
+    startup();
+}
+
+void ICust::startup() {
+    custLoading = true;
+    screen_.List1.clear();
+    screen_.List3.clear();
+    screen_.List5.clear();
+    SettingsFile& settings = parts_.settings;
+    const std::string& file = globals_.app.settFile;
+    for (int slot = 1; slot <= folderSlots; ++slot) {
+        const std::string path = trim(settings.readIni(file, "path", slot));
+        const std::string args = settings.readIni(file, "args", slot);
+        const std::string args2 = settings.readIni(file, "args2", slot);
+        screen_.List1.add(path == "NULL" ? std::to_string(slot) + emptyMark : rowText(slot, path));
+        screen_.List3.add(args.empty() ? noTypes : args);
+        screen_.List5.add(args2.empty() ? noTypes : args2);
+    }
+    custLoading = false;
+}
+
+void ICust::norms() {
+    for (FlatButton* button : {&screen_.cButton2, &screen_.Command2, &screen_.Command3}) {
+        button->downStatus(1);
+    }
+}
+
+void ICust::List1_Click() {
+    custLoading = true;
+    const int row = screen_.List1.listIndex();
+    if (row >= 0) {
+        const bool empty = isEmptyRow(row);
+        screen_.Check1.Enabled = !empty;
+        screen_.Check2.Enabled = !empty;
+    }
+    showUse({screen_.Check1, screen_.List2, screen_.List3}, row);
+    showUse({screen_.Check2, screen_.List4, screen_.List5}, row);
+    screen_.Label1.Caption = "Currently Selected: " + screen_.List1.item(row);
+    screen_.List2.Enabled = screen_.Check1.value() != 0;
+    screen_.List4.Enabled = screen_.Check2.value() != 0;
+    custLoading = false;
+}
+
+void ICust::showUse(const Use& use, int row) {
+    const std::vector<std::string> positions = split(use.rows.item(row), ',');
+    for (int i = 0; i < static_cast<int>(positions.size()) && i < 6; ++i) {
+        use.types.setTicked(i, positions[static_cast<std::size_t>(i)] == "1");
+    }
+    if (positions.size() > 6) {
+        use.box.setValue(positions[6] == "1");
+    }
+}
+
+/// The types can be edited only while the folder's box is ticked; cleared, they keep their ticks.
+void ICust::box_Click(const Use& use) {
+    const bool ticked = use.box.value() == 1;
+    use.box.BackColor = ticked ? tickedGround : clearedGround;
+    use.box.ForeColor = ticked ? colors::white : colors::black;
+    use.types.Enabled = ticked;
+    types_Click(use);
+}
+
+void ICust::types_Click(const Use& use) {
+    if (custLoading) {
+        return;
+    }
+    custDirty = 1;
+    const int row = screen_.List1.listIndex();
+    if (row < 0) {
+        parts_.platform.dialogs.message({.text = "Please select a folder to edit its properties!"});
+        return;
+    }
+    std::string words;
+    for (int i = 0; i < 6; ++i) {
+        words.append(word(use.types.ticked(i))).append(",");
+    }
+    words += word(use.box.value() != 0);
+    use.rows.replace(row, digits(globals_.cases, words));
+}
+
+void ICust::cButton2_Click() {
+    custDirty = 1;
+    std::string folder = parts_.utilities.browseFolder("Please Choose a Folder to Add");
+    if (folder.empty()) {
+        return;
+    }
+    folder = withBackslash(std::move(folder));
+    const CaseRules& cases = globals_.cases;
+    if (cases.equal(folder, parts_.utilities.getSysDir())) {
+        parts_.platform.dialogs.message({.text =
+                                             "This is the default folder that Tarvelon scans. It cannot be "
+                                             "added to the Custom Integrity Checker"});
+        return;
+    }
+    int free = -1;
+    for (int row = 0; row < screen_.List1.count(); ++row) {
+        if (cases.equal(folder, folderOf(row))) {
+            parts_.platform.dialogs.message({.text = "This folder is already being scanned."});
+            return;
+        }
+        if (free < 0 && isEmptyRow(row)) {
+            free = row;
+        }
+    }
+    if (free < 0) {
+        return; // Twenty folders are the limit, and nothing is said of it.
+    }
+    screen_.List1.replace(free, rowText(free + 1, folder));
+    parts_.platform.dialogs.message({.text = "Folder Added."});
+}
+
+void ICust::Command2_Click() {
+    custDirty = 1;
+    const int row = screen_.List1.listIndex();
+    if (row < 0 || isEmptyRow(row)) {
+        return;
+    }
+    const Answer answer = parts_.platform.dialogs.message(
+        {.text =
+             "Are you sure you want to remove this folder? Doing so will lose all Integrity Checker data for "
+             "this folder!",
+         .title = "Caution!",
+         .buttons = Buttons::OkCancel});
+    if (answer != Answer::Ok) {
+        return;
+    }
+    SettingsFile& settings = parts_.settings;
+    const std::string& file = globals_.app.settFile;
+    const std::string slot = std::to_string(row + 1);
+    settings.checkSettFile();
+    settings.writeEntry(file, "path", "NULL", slot);
+    settings.writeEntry(file, "args", noTypes, slot);
+    settings.writeEntry(file, "args2", noTypes, slot);
+    screen_.List1.replace(row, slot + emptyMark);
+    screen_.List3.replace(row, noTypes);
+    screen_.List5.replace(row, noTypes);
+    for (const char* ending : slotFiles) {
+        parts_.platform.files.remove(globals_.app.appPath + "Data\\" + slot + ending);
+    }
+}
+
+void ICust::Command3_Click() {
+    custDirty = 0;
+    SettingsFile& settings = parts_.settings;
+    const std::string& file = globals_.app.settFile;
+    settings.checkSettFile();
+    for (int row = 0; row < folderSlots; ++row) {
+        const std::string slot = std::to_string(row + 1);
+        settings.writeEntry(file, "path", isEmptyRow(row) ? "NULL" : folderOf(row), slot);
+        settings.writeEntry(file, "args", screen_.List3.item(row), slot);
+        settings.writeEntry(file, "args2", screen_.List5.item(row), slot);
+    }
+    for (int slot = 1; slot <= folderSlots; ++slot) {
+        if (!isEmptyRow(slot - 1) && !parts_.utilities.fileThere(parts_.checksum.getCustomDat(slot))) {
+            globals_.scan.customIndex = static_cast<std::int16_t>(slot);
+        }
+    }
+    parts_.platform.dialogs.message({.text = "Save Successful!"});
+    loadf();
+    screen_.hide();
+}
+
+bool ICust::queryClose() {
+    if (custDirty == 1) {
+        const Answer answer = parts_.platform.dialogs.message(
+            {.text = "Do you wish to Save your changes?", .buttons = Buttons::YesNo});
+        if (answer == Answer::Yes) {
+            Command3_Click();
+        }
+    }
+    loadf();
+    begin(); // Closed by its frame, the window forgets what was not saved.
+    return true;
+}
+
+bool ICust::isEmptyRow(int row) const {
+    return screen_.List1.item(row).find(emptyMark) != std::string::npos;
+}
+
+/// The row's text from its fourth character on; behind a number of two digits that is a blank, which goes.
+std::string ICust::folderOf(int row) const {
+    const std::string text = screen_.List1.item(row);
+    return text.size() > 3 ? trim(std::string_view(text).substr(3)) : std::string();
+}
+
+} // namespace tarvelon

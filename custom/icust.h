@@ -1,0 +1,72 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+
+namespace tarvelon {
+
+class CheckBox;
+class CheckListBox;
+class ListBox;
+struct Globals;
+struct ICustScreen;
+struct Platform;
+class Checksum;
+class SettingsFile;
+class Utilities;
+
+/// What the manager works with.
+struct ICustParts {
+    Globals& globals;
+    Platform& platform;
+    SettingsFile& settings;
+    const Checksum& checksum;
+    const Utilities& utilities;
+};
+
+/// Adds, removes and configures the custom folders. All but a removal waits for "Save and Exit".
+class ICust {
+public:
+    ICust(ICustScreen& screen, const ICustParts& parts);
+
+    /// Fills the main window's list of folders anew.
+    std::function<void()> loadf;
+
+    /// Fills the lists from the settings.
+    void startup();
+
+    /// Takes the hover look off the flat buttons.
+    void norms();
+
+private:
+    /// One of the two uses of a folder: its box, its types, and the rows where they are kept.
+    struct Use {
+        CheckBox& box;
+        CheckListBox& types;
+        ListBox& rows;
+    };
+
+    void bind();
+    void begin();
+    void List1_Click();
+    void showUse(const Use& use, int row);
+    void box_Click(const Use& use);
+    void types_Click(const Use& use);
+    void cButton2_Click();
+    void Command2_Click();
+    void Command3_Click();
+    bool queryClose();
+
+    bool isEmptyRow(int row) const;
+    std::string folderOf(int row) const;
+
+    ICustScreen& screen_;
+    ICustParts parts_;
+    Globals& globals_;
+
+    std::int16_t custDirty = 0; ///< Something was changed since the window was opened.
+    bool custLoading = false;   ///< The lists are being filled; their clicks count for nothing.
+};
+
+} // namespace tarvelon
