@@ -64,7 +64,15 @@ void Application::bindHooks() {
                                      const std::string& number) {
         return baseline.buildCustomDat(folder, file, number);
     };
-    baseline.hooks = {.showScan = showScan, .leaveScan = [this] { scan.Command1_Click(); }, .loadUp = loadUp};
+    const auto leaveScan = [this] { scan.Command1_Click(); };
+    baseline.hooks = {.showScan = showScan, .leaveScan = leaveScan, .loadUp = loadUp};
+    folderScanPage.hooks = {
+        .norms2 = [this] { mainForm.norms2(); }, .leaveScan = leaveScan, .loadUp = loadUp};
+    resultAction.leaveScan = leaveScan;
+    customFolders.loadf = [this] { folderScanPage.loadf(); };
+    mainForm.hooks = {.loadSettings = [this] { settingsPages.loadSettings(); },
+                      .showCustomFolders = [this] { iCust.show(); }};
+    scan.hooks.resultAction = [this] { resultAction.Label12_Click(); };
     scan.hooks.showMainWindow = [this] { mForm1.show(); };
 }
 

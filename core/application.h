@@ -1,16 +1,22 @@
 #pragma once
 
 #include "avshell/s_avir_screen.h"
+#include "avshell/scanner.h"
 #include "core/globals.h"
 #include "core/settings_file.h"
 #include "core/start_up.h"
 #include "core/utilities.h"
+#include "custom/icust.h"
+#include "custom/icust_screen.h"
 #include "hash/checksum.h"
 #include "integrity/baseline.h"
 #include "integrity/comparison.h"
 #include "integrity/data_file.h"
+#include "integrity/folder_scan_page.h"
 #include "integrity/intcheck.h"
 #include "integrity/intcheck_screen.h"
+#include "integrity/result_action.h"
+#include "logging/log_files.h"
 #include "platform/platform.h"
 #include "regwatch/snapshot_file.h"
 #include "shutdown/sprog_screen.h"
@@ -29,7 +35,7 @@ public:
     explicit Application(Platform& platform);
 
     /// Every screen, for a view to attach to before the start.
-    std::vector<Screen*> screens() { return {&mForm1, &intCheck, &sProg, &s_avir}; }
+    std::vector<Screen*> screens() { return {&mForm1, &intCheck, &sProg, &s_avir, &iCust}; }
 
     /// Loads the main window, which is the whole start-up, and shows it unless a switch or a scan hid it.
     void start();
@@ -41,6 +47,7 @@ public:
     IntCheckScreen intCheck;
     SProgScreen sProg;
     SAvirScreen s_avir;
+    ICustScreen iCust;
 
     Utilities utilities{platform};
     SettingsFile settingsFile{globals, platform};
@@ -51,8 +58,15 @@ public:
     Comparison comparison{intCheck, sProg, globals, platform, settingsFile, checksum, dataFile, utilities};
     IntCheck scan{intCheck,
                   {globals, platform, settingsFile, checksum, dataFile, baseline, utilities, comparison}};
+    Scanner scanner{mForm1, globals, platform};
+    LogFiles logFiles{mForm1, globals, platform};
+    ResultAction resultAction{
+        intCheck, {globals, platform, settingsFile, checksum, dataFile, utilities, scanner, logFiles}};
+    FolderScanPage folderScanPage{mForm1,
+                                  {globals, platform, settingsFile, checksum, dataFile, baseline, utilities}};
     SettingsPages settingsPages{mForm1, s_avir, globals, platform, settingsFile, utilities};
-    MForm1 mainForm{mForm1, platform};
+    MForm1 mainForm{mForm1, globals.app, platform};
+    ICust customFolders{iCust, {globals, platform, settingsFile, checksum, utilities}};
     StartUp startUp{globals, platform, settingsFile, utilities};
 
 private:

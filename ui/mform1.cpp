@@ -1,13 +1,29 @@
 #include "ui/mform1.h"
 
+#include "core/globals.h"
+#include "platform/dialogs.h"
 #include "platform/platform.h"
 #include "platform/processes.h"
+#include "platform/registry.h"
+#include "platform/shell.h"
+#include "regwatch/reg_class.h"
+#include "ui/maker.h"
 #include "ui/mform1_screen.h"
 
 namespace tarvelon {
 
-MForm1::MForm1(MForm1Screen& screen, Platform& platform)
+namespace {
+
+// Codes of `Shell::open`; more than 32 means success.
+constexpr std::intptr_t fileNotFound = 2;
+constexpr std::intptr_t noAssociation = 31;
+constexpr std::intptr_t lastFailure = 32;
+
+} // namespace
+
+MForm1::MForm1(MForm1Screen& screen, const AppState& app, Platform& platform)
     : screen_(screen)
+    , app_(app)
     , platform_(platform) {
     bind();
 }
@@ -17,12 +33,68 @@ void MForm1::bind() {
         platform_.processes.end();
         return true;
     };
-    screen_.cButton9.onClick = [this] { platform_.processes.end(); };
-    screen_.Image5.onClick = [this] { open(screen_.Image5, screen_.intF); };
-    screen_.Image7.onClick = [this] { open(screen_.Image7, screen_.regF); };
-    screen_.Image9.onClick = [this] { open(screen_.Image9, screen_.appF); };
-    screen_.Image11.onClick = [this] { open(screen_.Image11, screen_.setFq); };
-    screen_.cButton7.onClick = [this] { cAbout_Click(); };
+    screen_.cButton9.onClick = [this] { screen_.close(); };
+    screen_.cAbout.onClick = [this] { cAbout_Click(); };
+    screen_.cButton7.onClick = screen_.cAbout.onClick;
+    screen_.cButton4.onClick = [this] { cButton4_Click(); };
+    screen_.cButton6.onClick = screen_.cButton4.onClick;
+    screen_.chlp.onClick = screen_.cButton4.onClick;
+    screen_.cButton5.onClick = [this] { siteClick(); };
+    screen_.Label37.onClick = [this] { Label37_Click(); };
+    screen_.cUpdates.onClick = [this] { cUpdates_Click(); };
+    screen_.addRem.onClick = [this] { hooks.showCustomFolders(); };
+    bindPages();
+    bindHover();
+}
+
+void MForm1::bindPages() {
+    screen_.Image7.onClick = [this] { open(&screen_.Image7, screen_.regF); };
+    screen_.Image9.onClick = [this] { open(&screen_.Image9, screen_.appF); };
+    screen_.Image11.onClick = [this] {
+        norms2();
+        hooks.loadSettings();
+        screen_.Image11.Current = true;
+        screen_.setFq.Visible = true;
+        screen_.cViewReport.Enabled = false;
+    };
+    screen_.cSettings.onClick = [this] {
+        hooks.loadSettings();
+        screen_.settF.Visible = true;
+        screen_.qSett.Visible = true;
+        screen_.setFq.Visible = false;
+        screen_.advF.Visible = false;
+    };
+    screen_.cButton2.onClick = [this] {
+        hooks.loadSettings();
+        norms2();
+        screen_.Image11.Current = true;
+        screen_.settF.Visible = true;
+        screen_.qSett.Visible = false;
+        screen_.advF.Visible = true;
+    };
+    screen_.cCancelSett.onClick = [this] { backToOptions(screen_.settF); };
+    screen_.cButton1.onClick = screen_.cCancelSett.onClick;
+}
+
+void MForm1::bindHover() {
+    for (Frame* frame : {&screen_.settF, &screen_.qSett, &screen_.Frame2}) {
+        frame->onMouseMove = [this] { norms(); };
+    }
+    const auto resetAdvanced = [this] {
+        screen_.cSave2.downStatus(1);
+        screen_.cButton1.downStatus(1);
+    };
+    screen_.advF.onMouseMove = resetAdvanced;
+    screen_.Frame1.onMouseMove = [this] { screen_.cSave2.downStatus(1); };
+}
+
+/// On a flat button this does nothing, so the check boxes are all that need it.
+void MForm1::norms() {
+    for (Control* control : screen_.controls()) {
+        if (control->kind() == ControlKind::FlatCheck) {
+            static_cast<FlatCheck*>(control)->downStatus(1);
+        }
+    }
 }
 
 void MForm1::norms2() {
@@ -35,15 +107,90 @@ void MForm1::norms2() {
     }
 }
 
-void MForm1::open(NavButton& entry, Frame& page) {
+void MForm1::open(NavButton* entry, Frame& page) {
     norms2();
-    entry.Current = true;
+    if (entry) {
+        entry->Current = true;
+    }
     page.Visible = true;
 }
 
+void MForm1::backToOptions(Frame& page) {
+    page.Visible = false;
+    screen_.setFq.Visible = true;
+}
+
 void MForm1::cAbout_Click() {
-    norms2();
-    screen_.Frame2.Visible = true;
+    const auto version = platform_.processes.programVersion();
+    screen_.Label33.Caption = "Version: " + std::to_string(version[0]) + "." + std::to_string(version[1]) +
+                              "." + std::to_string(version[2]);
+    open(nullptr, screen_.Frame2);
+}
+
+void MForm1::cButton4_Click() {
+    if (platform_.shell.open("index.html", app_.appPath + "Help\\") != fileNotFound) {
+        return;
+    }
+    const Answer answer =
+        platform_.dialogs.message({.text = "The Help file wasn't found or cannot be executed! Would you like "
+                                           "to browse Tarvelon help on the "
+                                           "web?",
+                                   .buttons = Buttons::YesNo});
+    if (answer != Answer::Yes) {
+        return;
+    }
+    platform_.dialogs.message({.text = "Click on the Tarvelon page, then choose 'Online Help'.\r\n\r\n"
+                                       "The web page of Quillfen is being opened."});
+    if (platform_.shell.open(maker::webPage, "") <= lastFailure) {
+        platform_.dialogs.message({.text = std::string("The link could not be executed: ") + maker::webPage});
+    }
+}
+
+void MForm1::siteClick() {
+    visitMaker(maker::webPage);
+}
+
+void MForm1::visitMaker(const char* address) {
+    const Answer answer = platform_.dialogs.message(
+        {.text = "Would you like to visit the web site of Quillfen?", .buttons = Buttons::YesNo});
+    if (answer == Answer::Yes && platform_.shell.open(address, "") <= lastFailure) {
+        platform_.dialogs.message(
+            {.text = std::string("The web site could not be opened. Please visit it by hand: ") + address});
+    }
+}
+
+void MForm1::Label37_Click() {
+    const auto version = platform_.processes.programVersion();
+    const std::string subject = "Tarvelon(v" + std::to_string(version[0]) + "." + std::to_string(version[1]) +
+                                "." + std::to_string(version[2]) + ")";
+    const std::string link = std::string("mailto:") + maker::supportAddress + "?subject=" + subject;
+    if (platform_.shell.open(link, "") == noAssociation) {
+        platform_.dialogs.message(
+            {.text = std::string("Could not execute default mail client.\r\n") + maker::supportAddress});
+    }
+}
+
+void MForm1::cUpdates_Click() {
+    std::string folder;
+    {
+        RegClass key(platform_.registry);
+        key.OpenRegistry(Registry::localMachine,
+                         R"(SOFTWARE\Microsoft\Windows\CurrentVersion\Uninstall\Orbexa_is1)");
+        folder = key.GetValue("Inno Setup: App Path");
+        key.CloseRegistry();
+    }
+    if (!folder.empty()) {
+        platform_.processes.start(withBackslash(folder) + "Orbexa.exe Tarvelon2",
+                                  WindowStyle::MinimizedFocus);
+        return;
+    }
+    const Answer answer = platform_.dialogs.message(
+        {.text = "Tarvelon requires Orbexa (Orbexa Update Utility) to check for updates.\r\n\r\n"
+                 "Would you like to download Orbexa?",
+         .buttons = Buttons::YesNo});
+    if (answer == Answer::Yes) {
+        visitMaker(maker::updateUtilityPage);
+    }
 }
 
 } // namespace tarvelon

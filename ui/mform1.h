@@ -1,27 +1,52 @@
 #pragma once
 
+#include <functional>
+#include <string>
+
 namespace tarvelon {
 
-class Control;
+class Frame;
+class NavButton;
+struct AppState;
 struct MForm1Screen;
 struct Platform;
-class NavButton;
-class Frame;
 
-/// The main window's frame: which page is open, and the actions that have no page.
+/// What the main window calls beside itself.
+struct MForm1Hooks {
+    std::function<void()> loadSettings;
+    std::function<void()> showCustomFolders;
+};
+
+/// The main window's frame: which page is open, the hover reset, and the actions that have no other home.
 class MForm1 {
 public:
-    MForm1(MForm1Screen& screen, Platform& platform);
+    MForm1(MForm1Screen& screen, const AppState& app, Platform& platform);
+
+    MForm1Hooks hooks;
+
+    /// Takes the hover look off all flat controls.
+    void norms();
 
     /// Hides all pages.
     void norms2();
 
 private:
     void bind();
-    void open(NavButton& entry, Frame& page);
+    void bindPages();
+    void bindHover();
+    void open(NavButton* entry, Frame& page);
+    void openSettings(Frame& page);
+    void backToOptions(Frame& page);
+
     void cAbout_Click();
+    void cButton4_Click();
+    void siteClick();
+    void visitMaker(const char* address);
+    void Label37_Click();
+    void cUpdates_Click();
 
     MForm1Screen& screen_;
+    const AppState& app_;
     Platform& platform_;
 };
 

@@ -12,6 +12,10 @@ struct MForm1Screen : Screen {
     MForm1Screen()
         : Screen("Welcome to Tarvelon", 760, 488) {
         Label1.Visible = false;
+        // What they open comes with the settings, the wizard and the log browser.
+        for (FlatButton* button : {&cSetW, &cCreateSS, &cReports, &cButton10, &cSave, &cSave2}) {
+            button->Enabled = false;
+        }
     }
 
     // Navigation column.
@@ -26,7 +30,22 @@ struct MForm1Screen : Screen {
 
     // Integrity scan.
     Frame intF{*this, at(160, 0, 600, 488), false};
-    ComboBox Combo1{intF, at(16, 16, 568, 24)};
+    Label folderHeading{intF, "Folder:", at(32, 24, 536, 20)};
+    ComboBox Combo1{intF, at(32, 48, 400, 24)};
+    FlatButton addRem{intF, "Add/Remove Custom Folders...", at(32, 80, 232, 32)};
+    std::array<FlatCheck, 6> check{
+        {FlatCheck{intF, "", at(32, 136, 24, 32)}, FlatCheck{intF, "", at(32, 176, 24, 32)},
+         FlatCheck{intF, "", at(32, 216, 24, 32)}, FlatCheck{intF, "", at(32, 256, 24, 32)},
+         FlatCheck{intF, "", at(32, 296, 24, 32)}, FlatCheck{intF, "", at(32, 336, 24, 32)}}};
+    FlatButton bDLL{intF, "Dynamic Linked Library (DLL)", at(64, 136, 264, 32)};
+    FlatButton bDRV{intF, "Driver Files (DRV)", at(64, 176, 264, 32)};
+    FlatButton bSYS{intF, "System Files (SYS, 386)", at(64, 216, 264, 32)};
+    FlatButton bOCX{intF, "ActiveX Files (OCX)", at(64, 256, 264, 32)};
+    FlatButton bEXE{intF, "Executable Files (EXE, COM)", at(64, 296, 264, 32)};
+    FlatButton bEXE2{intF, "Exploited File Types (PIF, SCR)", at(64, 336, 264, 32)};
+    FlatButton bFULL{intF, "Select All", at(352, 136, 152, 32)};
+    FlatButton bCLEAR{intF, "Clear Selections", at(352, 176, 152, 32)};
+    FlatButton bSCAN{intF, "Scan Folder Now", at(352, 336, 152, 32)};
 
     // RegWatch and AppWatch.
     Frame regF{*this, at(160, 0, 600, 488), false};
@@ -34,6 +53,22 @@ struct MForm1Screen : Screen {
 
     // Options and one report.
     Frame setFq{*this, at(160, 0, 600, 488), false};
+    FlatButton cSettings{setFq, "Edit Settings", at(32, 24, 200, 32)};
+    Label Label6{setFq, "Please Remember to Save these Settings", at(248, 24, 336, 32), TextStyle::Hint};
+    FlatButton cButton2{setFq, "Advanced Settings", at(32, 64, 200, 32)};
+    Label Label16{setFq, "Only Intended for Advanced Users", at(248, 64, 336, 32), TextStyle::Hint};
+    FlatButton cSetW{setFq, "Settings Wizard", at(32, 104, 200, 32)};
+    Label Label15{setFq, "First-time Tarvelon Users are Recommended to use the Settings Wizard",
+                  at(248, 104, 336, 32), TextStyle::Hint};
+    FlatButton cCreateSS{setFq, "Shutdown/Scan Shortcut", at(32, 144, 200, 32)};
+    Label Label23{setFq,
+                  "Click to Create a Shutdown/Scan shortcut. For more information about this feature, please "
+                  "look at the Help Files.",
+                  at(248, 144, 336, 32), TextStyle::Hint};
+    FlatButton cReports{setFq, "Load Logs", at(32, 200, 200, 32)};
+    FlatButton cViewReport{setFq, "View Log", at(32, 240, 200, 32)};
+    FlatButton cUpdates{setFq, "Check for Updates", at(32, 400, 200, 32)};
+    FlatButton cAbout{setFq, "About", at(32, 440, 200, 32)};
     Frame repF{*this, at(160, 0, 600, 488), false};
 
     // Settings: the main page and the advanced page.
@@ -51,6 +86,11 @@ struct MForm1Screen : Screen {
     FlatCheck Check5{qSett, "Check ActiveX Files (OCX)", at(16, 228, 352, 24)};
     FlatCheck Check6{qSett, "Check Executables (EXE,COM)", at(16, 256, 352, 24)};
     FlatCheck Check9{qSett, "Check Commonly Exploited Files (SCR,PIF)", at(16, 284, 352, 24)};
+    FlatButton cButton10{qSett, "Click here to setup your anti-virus or anti-trojan application(s).",
+                         at(16, 328, 440, 32)};
+    FlatButton cSave{qSett, "Save Settings", at(16, 440, 136, 32)};
+    FlatButton cCancelSett{qSett, "Cancel", at(160, 440, 136, 32)};
+    FlatButton chlp{qSett, "Help", at(448, 440, 136, 32)};
     Label Label2{qSett, "...On secure shut down:", at(384, 120, 200, 20)};
     FlatCheck Check15{qSett, "DLL", at(384, 144, 200, 24)};
     FlatCheck Check14{qSett, "DRV", at(384, 172, 200, 24)};
@@ -90,10 +130,20 @@ struct MForm1Screen : Screen {
     FlatCheck wsh{advF, "Use Windows Scripting Host (If Auto-Load won't create shortcut/save)",
                   at(16, 340, 568, 24)};
 
+    FlatButton cSave2{advF, "Save", at(16, 440, 136, 32)};
+    FlatButton cButton1{advF, "Cancel", at(160, 440, 136, 32)};
+
     // About; the page that shows when the window opens.
     Frame Frame2{*this, at(160, 0, 600, 488)};
     Label Label32{Frame2, "Tarvelon", at(32, 32, 536, 32), TextStyle::Heading};
     Label Label33{Frame2, "Version: 2.0", at(32, 72, 536, 20)};
+    Label Label36{Frame2, "Programmer:", at(32, 112, 96, 20)};
+    Label Label37{Frame2, "Quillfen Support", at(136, 112, 200, 20), TextStyle::Link};
+    FlatButton cButton4{Frame2, "View Help Files", at(32, 160, 200, 32)};
+    FlatButton cButton5{Frame2, "Visit Quillfen Online", at(32, 200, 200, 32)};
+
+    /// What flips the six type boxes, in their order.
+    std::array<FlatButton*, 6> typeButtons{&bDLL, &bDRV, &bSYS, &bOCX, &bEXE, &bEXE2};
 
     /// The controls behind the positions of the stored lists.
     std::array<FlatCheck*, 8> autoLoadChecks{&Check2, &Check3, &Check4, &Check5,
