@@ -62,7 +62,7 @@ constexpr std::array<Slice, slices> makeTables() {
 constexpr std::array<Slice, slices> tables = makeTables();
 
 std::uint32_t loadWord(const unsigned char* bytes) {
-    std::uint32_t word;
+    std::uint32_t word = 0;
     std::memcpy(&word, bytes, sizeof word);
     return word;
 }

@@ -173,7 +173,7 @@ bool SimCrypto::getHashParam(Handle hash, std::uint32_t parameter, void* buffer,
 }
 
 bool SimCrypto::destroyHash(Handle hash) {
-    log_.push_back("CryptDestroyHash");
+    log_.emplace_back("CryptDestroyHash");
     return !faults_.strikes(Operation::DestroyHash) && hashes_.erase(hash) == 1;
 }
 

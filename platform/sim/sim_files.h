@@ -64,7 +64,7 @@ private:
     std::optional<Place> place(const std::string& path) const;
     /// The path of what exists there in any case; with `newLast`, also where a new entry of an existing
     /// folder would lie.
-    std::optional<std::string> find(const Place& place, bool newLast = false) const;
+    std::optional<std::string> find(const Place& asked, bool newLast = false) const;
     std::string entryLike(const std::string& hostFolder, const std::string& name) const;
     std::vector<std::string> namesIn(const std::string& hostFolder) const;
     std::string shortPathTo(const std::string& host, std::size_t rootLength) const;
