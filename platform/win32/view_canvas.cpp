@@ -155,38 +155,44 @@ int Canvas::textWidth(const std::string& text, const TextLook& look) {
     return widthOf(size);
 }
 
+Canvas::Fit Canvas::fit(const std::string& text, const RECT& rect, const TextLook& look, int height,
+                        bool severalLines) {
+    SelectObject(dc(), fonts_.get(height, look.weight, look.underlined));
+    RECT size{0, 0, widthOf(rect), 0};
+    const UINT lines = severalLines ? DT_WORDBREAK : DT_SINGLELINE;
+    DrawTextA(dc(), text.c_str(), static_cast<int>(text.size()), &size,
+              DT_CALCRECT | lines | (look.mnemonics ? DT_HIDEPREFIX : DT_NOPREFIX));
+    const bool fits = widthOf(size) <= widthOf(rect) && heightOf(size) <= heightOf(rect);
+    return {fits, lines, heightOf(size)};
+}
+
 void Canvas::text(const std::string& text, const RECT& rect, const TextLook& look) {
     if (text.empty()) {
         return;
     }
-    const auto length = static_cast<int>(text.size());
-    const UINT common =
-        (look.mnemonics ? DT_HIDEPREFIX : DT_NOPREFIX) | (look.align == Align::Center  ? DT_CENTER
-                                                          : look.align == Align::Right ? DT_RIGHT
-                                                                                       : DT_LEFT);
+    const bool isPath = text.find('\\') != std::string::npos;
     const int wanted = scale_.letters(look.tenthPoints);
-    RECT size{};
-    UINT format = DT_SINGLELINE;
-    bool paragraph = false;
-    for (int height = wanted; height >= wanted * 4 / 5; --height) {
-        SelectObject(dc(), fonts_.get(height, look.weight, look.underlined));
-        TEXTMETRICA metrics;
-        GetTextMetricsA(dc(), &metrics);
-        const bool severalLines = heightOf(rect) >= 2 * metrics.tmHeight;
-        paragraph = heightOf(rect) >= 3 * metrics.tmHeight;
-        format = common | (severalLines ? DT_WORDBREAK : DT_SINGLELINE);
-        size = {0, 0, widthOf(rect), 0};
-        DrawTextA(dc(), text.c_str(), length, &size, format | DT_CALCRECT);
-        if (widthOf(size) <= widthOf(rect) && heightOf(size) <= heightOf(rect)) {
-            break;
+    Fit chosen = fit(text, rect, look, wanted, false);
+    const bool paragraph = heightOf(rect) >= 3 * chosen.height;
+    // The names of files that pass by must not change size one by one.
+    if (!chosen.fits && !isPath) {
+        for (int height = wanted - 1; !chosen.fits && height >= wanted * 9 / 10; --height) {
+            chosen = fit(text, rect, look, height, false);
+        }
+        for (int height = wanted; !chosen.fits && height >= wanted * 4 / 5; --height) {
+            chosen = fit(text, rect, look, height, true);
         }
     }
-    const bool isPath = text.find('\\') != std::string::npos;
+    const UINT align = look.align == Align::Center  ? DT_CENTER
+                       : look.align == Align::Right ? DT_RIGHT
+                                                    : DT_LEFT;
     RECT place = rect;
-    place.top += paragraph ? 0 : std::max((heightOf(rect) - heightOf(size)) / 2, 0);
+    place.top += paragraph ? 0 : std::max((heightOf(rect) - chosen.height) / 2, 0);
     SetBkMode(dc(), TRANSPARENT);
     SetTextColor(dc(), look.color);
-    DrawTextA(dc(), text.c_str(), length, &place, format | (isPath ? DT_PATH_ELLIPSIS : DT_END_ELLIPSIS));
+    DrawTextA(dc(), text.c_str(), static_cast<int>(text.size()), &place,
+              chosen.lines | align | (look.mnemonics ? DT_HIDEPREFIX : DT_NOPREFIX) |
+                  (isPath ? DT_PATH_ELLIPSIS : DT_END_ELLIPSIS));
 }
 
 } // namespace tarvelon

@@ -66,14 +66,23 @@ public:
     /// Straight lines from spot to spot, with round ends.
     void stroke(std::initializer_list<Spot> spots, float thickness, Color color);
 
-    /// Draws the text in the middle of the rectangle's height, in as many lines as fit; a rectangle with room
-    /// for three lines or more is filled from its top. Text that does not fit is first set smaller, down to
-    /// four fifths, and at last shortened by dots.
+    /// Draws the text in the middle of the rectangle's height; a rectangle with room for three lines or more
+    /// is filled from its top. Text that does not fit into one line is first set a little smaller, then
+    /// broken into lines and, down to four fifths, set smaller again; at last it is shortened by dots. A path
+    /// is only shortened.
     void text(const std::string& text, const RECT& rect, const TextLook& look);
     /// Width of the text in one line.
     int textWidth(const std::string& text, const TextLook& look);
 
 private:
+    struct Fit {
+        bool fits;
+        UINT lines; ///< DT_SINGLELINE or DT_WORDBREAK.
+        int height; ///< Of all lines.
+    };
+    /// Chooses the font of that letter height and measures the text in it.
+    Fit fit(const std::string& text, const RECT& rect, const TextLook& look, int height, bool severalLines);
+
     void blend(std::uint32_t& pixel, Color color, float coverage);
     template<class Distance>
     void shape(const RECT& bounds, Color color, Distance distance);

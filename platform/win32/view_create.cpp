@@ -32,6 +32,8 @@ std::unique_ptr<ControlWindow> makeControlWindow(FormWindow& form, Control& cont
         return std::make_unique<TextBoxWindow>(form, static_cast<TextBox&>(control));
     case ControlKind::ListBox:
         return std::make_unique<ListBoxWindow>(form, static_cast<ListBox&>(control));
+    case ControlKind::CheckList:
+        return std::make_unique<CheckListWindow>(form, static_cast<CheckListBox&>(control));
     case ControlKind::ComboBox:
         return std::make_unique<ComboBoxWindow>(form, static_cast<ComboBox&>(control));
     case ControlKind::ProgressBar:

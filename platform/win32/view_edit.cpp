@@ -84,25 +84,24 @@ void TextBoxWindow::centreLine(RECT& inside) const {
     SelectObject(dc, previous);
     ReleaseDC(window(), dc);
     const int spare = std::max((heightOf(inside) - static_cast<int>(metrics.tmHeight)) / 2, 1);
-    inside = inset(inside, 1, std::min(spare, heightOf(inside) / 2));
+    inside = inset(inside, scale()(1), std::min(spare, heightOf(inside) / 2));
 }
 
 void TextBoxWindow::paintEdge() {
     RECT whole;
     GetWindowRect(window(), &whole);
-    OffsetRect(&whole, -whole.left, -whole.top);
-    const HDC dc = GetWindowDC(window());
     RECT inside;
     GetClientRect(window(), &inside);
     MapWindowPoints(window(), nullptr, reinterpret_cast<POINT*>(&inside), 2);
-    RECT outer;
-    GetWindowRect(window(), &outer);
-    OffsetRect(&inside, -outer.left, -outer.top);
+    OffsetRect(&inside, -whole.left, -whole.top);
+    OffsetRect(&whole, -whole.left, -whole.top);
+    const HDC dc = GetWindowDC(window());
     ExcludeClipRect(dc, inside.left, inside.top, inside.right, inside.bottom);
     const HBRUSH edge = CreateSolidBrush(isFocused() ? theme().focus : theme().border);
     const HBRUSH field = CreateSolidBrush(ground());
-    FillRect(dc, &whole, field);
-    FrameRect(dc, &whole, edge);
+    const RECT withoutEdge = inset(whole, scale()(1), scale()(1));
+    FillRect(dc, &whole, edge);
+    FillRect(dc, &withoutEdge, field);
     DeleteObject(field);
     DeleteObject(edge);
     ReleaseDC(window(), dc);

@@ -71,6 +71,7 @@ void FormWindow::createControls() {
         }
         std::unique_ptr<ControlWindow> made = makeControlWindow(*this, *control);
         const ControlWindow* frame = control->frame() ? windowOf(*control->frame()) : nullptr;
+        byControl_[control] = made.get();
         made->create(frame ? frame->window() : window_, id++);
         // The arrow keys go round among neighbours of one kind.
         const auto previous = before.find(control->frame());
@@ -78,7 +79,6 @@ void FormWindow::createControls() {
             SetWindowLongA(made->window(), GWL_STYLE, GetWindowLongA(made->window(), GWL_STYLE) | WS_GROUP);
         }
         before[control->frame()] = control->kind();
-        byControl_[control] = made.get();
         controls_.push_back(std::move(made));
     }
 }

@@ -75,22 +75,25 @@ void ItemsWindow::followRows() {
     following_ = false;
 }
 
-void ItemsWindow::paintRow(HDC dc, const RECT& place, int row, bool selected) {
-    const bool usable = items_.isUsable();
-    const Color ground = selected ? theme().selected : theme().field;
-    const HBRUSH brush = CreateSolidBrush(ground);
-    FillRect(dc, &place, brush);
-    DeleteObject(brush);
-    const Color plain = usable ? theme().fieldText : theme().disabledText;
-    SetTextColor(dc, selected ? theme().selectedText : plain);
-    SetBkMode(dc, TRANSPARENT);
-    const std::string text = items_.item(row);
-    RECT inside = inset(place, scale()(6), 0);
-    DrawTextA(dc, text.c_str(), static_cast<int>(text.size()), &inside,
-              DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_NOCLIP);
+void ItemsWindow::paintRow(const DRAWITEMSTRUCT& item) {
+    const int row = static_cast<int>(item.itemID);
+    const int width = std::max(widthOf(item.rcItem), rowWidth());
+    const int height = heightOf(item.rcItem);
+    if (row < 0 || !tools().buffer.reserve(width, height)) {
+        return;
+    }
+    const bool selected = (item.itemState & ODS_SELECTED) != 0;
+    const Color plain = items_.isUsable() ? theme().fieldText : theme().disabledText;
+    Canvas canvas(tools().buffer, tools().fonts, scale(), width, height);
+    canvas.fill(canvas.area(), selected ? theme().selected : theme().field);
+    RECT text = inset(canvas.area(), scale()(6), 0);
+    paintRowStart(canvas, row);
+    text.left += rowStartWidth();
+    canvas.text(items_.item(row), text, {.color = selected ? theme().selectedText : plain});
+    BitBlt(item.hDC, item.rcItem.left, item.rcItem.top, width, height, canvas.dc(), 0, 0, SRCCOPY);
 }
 
-ListBoxWindow::ListBoxWindow(FormWindow& form, ListBox& list)
+ListBoxWindow::ListBoxWindow(FormWindow& form, ItemControl& list)
     : ItemsWindow(form, list, listMessages) {}
 
 ControlWindow::Kind ListBoxWindow::kind() const {
@@ -100,7 +103,7 @@ ControlWindow::Kind ListBoxWindow::kind() const {
 
 void ListBoxWindow::arranged() {
     handleAsClass(LB_SETITEMHEIGHT, 0, rowHeight());
-    widest_ = 0;
+    longestText_ = 0;
     rowsAdded(0);
 }
 
@@ -108,22 +111,20 @@ void ListBoxWindow::rowsAdded(int first) {
     const HDC dc = GetDC(window());
     const HGDIOBJ previous =
         SelectObject(dc, tools().fonts.get(scale().letters(textSize::normal), FW_NORMAL));
-    widest_ = first == 0 ? 0 : widest_;
+    longestText_ = first == 0 ? 0 : longestText_;
     for (int row = first; row < items().count(); ++row) {
         const std::string& text = items().items()[static_cast<std::size_t>(row)];
         SIZE size{};
         GetTextExtentPoint32A(dc, text.c_str(), static_cast<int>(text.size()), &size);
-        widest_ = std::max(widest_, static_cast<int>(size.cx));
+        longestText_ = std::max(longestText_, static_cast<int>(size.cx));
     }
     SelectObject(dc, previous);
     ReleaseDC(window(), dc);
-    handleAsClass(LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(widest_ + scale()(12)), 0);
+    handleAsClass(LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(rowWidth()), 0);
 }
 
 void ListBoxWindow::drawRow(const DRAWITEMSTRUCT& item) {
-    if (item.itemID != static_cast<UINT>(-1)) {
-        paintRow(item.hDC, item.rcItem, static_cast<int>(item.itemID), (item.itemState & ODS_SELECTED) != 0);
-    }
+    paintRow(item);
     if ((item.itemState & ODS_FOCUS) != 0) {
         DrawFocusRect(item.hDC, &item.rcItem);
     }
@@ -151,6 +152,33 @@ void ListBoxWindow::paintEdge() {
     ReleaseDC(window(), dc);
 }
 
+void CheckListWindow::notified(int code) {
+    if (code == LBN_SELCHANGE) {
+        // By the arrow keys. A click and Space come as messages of their own, and flip the tick.
+        list_.setListIndex(static_cast<int>(handleAsClass(LB_GETCURSEL, 0, 0)));
+    }
+}
+
+LRESULT CheckListWindow::handle(UINT message, WPARAM wide, LPARAM low) {
+    if (message == LB_GETITEMDATA) {
+        return list_.ticked(static_cast<int>(wide)) ? 1 : 0;
+    }
+    const LRESULT result = ListBoxWindow::handle(message, wide, low);
+    if (message == WM_LBUTTONDOWN || message == WM_LBUTTONDBLCLK) {
+        const LRESULT hit = handleAsClass(LB_ITEMFROMPOINT, 0, low);
+        if (HIWORD(hit) == 0) {
+            list_.toggle(LOWORD(hit));
+        }
+    } else if (message == WM_KEYDOWN && wide == VK_SPACE && list_.listIndex() >= 0) {
+        list_.toggle(list_.listIndex());
+    }
+    return result;
+}
+
+void CheckListWindow::paintRowStart(Canvas& canvas, int row) {
+    paintMark(canvas, theme(), canvas.scale()(6), {.ticked = list_.ticked(row), .usable = list_.isUsable()});
+}
+
 ComboBoxWindow::ComboBoxWindow(FormWindow& form, ComboBox& combo)
     : ItemsWindow(form, combo, comboMessages) {}
 
@@ -173,9 +201,7 @@ void ComboBoxWindow::drawRow(const DRAWITEMSTRUCT& item) {
         repaint(); // The closed field is drawn whole.
         return;
     }
-    if (item.itemID != static_cast<UINT>(-1)) {
-        paintRow(item.hDC, item.rcItem, static_cast<int>(item.itemID), (item.itemState & ODS_SELECTED) != 0);
-    }
+    paintRow(item);
 }
 
 LRESULT ComboBoxWindow::handle(UINT message, WPARAM wide, LPARAM low) {

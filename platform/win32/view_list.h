@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/win32/view_control.h"
+#include "platform/win32/view_mark.h"
 
 namespace tarvelon {
 
@@ -31,10 +32,16 @@ protected:
     LRESULT handle(UINT message, WPARAM wide, LPARAM low) override;
     void applyValue() override;
     void applyItems(Aspect aspect) override;
-    void paintRow(HDC dc, const RECT& place, int row, bool selected);
+    /// Draws one row of a list, in one piece.
+    void paintRow(const DRAWITEMSTRUCT& item);
+    /// What stands before a row's text, and its width in pixels.
+    virtual void paintRowStart(Canvas&, int) {}
+    virtual int rowStartWidth() const { return 0; }
+    /// Pixels of the longest row with all that is around it, where rows can be scrolled sideways.
+    virtual int rowWidth() const { return 0; }
     int rowHeight() const { return scale()(20); }
     const Messages& messages() const { return messages_; }
-    const ItemControl& items() const { return items_; }
+    ItemControl& items() const { return items_; }
 
     /// Rows from `first` on are now in the window.
     virtual void rowsAdded(int) {}
@@ -51,7 +58,7 @@ private:
 
 class ListBoxWindow : public ItemsWindow {
 public:
-    ListBoxWindow(FormWindow& form, ListBox& list);
+    ListBoxWindow(FormWindow& form, ItemControl& list);
     void drawRow(const DRAWITEMSTRUCT& item) override;
 
 protected:
@@ -60,11 +67,30 @@ protected:
     bool paintsItself() const override { return false; }
     void arranged() override;
     void rowsAdded(int first) override;
+    int rowWidth() const override { return rowStartWidth() + longestText_ + scale()(12); }
 
 private:
     void paintEdge();
 
-    int widest_ = 0; ///< Pixels of the longest row.
+    int longestText_ = 0; ///< In pixels.
+};
+
+/// A list with a mark before each row. Other programs read a row's tick as its item data.
+class CheckListWindow : public ListBoxWindow {
+public:
+    CheckListWindow(FormWindow& form, CheckListBox& list)
+        : ListBoxWindow(form, list)
+        , list_(list) {}
+
+    void notified(int code) override;
+
+protected:
+    LRESULT handle(UINT message, WPARAM wide, LPARAM low) override;
+    void paintRowStart(Canvas& canvas, int row) override;
+    int rowStartWidth() const override { return scale()(Mark::size + 6); }
+
+private:
+    CheckListBox& list_;
 };
 
 class ComboBoxWindow : public ItemsWindow {

@@ -1,40 +1,18 @@
 #include "platform/win32/view_tick.h"
 
 #include "platform/win32/view_form.h"
+#include "platform/win32/view_mark.h"
 
 #include <algorithm>
+#include <vector>
 
 namespace tarvelon {
 
-void TickWindow::paintMark(Canvas& canvas) {
-    const Scale& scaled = canvas.scale();
-    const int size = scaled(16);
-    const int top = (heightOf(canvas.area()) - size) / 2;
-    const RECT mark{scaled(1), top, scaled(1) + size, top + size};
-    const int radius = isRound() ? size / 2 : scaled(3);
-    const bool usable = control().isUsable();
-    const Color strong = usable ? theme().selected : theme().disabledText;
-    const Color edge = isHovered() || isTicked() ? strong : theme().disabledText;
-    const Color inside = isTicked() ? strong : theme().field;
-    canvas.roundedBox(mark, radius, inside, edge, scaled(1));
-    if (!isTicked()) {
-        return;
-    }
-    if (isRound()) {
-        const int dot = scaled(5);
-        canvas.roundedBox(inset(mark, dot, dot), (size - 2 * dot) / 2, theme().selectedText);
-        return;
-    }
-    const auto unit = static_cast<float>(size) / 16;
-    const auto at = [&](float x, float y) {
-        return Spot{static_cast<float>(mark.left) + x * unit, static_cast<float>(mark.top) + y * unit};
-    };
-    canvas.stroke({at(3.8F, 8.3F), at(6.8F, 11.2F), at(12.2F, 5.0F)}, 1.9F * unit, theme().selectedText);
-}
-
 void TickWindow::paint(Canvas& canvas) {
-    paintMark(canvas);
     const Scale& scaled = canvas.scale();
+    paintMark(
+        canvas, theme(), scaled(1),
+        {.round = isRound(), .ticked = isTicked(), .usable = control().isUsable(), .hovered = isHovered()});
     TextLook look{.color = surface().text, .underlined = isLink(), .mnemonics = true};
     if (!control().isUsable()) {
         look.color = theme().disabledText;
@@ -64,16 +42,20 @@ void FlatCheckWindow::hover(POINT where) {
 }
 
 void OptionButtonWindow::applyValue() {
-    if (!option_.value()) {
-        return;
+    std::vector<const OptionButton*> neighbours;
+    for (const Control* control : option_.screen().controls()) {
+        if (control->kind() == ControlKind::OptionButton && control->frame() == option_.frame()) {
+            neighbours.push_back(static_cast<const OptionButton*>(control));
+        }
     }
+    const bool someChosen = std::any_of(neighbours.begin(), neighbours.end(),
+                                        [](const OptionButton* option) { return option->value(); });
     // Tab goes to the choice that is made, the arrow keys go to the others.
-    for (const Control* other : option_.screen().controls()) {
-        const ControlWindow* window = form().windowOf(*other);
-        if (window && other->kind() == ControlKind::OptionButton && other->frame() == option_.frame()) {
-            const LONG style = GetWindowLongA(window->window(), GWL_STYLE);
-            SetWindowLongA(window->window(), GWL_STYLE,
-                           other == &option_ ? style | WS_TABSTOP : style & ~WS_TABSTOP);
+    for (const OptionButton* option : neighbours) {
+        if (const ControlWindow* made = form().windowOf(*option)) {
+            const LONG style = GetWindowLongA(made->window(), GWL_STYLE);
+            const bool stop = option->value() || !someChosen;
+            SetWindowLongA(made->window(), GWL_STYLE, stop ? style | WS_TABSTOP : style & ~WS_TABSTOP);
         }
     }
 }

@@ -16,9 +16,6 @@ protected:
 
     /// Where the text begins, in pixels.
     int textLeft() const { return scale()(24); }
-
-private:
-    void paintMark(Canvas& canvas);
 };
 
 class FlatCheckWindow : public TickWindow {
