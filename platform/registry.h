@@ -23,7 +23,7 @@ public:
 
     virtual ~Registry() = default;
 
-    /// `RegOpenKeyExA` with options 0.
+    /// `RegOpenKeyExA` with options 0. `key` stays as it was on failure.
     virtual std::int32_t openKey(Key root, const std::string& path, std::uint32_t access, Key& key) = 0;
 
     /// `RegEnumKeyA`: the sub-key's name with a zero, into `size` bytes.

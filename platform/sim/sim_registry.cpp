@@ -63,7 +63,7 @@ struct SimRegistry::Node {
 
     auto valueLike(const std::string& asked) {
         return std::ranges::find_if(
-            values, [wanted = upper(asked)](const NamedValue& value) { return upper(value.name) == wanted; });
+            values, [wanted = upper(asked.c_str())](const NamedValue& value) { return upper(value.name) == wanted; });
     }
 };
 

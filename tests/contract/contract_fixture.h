@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/clock.h"
 #include "platform/codepage.h"
 #include "platform/crypto.h"
 #include "platform/files.h"
@@ -7,6 +8,8 @@
 #include "platform/messages.h"
 #include "platform/platform.h"
 #include "platform/processes.h"
+#include "platform/registry.h"
+#include "platform/shell.h"
 #include "ui/controls/controls.h"
 
 #include <gmock/gmock.h>
@@ -32,6 +35,11 @@ public:
     virtual bool makeReadOnly(const std::string& path) = 0;
     /// Keeps the file open so that nobody else can, until the result goes.
     virtual std::shared_ptr<void> lock(const std::string& path) = 0;
+    /// A registry key without values and sub-keys: the path below `Registry::currentUser`.
+    virtual std::string emptyKey() = 0;
+    virtual void makeKey(const std::string& path) = 0;
+    virtual void setValue(const std::string& path, const std::string& name, std::uint32_t type,
+                          const std::string& bytes) = 0;
     /// Removes the key container of the empty name.
     virtual void removeDefaultKeyContainer() = 0;
     /// Its timers run from its loading on. The screen outlives the workstation.

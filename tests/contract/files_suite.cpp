@@ -197,6 +197,40 @@ TEST_F(Contract, SearchTreeFindsTheNameInAnyDepth) {
     EXPECT_FALSE(files.searchTreeForFile(folder + "missing", "scan.exe", buffer));
 }
 
+TEST_F(Contract, ShortPathsNameTheSameFiles) {
+    const std::string longFolder = folder + "A folder with a long name\\";
+    const std::string longName = longFolder + "Some long + odd name.text";
+    ASSERT_TRUE(files.createFolder(longFolder));
+    ASSERT_TRUE(put(longName, "found"));
+    ASSERT_TRUE(put(longFolder + "Some long + odd one.text", "another"));
+
+    char buffer[260] = {};
+    const std::uint32_t length = files.getShortPathName(longName, buffer, sizeof buffer);
+    const std::string shortPath = buffer;
+    EXPECT_EQ(length, shortPath.size());
+    EXPECT_EQ(shortPath.find_first_of(" +"), std::string::npos) << shortPath;
+    const std::string name = shortPath.substr(shortPath.rfind('\\') + 1);
+    EXPECT_LE(name.find('.'), 8u) << name;
+    EXPECT_EQ(name.size() - name.find('.'), 4u) << name;
+    EXPECT_EQ(get(shortPath), "found");
+    EXPECT_EQ(files.getShortPathName(longName, buffer, length + 1), length) << "Room for the zero";
+    EXPECT_EQ(files.getShortPathName(longName, buffer, length), length + 1) << "No room for the zero";
+
+    const std::uint32_t folderLength = files.getShortPathName(longFolder, buffer, sizeof buffer);
+    EXPECT_EQ(std::string(buffer), shortPath.substr(0, folderLength));
+    EXPECT_EQ(buffer[folderLength - 1], '\\') << "Kept at the end";
+    const std::string shortFolder = buffer;
+    ASSERT_TRUE(put(longFolder + "short.Txt", ""));
+    files.getShortPathName(longFolder + "short.Txt", buffer, sizeof buffer);
+    EXPECT_EQ(std::string(buffer), shortFolder + "short.Txt") << "Short names stay";
+    files.getShortPathName(shortPath, buffer, sizeof buffer);
+    EXPECT_EQ(std::string(buffer), shortPath);
+
+    EXPECT_EQ(files.getShortPathName(longFolder + "missing", buffer, sizeof buffer), 0u);
+    EXPECT_EQ(files.getShortPathName(folder + "missing folder\\file", buffer, sizeof buffer), 0u);
+    EXPECT_EQ(files.getShortPathName("", buffer, sizeof buffer), 0u);
+}
+
 } // namespace
 
 } // namespace tarvelon

@@ -192,6 +192,25 @@ TEST_F(Contract, TimersTickInPumpsWhileEnabled) {
     workstation.reset();
 }
 
+TEST_F(Contract, TheProgramKnowsItsVersion) {
+    EXPECT_THAT(platform.processes.programVersion(), testing::ElementsAre(2, 0, 0));
+}
+
+TEST_F(Contract, DateAndTimeAreTextsThatBeginWithANumber) {
+    for (const std::string& text : {platform.clock.dateText(), platform.clock.timeText()}) {
+        ASSERT_GE(text.size(), 6u) << text;
+        EXPECT_TRUE(text[0] >= '0' && text[0] <= '9') << text;
+    }
+    const double seconds = platform.clock.secondsSinceMidnight();
+    EXPECT_GE(seconds, 0);
+    EXPECT_LT(seconds, 24 * 60 * 60);
+}
+
+TEST_F(Contract, ADocumentThatIsNotThereCannotBeOpened) {
+    EXPECT_EQ(platform.shell.open("missing.html", folder), Shell::fileNotFound);
+    EXPECT_EQ(platform.shell.open(folder + "missing.html", ""), Shell::fileNotFound);
+}
+
 } // namespace
 
 } // namespace tarvelon

@@ -24,6 +24,15 @@ public:
         sim_.files.lock(path);
         return std::shared_ptr<void>(&sim_, [this, path](void*) { sim_.files.unlock(path); });
     }
+    std::string emptyKey() override {
+        makeKey(R"(Software\TarvelonContract)");
+        return R"(Software\TarvelonContract)";
+    }
+    void makeKey(const std::string& path) override { sim_.registry.makeKey(Registry::currentUser, path); }
+    void setValue(const std::string& path, const std::string& name, std::uint32_t type,
+                  const std::string& bytes) override {
+        sim_.registry.setValue(Registry::currentUser, path, name, {type, bytes});
+    }
     void removeDefaultKeyContainer() override { sim_.crypto.containers.clear(); }
     void attach(Screen& screen) override { sim_.attach(screen); }
     bool hasMade(const std::string&, const std::string& commandLine) override {

@@ -33,6 +33,27 @@ void removeTree(const std::string& folder) {
     RemoveDirectoryA(folder.c_str());
 }
 
+void removeKey(HKEY parent, const std::string& path) {
+    HKEY key;
+    if (RegOpenKeyExA(parent, path.c_str(), 0, KEY_ALL_ACCESS, &key) != ERROR_SUCCESS) {
+        return;
+    }
+    char name[256];
+    while (RegEnumKeyA(key, 0, name, sizeof name) == ERROR_SUCCESS) {
+        removeKey(key, name);
+    }
+    RegCloseKey(key);
+    RegDeleteKeyA(parent, path.c_str());
+}
+
+HKEY createKey(const std::string& path) {
+    HKEY key = nullptr;
+    EXPECT_EQ(RegCreateKeyA(HKEY_CURRENT_USER, path.c_str(), &key), ERROR_SUCCESS) << path;
+    return key;
+}
+
+constexpr const char* scratchKey = R"(Software\TarvelonContract)";
+
 class Win32ContractWorkstation : public ContractWorkstation {
 public:
     Win32ContractWorkstation() {
@@ -41,7 +62,10 @@ public:
         folder_ =
             std::string(temporary) + "tarvelon-contract-" + std::to_string(GetCurrentProcessId()) + "\\";
     }
-    ~Win32ContractWorkstation() override { removeTree(folder_); }
+    ~Win32ContractWorkstation() override {
+        removeTree(folder_);
+        removeKey(HKEY_CURRENT_USER, scratchKey);
+    }
 
     Platform platform() override { return win32_.platform(); }
     std::string emptyFolder() override {
@@ -61,6 +85,21 @@ public:
         const HANDLE file = CreateFileA(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
         EXPECT_NE(file, INVALID_HANDLE_VALUE) << path;
         return std::shared_ptr<void>(file, CloseHandle);
+    }
+    std::string emptyKey() override {
+        removeKey(HKEY_CURRENT_USER, scratchKey);
+        makeKey(scratchKey);
+        return scratchKey;
+    }
+    void makeKey(const std::string& path) override { RegCloseKey(createKey(path)); }
+    void setValue(const std::string& path, const std::string& name, std::uint32_t type,
+                  const std::string& bytes) override {
+        const HKEY key = createKey(path);
+        const auto* data = reinterpret_cast<const BYTE*>(bytes.data());
+        EXPECT_EQ(RegSetValueExA(key, name.c_str(), 0, type, data, static_cast<DWORD>(bytes.size())),
+                  ERROR_SUCCESS)
+            << name;
+        RegCloseKey(key);
     }
     void removeDefaultKeyContainer() override {
         HCRYPTPROV none = 0;
