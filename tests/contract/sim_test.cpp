@@ -144,6 +144,44 @@ TEST_F(Sim, FaultsStrikeTheCallTheyAreMeantFor) {
     EXPECT_TRUE(workstation.processes.started().empty());
 }
 
+TEST_F(Sim, ShortNamesCountWhatBeginsAlike) {
+    SimFiles& files = workstation.files;
+    files.put("C:\\D\\Program one.html", "1");
+    files.put("C:\\D\\Program two.html", "2");
+    files.put("C:\\D\\.rc", "3");
+    const auto shortPath = [&](const std::string& path) {
+        char buffer[260] = "";
+        files.getShortPathName(path, buffer, sizeof buffer);
+        return std::string(buffer);
+    };
+    EXPECT_EQ(shortPath("C:\\D\\Program one.html"), "C:\\D\\PROGRA~1.HTM");
+    EXPECT_EQ(shortPath("C:\\D\\program two.html"), "C:\\D\\PROGRA~2.HTM");
+    EXPECT_EQ(files.get("C:\\d\\progra~2.htm"), "2");
+    files.setShortPath("C:\\D\\Program one.html", "C:\\X");
+    EXPECT_EQ(shortPath("C:\\d\\PROGRA~1.HTM"), "C:\\D\\PROGRA~1.HTM");
+    EXPECT_EQ(shortPath("c:\\d\\program one.html"), "C:\\X");
+}
+
+TEST_F(Sim, TheClockRunsOverMidnight) {
+    workstation.clock.startAfterMidnight = 86'399;
+    messages.advance(500);
+    EXPECT_EQ(workstation.clock.secondsSinceMidnight(), 86'399.5);
+    messages.advance(500);
+    EXPECT_EQ(workstation.clock.secondsSinceMidnight(), 0);
+}
+
+TEST_F(Sim, WhatIsOpenedIsOnTheRecord) {
+    SimShell& shell = workstation.shell;
+    workstation.files.put("C:\\Help\\index.html", "");
+    EXPECT_GT(shell.open("index.html", "C:\\Help\\"), 32);
+    EXPECT_GT(shell.open("mailto:somebody", ""), 32);
+    shell.results["mailto:somebody"] = Shell::noProgram;
+    EXPECT_EQ(shell.open("mailto:somebody", ""), Shell::noProgram);
+    EXPECT_EQ(shell.open("other.html", "C:\\Help\\"), Shell::fileNotFound);
+    EXPECT_THAT(shell.opened(), ElementsAre(OpenedDocument{"index.html", "C:\\Help\\"},
+                                            OpenedDocument{"mailto:somebody", ""}));
+}
+
 } // namespace
 
 } // namespace tarvelon
