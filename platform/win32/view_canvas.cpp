@@ -147,6 +147,26 @@ void Canvas::stroke(std::initializer_list<Spot> spots, float thickness, Color co
     shape(area(), color, distance);
 }
 
+void Canvas::picture(HICON picture, const RECT& rect, Color color, Color ground) {
+    // White on black, each pixel's brightness is how much of it the picture covers.
+    fill(rect, colors::black);
+    DrawIconEx(dc(), rect.left, rect.top, picture, widthOf(rect), heightOf(rect), 0, nullptr, DI_NORMAL);
+    GdiFlush();
+    RECT visible;
+    const RECT whole = area();
+    if (!IntersectRect(&visible, &rect, &whole)) {
+        return;
+    }
+    for (int y = visible.top; y < visible.bottom; ++y) {
+        std::uint32_t* row = buffer_.row(y);
+        for (int x = visible.left; x < visible.right; ++x) {
+            const float coverage = static_cast<float>(row[x] & 0xff) / 255;
+            row[x] = pixelFrom(ground);
+            blend(row[x], color, coverage);
+        }
+    }
+}
+
 int Canvas::textWidth(const std::string& text, const TextLook& look) {
     SelectObject(dc(), fonts_.get(scale_.letters(look.tenthPoints), look.weight));
     RECT size{};

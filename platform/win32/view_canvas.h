@@ -65,6 +65,8 @@ public:
     void roundedBox(const RECT& rect, int radius, Color color, Color edge, int thickness);
     /// Straight lines from spot to spot, with round ends.
     void stroke(std::initializer_list<Spot> spots, float thickness, Color color);
+    /// Draws a white picture in another colour, on a ground of one colour.
+    void picture(HICON picture, const RECT& rect, Color color, Color ground);
 
     /// Draws the text in the middle of the rectangle's height; a rectangle with room for three lines or more
     /// is filled from its top. Text that does not fit into one line is first set a little smaller, then

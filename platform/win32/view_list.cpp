@@ -125,7 +125,7 @@ void ListBoxWindow::rowsAdded(int first) {
 
 void ListBoxWindow::drawRow(const DRAWITEMSTRUCT& item) {
     paintRow(item);
-    if ((item.itemState & ODS_FOCUS) != 0) {
+    if ((item.itemState & ODS_FOCUS) != 0 && items().count() > 0) {
         DrawFocusRect(item.hDC, &item.rcItem);
     }
 }

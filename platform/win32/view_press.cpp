@@ -206,28 +206,31 @@ void NavButtonWindow::arranged() {
 void NavButtonWindow::paint(Canvas& canvas) {
     const Scale& scaled = canvas.scale();
     const RECT area = canvas.area();
-    const bool current = button_.Current();
-    if (current) {
-        canvas.fill(area, theme().navigationCurrent);
-        canvas.fill({0, 0, scaled(4), area.bottom}, theme().highContrast ? theme().focus : colors::white);
-    } else if (isHovered()) {
-        canvas.fill(area, theme().navigationHover);
+    Color ground = isHovered() ? theme().navigationHover : theme().navigation.ground;
+    Color text = theme().navigation.text;
+    if (button_.Current()) {
+        ground = theme().navigationCurrent;
+        text = theme().navigationCurrentText;
+    }
+    if (!button_.isUsable()) {
+        text = theme().disabledText;
+    }
+    canvas.fill(area, ground);
+    if (button_.Current()) {
+        canvas.fill({0, 0, scaled(4), area.bottom}, text);
     }
     const int size = scaled(32);
     const int line = scaled(20);
     const int gap = scaled(4);
+    const int left = (widthOf(area) - size) / 2;
     const int top = (heightOf(area) - size - gap - line) / 2;
     if (picture_) {
-        DrawIconEx(canvas.dc(), (widthOf(area) - size) / 2, top, picture_, size, size, 0, nullptr, DI_NORMAL);
+        canvas.picture(picture_, {left, top, left + size, top + size}, text, ground);
     }
-    canvas.text(button_.Caption(),
-                {scaled(8), top + size + gap, area.right - scaled(8), top + size + gap + line},
-                {.color = button_.isUsable() ? theme().navigation.text : theme().disabledText,
-                 .align = Align::Center,
-                 .mnemonics = true});
+    const RECT caption{scaled(8), top + size + gap, area.right - scaled(8), top + size + gap + line};
+    canvas.text(button_.Caption(), caption, {.color = text, .align = Align::Center, .mnemonics = true});
     if (isFocused()) {
-        paintFocus(canvas, inset(area, scaled(2), scaled(2)),
-                   theme().highContrast ? theme().focus : theme().navigation.quietText);
+        paintFocus(canvas, inset(area, scaled(2), scaled(2)), theme().navigation.quietText);
     }
 }
 

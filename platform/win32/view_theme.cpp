@@ -37,6 +37,7 @@ Theme ownTheme() {
         .bar = rgb(0x3F8F6B),
         .navigationHover = rgb(0x2B3C4E),
         .navigationCurrent = rgb(0x365C85),
+        .navigationCurrentText = colors::white,
     };
 }
 
@@ -58,12 +59,13 @@ Theme systemTheme() {
         .selectedText = system(COLOR_HIGHLIGHTTEXT),
         .disabledText = system(COLOR_GRAYTEXT),
         .link = system(COLOR_HOTLIGHT),
-        .button = {rgb(0x5484B3), rgb(0x6D9AC8), rgb(0x365C85), rgb(0x7F8A95), rgb(0x5484B3)},
+        .button = {face, face, face, face, edge},
         .action = {face, face, face, face, edge},
         .track = system(COLOR_WINDOW),
         .bar = system(COLOR_HIGHLIGHT),
         .navigationHover = system(COLOR_WINDOW),
-        .navigationCurrent = system(COLOR_WINDOW),
+        .navigationCurrent = system(COLOR_HIGHLIGHT),
+        .navigationCurrentText = system(COLOR_HIGHLIGHTTEXT),
     };
 }
 

@@ -41,6 +41,7 @@ struct Theme {
     Color bar;
     Color navigationHover;
     Color navigationCurrent;
+    Color navigationCurrentText;
 };
 
 Theme currentTheme();
