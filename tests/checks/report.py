@@ -43,7 +43,7 @@ def results(junit):
             yield "passed", name, ""
         elif not found:
             said = output.strip().splitlines()
-            yield "skipped", name, said[-1] if said else "no reason given"
+            yield "skipped", name, said[-1].removeprefix("skipped: ") if said else "no reason given"
 
 
 def main():

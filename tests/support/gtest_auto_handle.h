@@ -1,7 +1,7 @@
 #pragma once
 
-// GoogleTest's death tests use its AutoHandle, which it declares only where it counts on threads. Force-included
-// into its own sources in the Windows builds.
+// GoogleTest's death tests use its AutoHandle, which it declares only where it counts on threads.
+// Force-included into its own sources in the Windows builds.
 #include "gtest/internal/gtest-port.h"
 
 #include <windows.h>
