@@ -38,6 +38,8 @@ std::unique_ptr<ControlWindow> makeControlWindow(FormWindow& form, Control& cont
         return std::make_unique<ComboBoxWindow>(form, static_cast<ComboBox&>(control));
     case ControlKind::ProgressBar:
         return std::make_unique<ProgressBarWindow>(form, static_cast<ProgressBar&>(control));
+    case ControlKind::Picture:
+    case ControlKind::Tree:
     case ControlKind::Timer:
         break;
     }

@@ -177,6 +177,16 @@ void NavButton::click() {
     }
 }
 
+Picture::Picture(ControlParent parent, Rect place, std::string image, std::string caption)
+    : Control(ControlKind::Picture, parent, std::move(caption), place)
+    , image_(std::move(image)) {}
+
+void Picture::click() {
+    if (isUsable()) {
+        raise(onClick);
+    }
+}
+
 TextBox::TextBox(ControlParent parent, Rect place, bool visible)
     : Control(ControlKind::TextBox, parent, "", place) {
     Visible = visible;

@@ -17,9 +17,11 @@ enum class ControlKind {
     CheckBox,
     OptionButton,
     NavButton,
+    Picture,
     TextBox,
     ListBox,
     CheckList,
+    Tree,
     ComboBox,
     ProgressBar,
     Timer,
@@ -90,11 +92,12 @@ private:
 enum class TextStyle {
     Normal,
     Heading,
-    Value,  ///< A figure that people look for: large, to the right.
-    Gauge,  ///< A percentage such as "57%", drawn as a bar behind its text as well.
-    Hint,   ///< Explanations: quieter than the texts around them.
-    Link,   ///< Opens something elsewhere: underlined, with a hand under the mouse.
-    Action, ///< A label that is clicked like a button: drawn with a face that lights up under the mouse.
+    Value,   ///< A figure that people look for: large, to the right.
+    Gauge,   ///< A percentage such as "57%", drawn as a bar behind its text as well.
+    Hint,    ///< Explanations: quieter than the texts around them.
+    Caption, ///< Names the picture above it: centred.
+    Link,    ///< Opens something elsewhere: underlined, with a hand under the mouse.
+    Action,  ///< A label that is clicked like a button: drawn with a face that lights up under the mouse.
 };
 
 class Label : public Control {
@@ -222,6 +225,24 @@ private:
     std::string icon_;
 };
 
+/// A drawn picture that is clicked. Its caption names it for those who cannot see it; the keyboard reaches it
+/// while it is visible.
+class Picture : public Control {
+public:
+    Picture(ControlParent parent, Rect place, std::string image, std::string caption);
+
+    /// Name of the picture, such as "standby".
+    const std::string& image() const { return image_; }
+
+    Screen::Handler onClick;
+    /// The keyboard has come to the picture.
+    Screen::Handler onFocus;
+    void click();
+
+private:
+    std::string image_;
+};
+
 /// One line of text, which is its caption.
 class TextBox : public Control {
 public:
@@ -250,6 +271,9 @@ public:
     void setListIndex(int index);
     /// The selected row's text, or empty.
     std::string text() const { return item(listIndex_); }
+
+    /// Shown while the mouse rests on the list; empty for none.
+    Property<std::string, Control, Aspect::ToolTip> ToolTip{*this, ""};
 
     Screen::Handler onClick;
     /// The user selected a row.

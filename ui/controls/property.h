@@ -13,6 +13,7 @@ enum class Aspect {
     TextColor, ///< Text colour or underline.
     Items,     ///< All rows anew.
     ItemAdded,
+    ToolTip,
 };
 
 /// A value that tells its owner about each real change. The owner has `void changed(Aspect)`.
