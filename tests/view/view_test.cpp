@@ -1,0 +1,306 @@
+#include "platform/win32/win32_platform.h"
+#include "platform/win32/windows_api.h"
+#include "ui/controls/controls.h"
+
+#include <gmock/gmock.h>
+
+#include <commctrl.h>
+
+namespace tarvelon {
+
+namespace {
+
+struct SampleScreen : Screen {
+    SampleScreen()
+        : Screen("Sample", 400, 300) {}
+
+    Frame page{*this, at(0, 0, 400, 260)};
+    Label label{page, "A label", at(8, 8, 120, 16)};
+    Label gauge{page, "0%", at(200, 8, 192, 16), TextStyle::Gauge};
+    FlatButton button{page, "A && B", at(8, 32, 120, 32)};
+    Label action{page, "An action", at(136, 32, 120, 32), TextStyle::Action};
+    FlatCheck check{page, "A check", at(8, 72, 120, 24)};
+    OptionButton first{page, "First", at(8, 104, 120, 24)};
+    OptionButton second{page, "Second", at(136, 104, 120, 24)};
+    TextBox text{page, at(8, 136, 120, 24)};
+    TextBox unseenText{page, at(136, 136, 120, 24), false};
+    ListBox list{page, at(8, 168, 120, 80)};
+    ListBox unseenList{page, at(136, 168, 120, 80), false};
+    CheckListBox checkList{page, at(264, 168, 120, 80)};
+    ComboBox combo{page, at(264, 136, 120, 24)};
+    ProgressBar bar{page, at(264, 104, 120, 16)};
+    Timer timer{*this, 10};
+};
+
+class View : public testing::Test {
+protected:
+    View() {
+        platform.view().attach(screen);
+        screen.show();
+        form = FindWindowA("TarvelonForm", screen.Caption().c_str());
+    }
+
+    void pump() { platform.platform().messages.pump(); }
+
+    void pumpFor(DWORD milliseconds) {
+        const DWORD start = GetTickCount();
+        while (GetTickCount() - start < milliseconds) {
+            pump();
+            Sleep(1);
+        }
+    }
+
+    /// The child window in the given place, as another program would find it.
+    HWND windowAt(const Control& control) const {
+        HWND parent = form;
+        if (control.frame()) {
+            parent = GetWindow(form, GW_CHILD);
+        }
+        for (HWND child = GetWindow(parent, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
+            RECT place;
+            GetWindowRect(child, &place);
+            MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&place), 2);
+            if (place.left == control.place().x && place.top == control.place().y) {
+                return child;
+            }
+        }
+        ADD_FAILURE() << "There is no window at the control's place";
+        return nullptr;
+    }
+
+    static std::string textOf(HWND window, WPARAM size = 256) {
+        std::string text(256, '\0');
+        const LRESULT length = SendMessageA(window, WM_GETTEXT, size, reinterpret_cast<LPARAM>(text.data()));
+        text.resize(static_cast<std::size_t>(length));
+        return text;
+    }
+
+    LRESULT ask(const Control& control, UINT message, WPARAM wide = 0, LPARAM low = 0) const {
+        return SendMessageA(windowAt(control), message, wide, low);
+    }
+
+    bool isTabStop(const Control& control) const {
+        return (GetWindowLongA(windowAt(control), GWL_STYLE) & WS_TABSTOP) != 0;
+    }
+
+    Win32Platform platform;
+    SampleScreen screen;
+    HWND form = nullptr;
+};
+
+TEST_F(View, CaptionsAnswerAtOnce) {
+    EXPECT_EQ(textOf(windowAt(screen.button)), "A && B");
+    for (int turn = 0; turn < 100; ++turn) {
+        screen.label.Caption = "C:\\file" + std::to_string(turn);
+        screen.Caption = "Sample " + std::to_string(turn);
+        ASSERT_EQ(textOf(windowAt(screen.label)), screen.label.Caption());
+        ASSERT_EQ(textOf(form), screen.Caption());
+    }
+    EXPECT_EQ(ask(screen.label, WM_GETTEXTLENGTH), 9);
+    EXPECT_EQ(textOf(windowAt(screen.label), 5), "C:\\f") << "Cut to the buffer, its zero included";
+    platform.platform().messages.pump();
+    pumpFor(60);
+    EXPECT_NE(FindWindowA("TarvelonForm", "Sample 99"), nullptr);
+}
+
+TEST_F(View, TheLastStateIsDrawn) {
+    pumpFor(60);
+    const HWND gauge = windowAt(screen.gauge);
+    const HDC dc = GetDC(gauge);
+    const COLORREF before = GetPixel(dc, 60, 8);
+    for (int percent = 0; percent <= 100; ++percent) {
+        screen.gauge.Caption = std::to_string(percent) + "%";
+    }
+    pumpFor(150);
+    EXPECT_NE(GetPixel(dc, 60, 8), before) << "The bar reaches its middle";
+    ReleaseDC(gauge, dc);
+}
+
+TEST_F(View, OtherProgramsPressWhatTheUserPresses) {
+    int clicks = 0;
+    screen.button.onClick = screen.action.onClick = screen.check.onClick = [&] { ++clicks; };
+    ask(screen.button, BM_CLICK);
+    ask(screen.action, BM_CLICK);
+    ask(screen.check, BM_CLICK);
+    EXPECT_EQ(clicks, 3);
+    EXPECT_EQ(ask(screen.check, BM_GETCHECK), BST_CHECKED);
+
+    screen.button.Enabled = false;
+    EXPECT_FALSE(IsWindowEnabled(windowAt(screen.button)));
+    ask(screen.button, BM_CLICK);
+    EXPECT_EQ(clicks, 3) << "A disabled button gives no click";
+
+    EXPECT_TRUE(isTabStop(screen.first) && isTabStop(screen.second));
+    ask(screen.second, BM_CLICK);
+    EXPECT_TRUE(screen.second.value());
+    EXPECT_TRUE(isTabStop(screen.second)) << "Tab leads to the choice that is made";
+    EXPECT_FALSE(isTabStop(screen.first));
+    ask(screen.first, BM_CLICK);
+    EXPECT_EQ(ask(screen.second, BM_GETCHECK), BST_UNCHECKED);
+    EXPECT_TRUE(isTabStop(screen.first));
+}
+
+TEST_F(View, TheMouseGivesLooks) {
+    const LPARAM onBox = MAKELPARAM(4, 12);
+    const LPARAM onText = MAKELPARAM(40, 12);
+    ask(screen.check, WM_MOUSEMOVE, 0, onText);
+    EXPECT_TRUE(screen.check.hovered());
+    ask(screen.check, WM_MOUSEMOVE, 0, onBox);
+    EXPECT_FALSE(screen.check.hovered());
+    ask(screen.check, WM_MOUSEMOVE, 0, onText);
+    ask(screen.check, WM_MOUSELEAVE);
+    EXPECT_FALSE(screen.check.hovered());
+
+    int clicks = 0;
+    screen.button.onClick = [&] { ++clicks; };
+    const LPARAM inside = MAKELPARAM(60, 16);
+    ask(screen.button, WM_LBUTTONDOWN, MK_LBUTTON, inside);
+    EXPECT_EQ(screen.button.foreColor(), colors::white);
+    ask(screen.button, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(60, 90));
+    EXPECT_EQ(screen.button.foreColor(), colors::black) << "The mouse has left while held";
+    ask(screen.button, WM_LBUTTONUP, 0, MAKELPARAM(60, 90));
+    EXPECT_EQ(clicks, 0);
+    ask(screen.button, WM_LBUTTONDOWN, MK_LBUTTON, inside);
+    ask(screen.button, WM_LBUTTONUP, 0, inside);
+    EXPECT_EQ(clicks, 1);
+    EXPECT_EQ(screen.button.foreColor(), colors::black);
+}
+
+TEST_F(View, HiddenControlsStayWindows) {
+    EXPECT_FALSE(IsWindowVisible(windowAt(screen.unseenText)));
+    screen.unseenText.Caption = "scanner.exe";
+    EXPECT_EQ(textOf(windowAt(screen.unseenText)), "scanner.exe");
+    screen.unseenList.add("row");
+    pumpFor(60);
+    EXPECT_FALSE(IsWindowVisible(windowAt(screen.unseenList))) << "New rows bring nothing to light";
+
+    SetForegroundWindow(form);
+    SetFocus(windowAt(screen.button));
+    screen.button.Visible = false;
+    EXPECT_FALSE(IsWindowVisible(windowAt(screen.button)));
+    pumpFor(60);
+    EXPECT_NE(GetFocus(), windowAt(screen.button)) << "The keyboard would be lost";
+    screen.page.Visible = false;
+    EXPECT_FALSE(IsWindowVisible(windowAt(screen.label)));
+}
+
+TEST_F(View, RowsFollow) {
+    for (int row = 0; row < 1000; ++row) {
+        screen.list.add("row " + std::to_string(row));
+    }
+    EXPECT_EQ(ask(screen.list, LB_GETCOUNT), 1000);
+    screen.list.remove(0);
+    screen.list.replace(1, "new");
+    char text[32] = {};
+    ask(screen.list, LB_GETTEXT, 1, reinterpret_cast<LPARAM>(text));
+    EXPECT_STREQ(text, "new");
+    EXPECT_EQ(ask(screen.list, LB_GETCOUNT), 999);
+
+    std::string chosen;
+    screen.list.onClick = [&] { chosen = screen.list.text(); };
+    screen.list.setListIndex(5);
+    EXPECT_EQ(chosen, "") << "Selected by code, it raises no click";
+    EXPECT_EQ(ask(screen.list, LB_GETCURSEL), 5);
+    const HWND list = windowAt(screen.list);
+    SendMessageA(list, LB_SETCURSEL, 1, 0);
+    SendMessageA(GetParent(list), WM_COMMAND, MAKEWPARAM(0, LBN_SELCHANGE), reinterpret_cast<LPARAM>(list));
+    EXPECT_EQ(chosen, "new");
+    screen.list.clear();
+    EXPECT_EQ(ask(screen.list, LB_GETCOUNT), 0);
+
+    screen.combo.add("one");
+    screen.combo.add("two");
+    screen.combo.setListIndex(1);
+    EXPECT_EQ(textOf(windowAt(screen.combo)), "two");
+}
+
+TEST_F(View, TicksFlipByMouseAndSpace) {
+    int clicks = 0;
+    screen.checkList.onClick = [&] { ++clicks; };
+    screen.checkList.add("first");
+    screen.checkList.add("second");
+    EXPECT_EQ(ask(screen.checkList, LB_GETCOUNT), 2);
+    const LPARAM onSecond = MAKELPARAM(30, 26);
+    ask(screen.checkList, WM_LBUTTONDOWN, MK_LBUTTON, onSecond);
+    ask(screen.checkList, WM_LBUTTONUP, 0, onSecond);
+    EXPECT_TRUE(screen.checkList.ticked(1));
+    EXPECT_EQ(ask(screen.checkList, LB_GETITEMDATA, 1), 1);
+    EXPECT_EQ(clicks, 1);
+    ask(screen.checkList, WM_KEYDOWN, VK_SPACE);
+    EXPECT_FALSE(screen.checkList.ticked(1));
+    ask(screen.checkList, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(30, 70));
+    ask(screen.checkList, WM_LBUTTONUP, 0, MAKELPARAM(30, 70));
+    EXPECT_EQ(clicks, 2) << "Below the last row there is nothing to click";
+}
+
+TEST_F(View, TypingAndSettingText) {
+    int changes = 0;
+    screen.text.onChange = [&] { ++changes; };
+    screen.text.Caption = "by code";
+    EXPECT_EQ(changes, 0);
+    ask(screen.text, EM_SETSEL, 7, 7);
+    ask(screen.text, WM_CHAR, '!');
+    EXPECT_EQ(screen.text.Caption(), "by code!");
+    EXPECT_EQ(changes, 1);
+    EXPECT_EQ(LOWORD(ask(screen.text, EM_GETSEL)), 8) << "The caret stays behind what was typed";
+}
+
+TEST_F(View, ProgressCanBeRead) {
+    screen.bar.setMax(400);
+    screen.bar.setValue(300);
+    pumpFor(60);
+    EXPECT_EQ(ask(screen.bar, PBM_GETRANGE, FALSE), 400);
+    EXPECT_EQ(ask(screen.bar, PBM_GETPOS), 300);
+}
+
+TEST_F(View, TimersTickWhileEnabled) {
+    int ticks = 0;
+    screen.timer.onTick = [&] {
+        if (++ticks == 2) {
+            screen.timer.Enabled = false;
+        }
+    };
+    screen.timer.Enabled = true;
+    pumpFor(200);
+    EXPECT_EQ(ticks, 2);
+}
+
+TEST_F(View, ClosingIsUpToTheScreen) {
+    bool lets = false;
+    screen.onQueryClose = [&] { return lets; };
+    SendMessageA(form, WM_CLOSE, 0, 0);
+    EXPECT_TRUE(screen.Visible());
+    lets = true;
+    SendMessageA(form, WM_COMMAND, IDCANCEL, 0);
+    EXPECT_TRUE(screen.Visible()) << "Esc does not close a main window";
+    screen.canMinimize = false;
+    SendMessageA(form, WM_COMMAND, IDCANCEL, 0);
+    EXPECT_FALSE(screen.Visible());
+    EXPECT_FALSE(IsWindowVisible(form));
+    EXPECT_TRUE(IsWindow(form)) << "A screen is hidden, not unmade";
+}
+
+TEST_F(View, AHandlerMayOpenAnotherScreenAndSeesKeys) {
+    SampleScreen other;
+    other.Caption = "Other";
+    platform.view().attach(other);
+    std::vector<int> keys;
+    screen.onKeyDown = [&](int key) { keys.push_back(key); };
+    screen.onKeyUp = [&](int key) { keys.push_back(-key); };
+    screen.button.onClick = [&] {
+        other.show();
+        pump();
+    };
+    PostMessageA(windowAt(screen.button), BM_CLICK, 0, 0);
+    PostMessageA(windowAt(screen.text), WM_KEYDOWN, VK_SHIFT, 1);
+    PostMessageA(windowAt(screen.text), WM_KEYUP, VK_SHIFT, static_cast<LPARAM>(0xC0000001));
+    pump();
+    EXPECT_TRUE(other.isLoaded());
+    EXPECT_NE(FindWindowA("TarvelonForm", "Other"), nullptr);
+    EXPECT_THAT(keys, testing::ElementsAre(VK_SHIFT, -VK_SHIFT));
+    other.hide();
+}
+
+} // namespace
+
+} // namespace tarvelon
