@@ -58,6 +58,7 @@ void ControlWindow::changed(Aspect aspect) {
         applyCaption();
         break;
     case Aspect::TextColor:
+    case Aspect::ToolTip:
         break;
     }
     form_.refreshLater(*this);
