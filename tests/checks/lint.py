@@ -42,7 +42,8 @@ def main():
         stamp = stamps / digest(shared.encode(), command.encode(), path.read_bytes())
         if stamp.exists():
             return None
-        run = subprocess.run(["clang-tidy", "--quiet", "--extra-arg=-Wno-unknown-warning-option", "-p", build, path], capture_output=True, text=True)
+        tidy = ["clang-tidy", "--quiet", "--extra-arg=-Wno-unknown-warning-option", "-p", build, path]
+        run = subprocess.run(tidy, capture_output=True, text=True)
         if run.returncode == 0:
             stamp.touch()
             return None
