@@ -71,7 +71,9 @@ void Application::bindHooks() {
     resultAction.leaveScan = leaveScan;
     customFolders.loadf = [this] { folderScanPage.loadf(); };
     mainForm.hooks = {.loadSettings = [this] { settingsPages.loadSettings(); },
-                      .showCustomFolders = [this] { iCust.show(); }};
+                      .showCustomFolders = [this] { iCust.show(); },
+                      .regPageOpened = [this] { regPage.Image7_Opened(); }};
+    snapshotFile.setReg = [this] { detection.setReg(); };
     scan.hooks.resultAction = [this] { resultAction.Label12_Click(); };
     scan.hooks.showMainWindow = [this] { mForm1.show(); };
 }

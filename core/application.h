@@ -18,6 +18,8 @@
 #include "integrity/result_action.h"
 #include "logging/log_files.h"
 #include "platform/platform.h"
+#include "regwatch/detection.h"
+#include "regwatch/reg_page.h"
 #include "regwatch/snapshot_file.h"
 #include "shutdown/sprog_screen.h"
 #include "ui/mform1.h"
@@ -60,6 +62,8 @@ public:
                   {globals, platform, settingsFile, checksum, dataFile, baseline, utilities, comparison}};
     Scanner scanner{mForm1, globals, platform};
     LogFiles logFiles{mForm1, globals, platform};
+    Detection detection{mForm1, globals, platform, settingsFile};
+    RegPage regPage{mForm1, {globals, platform, settingsFile, utilities, scanner, logFiles, detection}};
     ResultAction resultAction{
         intCheck, {globals, platform, settingsFile, checksum, dataFile, utilities, scanner, logFiles}};
     FolderScanPage folderScanPage{mForm1,

@@ -16,8 +16,8 @@ void SnapshotFile::checkRegFile() {
     }
     globals_.regWatch.regNew = true;
     std::string text;
-    for (const char* section : locationSections) {
-        text.append("[").append(section).append("]\r\n\r\n");
+    for (const Location& location : locations) {
+        text.append("[").append(location.section).append("]\r\n\r\n");
     }
     if (!writeWholeFile(platform_.files, path, text)) {
         throw Failure("The registry snapshot cannot be made:\r\n" + path);

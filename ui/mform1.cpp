@@ -48,7 +48,10 @@ void MForm1::bind() {
 }
 
 void MForm1::bindPages() {
-    screen_.Image7.onClick = [this] { open(&screen_.Image7, screen_.regF); };
+    screen_.Image7.onClick = [this] {
+        hooks.regPageOpened();
+        open(&screen_.Image7, screen_.regF);
+    };
     screen_.Image9.onClick = [this] { open(&screen_.Image9, screen_.appF); };
     screen_.Image11.onClick = [this] {
         norms2();

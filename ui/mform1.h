@@ -15,6 +15,7 @@ struct Platform;
 struct MForm1Hooks {
     std::function<void()> loadSettings;
     std::function<void()> showCustomFolders;
+    std::function<void()> regPageOpened;
 };
 
 /// The main window's frame: which page is open, the hover reset, and the actions that have no other home.

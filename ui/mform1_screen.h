@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/controls/controls.h"
+#include "ui/controls/tree.h"
 
 #include <array>
 
@@ -12,6 +13,7 @@ struct MForm1Screen : Screen {
     MForm1Screen()
         : Screen("Welcome to Tarvelon", 760, 488) {
         Label1.Visible = false;
+        Label19.Visible = false;
         // What they open comes with the settings, the wizard and the log browser.
         for (FlatButton* button : {&cSetW, &cCreateSS, &cReports, &cButton10, &cSave, &cSave2}) {
             button->Enabled = false;
@@ -49,6 +51,20 @@ struct MForm1Screen : Screen {
 
     // RegWatch and AppWatch.
     Frame regF{*this, at(160, 0, 600, 488), false};
+    ListBox List5{regF, at(16, 16, 568, 112)};
+    Tree TreeView1{regF, at(16, 136, 568, 224)};
+    ListBox List6{regF, at(16, 136, 568, 224), false};
+    TextBox Text4{regF, at(16, 368, 568, 24)};
+    FlatButton Command1{regF, "Refresh", at(16, 400, 96, 32)};
+    FlatButton Command3{regF, "Delete Key", at(120, 400, 112, 32)};
+    FlatButton Command11{regF, "Scan File for Viruses", at(240, 400, 168, 32)};
+    FlatButton cScnUpd{regF, "Scan && Update Warnings", at(416, 400, 168, 32)};
+    FlatButton cMod{regF, "Check for modifications/deletions on reboot", at(16, 440, 312, 32)};
+    // A copy of the selected entry, and two lists that nothing fills; never shown.
+    Label Label19{regF, "", at(0, 0, 8, 8)};
+    ListBox List2{regF, at(0, 0, 8, 8), false};
+    ListBox List3{regF, at(0, 0, 8, 8), false};
+
     Frame appF{*this, at(160, 0, 600, 488), false};
 
     // Options and one report.

@@ -1,0 +1,112 @@
+#include "regwatch/detection.h"
+
+#include "core/failure.h"
+#include "core/globals.h"
+#include "core/settings_file.h"
+#include "platform/messages.h"
+#include "platform/platform.h"
+#include "regwatch/locations.h"
+#include "regwatch/reg_class.h"
+#include "ui/mform1_screen.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace tarvelon {
+
+namespace {
+
+/// What a command key normally holds.
+constexpr const char* normalCommand = "\"%1\" %*";
+
+const LocationRoot& rootOf(const Location& location) {
+    return *std::find_if(locationRoots.begin(), locationRoots.end(),
+                         [&](const LocationRoot& root) { return root.root == location.root; });
+}
+
+} // namespace
+
+Detection::Detection(MForm1Screen& screen, Globals& globals, Platform& platform, SettingsFile& settings)
+    : screen_(screen)
+    , globals_(globals)
+    , platform_(platform)
+    , settings_(settings) {}
+
+void Detection::setReg() {
+    screen_.List2.clear();
+    screen_.List3.clear();
+    screen_.List5.clear();
+    screen_.List5.add("New and Modified Registry Entry Warnings");
+    screen_.TreeView1.clear();
+    for (const LocationRoot& root : locationRoots) {
+        screen_.TreeView1.addRoot(root.nodeKey, root.name);
+    }
+    // Rows of the user's and the classes' keys carry the tail of the last warning of the local machine.
+    std::string keyTail;
+    int groupIndex = 0;
+    Registry::Key group = 0;
+    for (const Location& location : locations) {
+        groupIndex = location.root == group ? groupIndex + 1 : 1;
+        group = location.root;
+        walk(location, groupIndex, keyTail);
+    }
+    showOutcome();
+    globals_.regWatch.regNew = false;
+}
+
+void Detection::walk(const Location& location, int groupIndex, std::string& keyTail) {
+    Tree& tree = screen_.TreeView1;
+    const LocationRoot& root = rootOf(location);
+    tree.addChild(root.nodeKey, location.nodeKey, location.label);
+    RegClass key(platform_.registry);
+    key.OpenRegistry(location.root, location.path);
+    for (std::string& name : key.GetAllValues().value_or(std::vector<std::string>())) {
+        const std::string value = key.GetValue(name);
+        if (value == normalCommand) {
+            continue;
+        }
+        std::string storedText = " (" + value + ")";
+        // Of two values with one text in one group's location the tree shows the first.
+        tree.addChild(location.nodeKey, "#" + std::to_string(groupIndex) + storedText, name + storedText);
+        Found found = Found::Nothing;
+        passOver([&] { found = checkRegEntry(name, storedText, location); });
+        if (found != Found::Nothing) {
+            if (location.root == Registry::localMachine) {
+                keyTail = bareName(location.path);
+            }
+            screen_.List5.add(std::string(root.name) + "|Loaded in " + keyTail + "\\" + name + storedText +
+                              (found == Found::New ? " New Entry!" : " Entry Modified!"));
+        }
+        platform_.messages.pump();
+    }
+    key.CloseRegistry();
+}
+
+void Detection::showOutcome() {
+    const bool warnings = screen_.List5.count() > 1;
+    if (!warnings) {
+        screen_.List5.add("*No new or modified Registry Entries*");
+    }
+    screen_.cScnUpd.Enabled = warnings;
+}
+
+Detection::Found Detection::checkRegEntry(std::string& name, std::string& storedText,
+                                          const Location& location) {
+    storedText = storedText.substr(0, storedText.find('\0'));
+    if (name.empty()) {
+        name = storedText;
+    }
+    std::replace(name.begin(), name.end(), '=', '-');
+    const std::string& file = globals_.app.regFile;
+    if (globals_.regWatch.regNew) {
+        settings_.writeEntry(file, name, storedText, location.section);
+        return Found::Nothing;
+    }
+    const std::string entry = settings_.readIni(file, name, location.section);
+    if (entry.empty()) {
+        return Found::New;
+    }
+    return trim(storedText) == trim(entry) ? Found::Nothing : Found::Modified;
+}
+
+} // namespace tarvelon

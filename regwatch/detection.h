@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace tarvelon {
+
+struct Globals;
+struct Location;
+struct MForm1Screen;
+struct Platform;
+class SettingsFile;
+
+/// Compares the watched locations with the snapshot: fills the tree with what they hold and the warnings with
+/// what is new or changed. While `regNew` is set it records instead.
+class Detection {
+public:
+    Detection(MForm1Screen& screen, Globals& globals, Platform& platform, SettingsFile& settings);
+
+    /// One pass over all locations. Window messages run inside. A location that cannot be read is left empty.
+    void setReg();
+
+    enum class Found { Nothing, New, Modified };
+
+    /// Compares one value with its line in the snapshot, or records it. `name` and `storedText` come back as
+    /// they stand in that line: the text cut at its first zero, an empty name replaced by the text, "=" by
+    /// "-".
+    Found checkRegEntry(std::string& name, std::string& storedText, const Location& location);
+
+private:
+    void walk(const Location& location, int groupIndex, std::string& keyTail);
+    void showOutcome();
+
+    MForm1Screen& screen_;
+    Globals& globals_;
+    Platform& platform_;
+    SettingsFile& settings_;
+};
+
+} // namespace tarvelon

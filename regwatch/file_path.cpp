@@ -1,0 +1,61 @@
+#include "regwatch/file_path.h"
+
+#include "core/utilities.h"
+
+#include <array>
+#include <string_view>
+
+namespace tarvelon {
+
+namespace {
+
+void replaceEvery(std::string& text, std::string_view what, const std::string& with) {
+    for (std::size_t hit = text.find(what); hit != std::string::npos;
+         hit = text.find(what, hit + with.size())) {
+        text.replace(hit, what.size(), with);
+    }
+}
+
+std::string insideParentheses(const std::string& entry) {
+    const std::size_t open = entry.find('(');
+    const std::size_t start = open == std::string::npos ? 0 : open + 1;
+    const std::size_t end = entry.find(')', start);
+    return end == std::string::npos ? entry : entry.substr(start, end - start);
+}
+
+std::string withoutArguments(const std::string& text) {
+    const std::size_t dot = text.find('.');
+    return text.substr(0, text.find(' ', dot == std::string::npos ? 0 : dot));
+}
+
+/// The first of the system's folders that holds the file.
+std::optional<std::string> searched(const std::string& name, const Utilities& utilities) {
+    const std::string sysDir = utilities.getSysDir();
+    // "...\system32\" without its last three characters is the old system folder.
+    const std::array<std::string, 3> places{
+        sysDir, utilities.getWinDir(), sysDir.substr(0, sysDir.size() < 3 ? 0 : sysDir.size() - 3) + "\\"};
+    for (const std::string& place : places) {
+        if (utilities.fileThere(place + name)) {
+            return place + name;
+        }
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+CutPath cutToFilePath(const std::string& entry, const Utilities& utilities) {
+    const std::string text = withoutArguments(insideParentheses(entry));
+    if (text.find('\\') == std::string::npos) {
+        return {text, searched(text, utilities)};
+    }
+    std::string path = text;
+    replaceEvery(path, "%systemroot%", utilities.getWinDir());
+    replaceEvery(path, "\\\\", "\\");
+    if (path.find('.') == std::string::npos) {
+        path += ".exe";
+    }
+    return {text, path};
+}
+
+} // namespace tarvelon

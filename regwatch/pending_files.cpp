@@ -1,0 +1,81 @@
+#include "regwatch/pending_files.h"
+
+#include "core/file_text.h"
+#include "core/text.h"
+#include "core/utilities.h"
+#include "platform/files.h"
+#include "platform/platform.h"
+#include "platform/registry.h"
+#include "regwatch/reg_class.h"
+
+#include <string_view>
+
+namespace tarvelon {
+
+namespace {
+
+std::vector<std::string> splitAt(std::string_view text, std::string_view separator) {
+    std::vector<std::string> parts;
+    for (std::size_t from = 0;;) {
+        const std::size_t hit = text.find(separator, from);
+        parts.emplace_back(text.substr(from, hit - from));
+        if (hit == std::string_view::npos) {
+            return parts;
+        }
+        from = hit + separator.size();
+    }
+}
+
+std::string wininitPath(const Utilities& utilities) {
+    return utilities.getWinDir() + "wininit.ini";
+}
+
+} // namespace
+
+bool wininitThere(const Utilities& utilities) {
+    return utilities.fileThere(wininitPath(utilities));
+}
+
+std::vector<PendingFile> wininitEntries(const CaseRules& cases, Platform& platform,
+                                        const Utilities& utilities) {
+    std::vector<PendingFile> entries;
+    const auto text = readWholeFile(platform.files, wininitPath(utilities));
+    if (!text) {
+        return entries;
+    }
+    for (const std::string& line : splitAt(*text, lineEnd)) {
+        const std::size_t equals = line.find('=');
+        if (equals == std::string::npos) {
+            continue;
+        }
+        // "*!*" ends the right side, so a line that holds one itself is cut there.
+        entries.push_back(
+            {getBetween(cases, line + "*!*", 1, "=", "*!*"), cases.equal(line.substr(0, equals), "NUL")});
+    }
+    return entries;
+}
+
+std::vector<std::optional<std::string>> pendingRenames(const CaseRules& cases, Platform& platform) {
+    std::string value;
+    {
+        RegClass key(platform.registry);
+        key.OpenRegistry(Registry::localMachine, R"(System\CurrentControlSet\Control\Session Manager)");
+        value = key.GetValue("PendingfileRenameOperations");
+        key.CloseRegistry();
+    }
+    const std::vector<std::string> elements = splitAt(value, R"(\??\)");
+    std::vector<std::optional<std::string>> files;
+    if (elements.size() == 1) {
+        return files;
+    }
+    for (const std::string& element : elements) {
+        if (trim(element).empty()) {
+            files.emplace_back();
+        } else {
+            files.emplace_back(trim(getBetween(cases, "!" + element, 1, "!", std::string_view("\0", 1))));
+        }
+    }
+    return files;
+}
+
+} // namespace tarvelon

@@ -1,0 +1,285 @@
+#include "regwatch/reg_page.h"
+
+#include "avshell/scanner.h"
+#include "core/failure.h"
+#include "core/globals.h"
+#include "core/settings_file.h"
+#include "core/utilities.h"
+#include "logging/log_files.h"
+#include "platform/dialogs.h"
+#include "platform/platform.h"
+#include "platform/processes.h"
+#include "regwatch/detection.h"
+#include "regwatch/file_path.h"
+#include "regwatch/pending_files.h"
+#include "regwatch/reg_class.h"
+#include "ui/mform1_screen.h"
+
+#include <algorithm>
+
+namespace tarvelon {
+
+namespace {
+
+constexpr const char* scanOne = "Scan File for Viruses";
+constexpr const char* scanAll = "Scan all Files for Viruses";
+constexpr const char* noWarnings = "*No new or modified Registry Entries*";
+constexpr const char* deletedMark = " {To be Deleted}";
+constexpr const char* overwrittenMark = " {To be Overwritten}";
+constexpr std::string_view rowEnd = ") ";
+
+std::string before(const std::string& text, char mark) {
+    return text.substr(0, text.find(mark));
+}
+
+std::string without(std::string text, std::string_view what) {
+    for (std::size_t hit = text.find(what); hit != std::string::npos; hit = text.find(what, hit)) {
+        text.erase(hit, what.size());
+    }
+    return text;
+}
+
+} // namespace
+
+RegPage::RegPage(MForm1Screen& screen, const RegPageParts& parts)
+    : screen_(screen)
+    , parts_(parts)
+    , globals_(parts.globals) {
+    bind();
+}
+
+void RegPage::bind() {
+    screen_.Command1.onClick = [this] { Command1_Click(); };
+    screen_.Command3.onClick = [this] { Command3_Click(); };
+    screen_.Command11.onClick = [this] { Command11_Click(); };
+    screen_.cScnUpd.onClick = [this] { cScnUpd_Click(); };
+    screen_.cMod.onClick = [this] { cMod_Click(); };
+    screen_.List5.onClick = [this] { List5_Click(); };
+    screen_.List6.onClick = [this] { List6_Click(); };
+    screen_.TreeView1.onNodeClick = [this] { TreeView1_NodeClick(); };
+    screen_.TreeView1.onExpandOrCollapse = [this] { enableEntryButtons(false); };
+}
+
+void RegPage::Image7_Opened() {
+    screen_.cScnUpd.Enabled = false;
+    enableEntryButtons(false);
+}
+
+void RegPage::enableEntryButtons(bool enabled) {
+    screen_.Command3.Enabled = enabled;
+    screen_.Command11.Enabled = enabled;
+}
+
+void RegPage::Command1_Click() {
+    screen_.Command11.Caption = scanOne;
+    screen_.TreeView1.Visible = true;
+    screen_.List6.Visible = false;
+    parts_.detection.setReg();
+}
+
+// ---- Selection
+
+void RegPage::List5_Click() {
+    const int index = screen_.List5.listIndex();
+    const bool entry = screen_.List5.item(1) != noWarnings && index > 0;
+    enableEntryButtons(entry);
+    if (!entry) {
+        return;
+    }
+    std::string row = screen_.List5.item(index);
+    selEntry = before(row, '\\');
+    // A value that was cut at a zero has lost its ")"; with one at the end of every row the search below
+    // finds an end. The row keeps it.
+    if (lastCharacters(row, rowEnd.size()) != rowEnd) {
+        row += rowEnd;
+        screen_.List5.replace(index, row);
+    }
+    screen_.Text4.Caption = getBetween(globals_.cases, row, selEntry.size(), "\\", rowEnd) + ")";
+    screen_.Label19.Caption = screen_.Text4.Caption();
+    screen_.List5.ToolTip = row;
+}
+
+void RegPage::TreeView1_NodeClick() {
+    const Tree::Node* node = screen_.TreeView1.selected();
+    const std::string parent = node && node->parent ? node->parent->text : std::string();
+    const bool entry = !parent.empty() && parent.substr(0, 4) != "HKEY";
+    enableEntryButtons(entry);
+    if (!entry) {
+        return;
+    }
+    screen_.Label19.Caption = node->text;
+    screen_.Text4.Caption = node->text;
+    const std::string path = withBackslash(Tree::fullPath(*node));
+    selEntry = before(path, '\\') + "|" + getBetween(globals_.cases, path, 1, "\\", "\\");
+}
+
+void RegPage::List6_Click() {
+    const bool selected = screen_.List6.listIndex() >= 0;
+    if (selected &&
+        screen_.List6.text() != "The Following Files are to be Deleted or Overwritten on the next Reboot.") {
+        screen_.Text4.Caption = screen_.List6.text();
+    }
+}
+
+// ---- Deleting
+
+void RegPage::Command3_Click() {
+    const std::string root = before(selEntry, '|');
+    const std::string location = selEntry.substr(std::min(selEntry.size(), root.size() + 1));
+    if (location.substr(0, 1) == "S") {
+        offerRegistryEditor();
+    } else {
+        deleteValue(root, location);
+    }
+}
+
+void RegPage::deleteValue(const std::string& root, const std::string& location) {
+    const std::string name = trim(before(screen_.Label19.Caption(), '('));
+    const std::string path = R"(Software\Microsoft\Windows\CurrentVersion\)" +
+                             getBetween(globals_.cases, location + "|", 1, "in ", "|");
+    const Answer answer = parts_.platform.dialogs.message(
+        {.text = "WARNING!\r\nYou are about to Delete the key: " + name + "\r\nFrom: " + root + "\\" + path +
+                 "\r\nDoing this may have unpredictable results!\r\n\r\nContinue?",
+         .buttons = Buttons::YesNo});
+    if (answer == Answer::No) {
+        return;
+    }
+    {
+        RegClass key(parts_.platform.registry);
+        if (root == "HKEY_LOCAL_MACHINE") {
+            key.OpenRegistry(Registry::localMachine, path);
+        } else if (root == "HKEY_CURRENT_USER") {
+            key.OpenRegistry(Registry::currentUser, path);
+        }
+        key.DeleteKey(name);
+        key.CloseRegistry();
+    }
+    screen_.Text4.Caption = "";
+    screen_.Command3.Enabled = false;
+    Command1_Click(); // Whether the value has gone shows in the lists.
+}
+
+void RegPage::offerRegistryEditor() {
+    const Answer answer =
+        parts_.platform.dialogs.message({.text = "This key will not be deleted.\r\nYou must change the value "
+                                                 "manually. Would you like to open the "
+                                                 "Registry for Editing now?",
+                                         .title = "Caution",
+                                         .buttons = Buttons::YesNo});
+    if (answer != Answer::No) {
+        parts_.platform.processes.start("regedit.exe", WindowStyle::MinimizedFocus);
+    }
+}
+
+// ---- Scanning and accepting
+
+void RegPage::Command11_Click() {
+    if (screen_.Command11.Caption() == scanAll) {
+        cScnUpd_Click();
+        return;
+    }
+    const CutPath cut = cutToFilePath(screen_.Label19.Caption(), parts_.utilities);
+    if (!cut.path) {
+        parts_.platform.dialogs.message({.text = "Cannot find file, please scan manually"});
+        return;
+    }
+    std::string path = *cut.path;
+    if (path.find('"') == std::string::npos) {
+        if (globals_.settings.shortPaths) {
+            path = parts_.scanner.toShortPath(path);
+        }
+        path = globals_.settings.quoteChar + path + globals_.settings.quoteChar;
+    }
+    runBoth(path);
+}
+
+void RegPage::cScnUpd_Click() {
+    const bool pending = screen_.List6.Visible();
+    ListBox& source = pending ? screen_.List6 : screen_.List5;
+    if (source.count() == 1) {
+        return;
+    }
+    std::string files;
+    for (int row = 1; row < source.count(); ++row) {
+        files += " " + fileOfRow(rowToScan(row));
+    }
+    runBoth(files);
+    globals_.regWatch.regNew = true;
+    parts_.detection.setReg();
+    passOver([&] {
+        parts_.logFiles.writeLog(
+            (pending ? "Precautionary Scan - These files were to be renamed/deleted/overwritten at startup,"
+                     : "Registry Action - Scan and Update Multiple Entries,") +
+            files);
+    });
+    globals_.regWatch.regNew = false;
+}
+
+/// The row in the form that is scanned, which it also takes on the screen.
+std::string RegPage::rowToScan(int row) {
+    const bool pending = screen_.List6.Visible();
+    ListBox& source = pending ? screen_.List6 : screen_.List5;
+    std::string text = source.item(row);
+    if (pending) {
+        text = without(without(text, deletedMark), overwrittenMark);
+    } else if (lastCharacters(text, rowEnd.size()) != rowEnd) {
+        text += rowEnd;
+    }
+    source.replace(row, text);
+    return text;
+}
+
+/// The row's file as it stands on a command line; empty when it cannot be found.
+std::string RegPage::fileOfRow(const std::string& row) {
+    const CutPath cut = cutToFilePath(row, parts_.utilities);
+    if (!cut.path && globals_.app.shutAction == -1) {
+        parts_.platform.dialogs.message(
+            {.text = "Unable to find the file: " + cut.text + "\r\nPlease scan manually."});
+    }
+    std::string path = without(cut.path.value_or(std::string()), "\"");
+    if (globals_.settings.shortPaths) {
+        path = parts_.scanner.toShortPath(path);
+    }
+    return path.empty() ? path : globals_.settings.quoteChar + path + globals_.settings.quoteChar;
+}
+
+/// A scanner that cannot be started goes unnoticed here.
+void RegPage::runBoth(const std::string& files) const {
+    passOver([&] {
+        const auto first = splitExeAndArgs(parts_.settings.getSetting("ANTIVIRUS")).value_or(ExeAndArgs{});
+        passOver([&] { parts_.scanner.runScanner(ScannerCommand{first.exe, first.args}.line(files)); });
+        const auto av2 = splitExeAndArgs(parts_.settings.getSetting("AV2")).value_or(ExeAndArgs{});
+        const ScannerCommand second{av2.exe, av2.args};
+        if (second.isSet()) {
+            passOver([&] { parts_.scanner.runScanner(second.line(files)); });
+        }
+    });
+}
+
+// ---- Pending boot operations
+
+void RegPage::cMod_Click() {
+    enableEntryButtons(false);
+    screen_.cScnUpd.Enabled = false;
+    screen_.Command11.Caption = scanAll;
+    screen_.TreeView1.Visible = false;
+    screen_.List6.Visible = true;
+    screen_.List6.clear();
+    screen_.List6.add(
+        "These files are to be Deleted or Overwritten on the next Reboot (Wininit.ini and Registry).");
+    for (const PendingFile& entry : wininitEntries(globals_.cases, parts_.platform, parts_.utilities)) {
+        screen_.List6.add(entry.file + (entry.toBeDeleted ? deletedMark : overwrittenMark));
+    }
+    for (const auto& file : pendingRenames(globals_.cases, parts_.platform)) {
+        if (file) {
+            screen_.List6.add(*file);
+        }
+    }
+    if (screen_.List6.count() >= 2) {
+        screen_.Command11.Enabled = true;
+    } else {
+        parts_.platform.dialogs.message({.text = "No files will be modified or deleted on Restart!"});
+    }
+}
+
+} // namespace tarvelon

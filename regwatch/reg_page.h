@@ -1,0 +1,62 @@
+#pragma once
+
+#include <string>
+
+namespace tarvelon {
+
+struct Globals;
+struct MForm1Screen;
+struct Platform;
+class Detection;
+class LogFiles;
+class Scanner;
+class SettingsFile;
+class Utilities;
+
+/// What the page works with.
+struct RegPageParts {
+    Globals& globals;
+    Platform& platform;
+    SettingsFile& settings;
+    const Utilities& utilities;
+    const Scanner& scanner;
+    LogFiles& logFiles;
+    Detection& detection;
+};
+
+/// The page of the watched registry locations: selecting, deleting, scanning and accepting entries, and the
+/// view of what is pending for the next boot.
+class RegPage {
+public:
+    RegPage(MForm1Screen& screen, const RegPageParts& parts);
+
+    /// Opens the page as it was left.
+    void Image7_Opened();
+
+    /// Hands the files behind all rows of the shown list to the scanners in one run, and accepts the registry
+    /// as it stands. Also called by the shut-down, which asks and tells nothing.
+    void cScnUpd_Click();
+
+private:
+    void bind();
+    void Command1_Click();
+    void List5_Click();
+    void TreeView1_NodeClick();
+    void List6_Click();
+    void Command3_Click();
+    void deleteValue(const std::string& root, const std::string& location);
+    void offerRegistryEditor();
+    void Command11_Click();
+    void cMod_Click();
+    std::string rowToScan(int row);
+    std::string fileOfRow(const std::string& row);
+    void runBoth(const std::string& files) const;
+    void enableEntryButtons(bool enabled);
+
+    MForm1Screen& screen_;
+    RegPageParts parts_;
+    Globals& globals_;
+    std::string selEntry; ///< The selection: root, "|", label of the location.
+};
+
+} // namespace tarvelon
