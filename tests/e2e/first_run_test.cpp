@@ -63,7 +63,7 @@ TEST_P(FirstRunWith, TheWholeSystemDirectoryIsInTheBaseline) {
     program.form("AutoCheck");
     const Form window = program.form("Welcome to Tarvelon");
     EXPECT_TRUE(comesTrue([&] { return !program.hasForm("AutoCheck"); })) << program.describe();
-    EXPECT_EQ(folder.data(file), readFile(inputs().expected + file));
+    EXPECT_EQ(folder.data(file), readFile(inputs().expected + file).value());
     window.close();
     EXPECT_TRUE(program.ends());
 }

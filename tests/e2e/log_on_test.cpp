@@ -18,9 +18,10 @@ class LogOn : public testing::Test {
 protected:
     LogOn() {
         folder_.writeSettings({{"settings", allTypes}});
-        folder_.writeData("Integrity.dat", baselineWith("DLL", guarded, crcText(original)));
+        folder_.writeData("Integrity.dat", baseline_);
     }
 
+    const std::string baseline_ = withEntry(systemBaseline(), "DLL", guarded, crcText(original));
     const ProgramFolder folder_{"log-on"};
     const PlantedFile guarded_{systemDirectory() + guarded, original};
 };
@@ -60,6 +61,40 @@ TEST_F(LogOn, AChangedAndAnAddedFileStayOnTheScreen) {
     program.box().press("Yes");
     EXPECT_TRUE(program.ends());
     EXPECT_EQ(folder_.data("Integrity.dat"), before);
+}
+
+TEST_F(LogOn, FindingsAreReportedAndAcceptedWithoutAScanner) {
+    guarded_.rewrite("something else");
+    const PlantedFile visitor(systemDirectory() + added, "a stranger");
+    const Program program(folder_.program(), "/r");
+    const Form results = program.form("AutoCheck");
+    results.click("Repair and Update Failed Files...");
+    results.click("Scan Failing Files...");
+    const Box notice = program.box();
+    EXPECT_EQ(
+        notice.text,
+        "You do not have any Anti-Virus program setup with Tarvelon.  For your conveniance, these files will "
+        "be "
+        "added to the log, and will be updated in your Integrity File (so that you can scan them for viruses "
+        "later).");
+    notice.press("OK");
+    results.awaitText("Integrity File Updated");
+    EXPECT_EQ(
+        folder_.logs(),
+        (Rows{"Integrity Checker - These files were logged because you didn't setup an Anti-Virus Scanner," +
+              guarded_.path() + "," + visitor.path() + "\r\n"}));
+
+    // The empty line behind the header goes with the first rewrite.
+    std::string accepted = withEntry(systemBaseline(), "DLL", guarded, crcText("something else"));
+    accepted = withEntry(accepted, "EXE", added, crcText("a stranger"));
+    accepted.erase(accepted.find("\r\n\r\n"), 2);
+    EXPECT_EQ(folder_.data("Integrity.dat"), accepted);
+    EXPECT_EQ(folder_.data("integrity.bak"), baseline_);
+
+    results.click("Close Integrity Window");
+    EXPECT_TRUE(program.ends()) << program.describe();
+    const Program again(folder_.program(), "/r");
+    EXPECT_TRUE(again.ends()) << again.describe();
 }
 
 TEST_F(LogOn, AnUnknownSwitchOpensTheMainWindow) {

@@ -23,24 +23,29 @@ Inputs& storedInputs() {
     return stored;
 }
 
-void removeTree(const std::string& folder) {
+std::vector<std::string> namesIn(const std::string& folder) {
+    std::vector<std::string> names;
     WIN32_FIND_DATAA entry{};
     HANDLE const search = FindFirstFileA((folder + "*").c_str(), &entry);
     if (search == INVALID_HANDLE_VALUE) {
-        return;
+        return names;
     }
     do {
         const std::string name = entry.cFileName;
-        if (name == "." || name == "..") {
-            continue;
-        }
-        if ((entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
-            removeTree(folder + name + "\\");
-        } else {
-            DeleteFileA((folder + name).c_str());
+        if (name != "." && name != "..") {
+            names.push_back(name);
         }
     } while (FindNextFileA(search, &entry) != 0);
     FindClose(search);
+    return names;
+}
+
+void removeTree(const std::string& folder) {
+    for (const std::string& name : namesIn(folder)) {
+        if (DeleteFileA((folder + name).c_str()) == 0) {
+            removeTree(folder + name + "\\");
+        }
+    }
     RemoveDirectoryA(folder.c_str());
 }
 
@@ -82,6 +87,15 @@ ProgramFolder::ProgramFolder(const std::string& name)
 void ProgramFolder::writeData(const std::string& name, const std::string& bytes) const {
     CreateDirectoryA((path_ + "Data").c_str(), nullptr);
     writeFile(path_ + "Data\\" + name, bytes);
+}
+
+std::vector<std::string> ProgramFolder::logs() const {
+    const std::string folder = path_ + "Data\\Log\\";
+    std::vector<std::string> texts;
+    for (const std::string& name : namesIn(folder)) {
+        texts.push_back(readFile(folder + name).value());
+    }
+    return texts;
 }
 
 void ProgramFolder::writeSettings(const std::map<std::string, std::string>& changes) const {
@@ -147,11 +161,15 @@ std::string crcText(const std::string& bytes) {
     return text;
 }
 
-std::string baselineWith(const std::string& section, const std::string& name, const std::string& checksum) {
-    std::string text = readFile(inputs().expected + "Integrity.dat").value();
-    const std::size_t head = text.find("[" + section + "]\r\n");
-    const std::size_t end = text.find("\r\nNULL*E\r\n", head) + 2;
-    return text.insert(end, name + "=" + checksum + "*E\r\n");
+std::string systemBaseline() {
+    return readFile(inputs().expected + "Integrity.dat").value();
+}
+
+std::string withEntry(std::string baseline, const std::string& section, const std::string& name,
+                      const std::string& checksum) {
+    const std::size_t head = baseline.find("[" + section + "]\r\n");
+    const std::size_t end = baseline.find("\r\nNULL*E\r\n", head) + 2;
+    return baseline.insert(end, name + "=" + checksum + "*E\r\n");
 }
 
 std::string smallBaseline(const std::string& section, const std::string& entries) {

@@ -4,6 +4,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <vector>
 
 /// The files around a run: the program's own folder, what is put into the system directory, and what the
 /// data files should hold. Nothing here is shared with the program.
@@ -36,6 +37,9 @@ public:
     void writeData(const std::string& name, const std::string& bytes) const;
     bool hasData(const std::string& name) const { return data(name).has_value(); }
 
+    /// What the reports hold, one text a report.
+    std::vector<std::string> logs() const;
+
     /// A settings file as the program makes it, with some lines changed: key (such as "algo", or "3/path"
     /// for one of the numbered sections) to value.
     void writeSettings(const std::map<std::string, std::string>& changes) const;
@@ -67,8 +71,12 @@ std::string systemDirectory();
 /// CRC-32 bit by bit, as the data files show it.
 std::string crcText(const std::string& bytes);
 
-/// The expected system baseline under CRC-32, with one more entry at the end of a section.
-std::string baselineWith(const std::string& section, const std::string& name, const std::string& checksum);
+/// The expected system baseline under CRC-32.
+std::string systemBaseline();
+
+/// A baseline with one more entry at the end of a section.
+std::string withEntry(std::string baseline, const std::string& section, const std::string& name,
+                      const std::string& checksum);
 
 /// A baseline with one section filled.
 std::string smallBaseline(const std::string& section, const std::string& entries);
