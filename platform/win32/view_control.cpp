@@ -57,8 +57,10 @@ void ControlWindow::changed(Aspect aspect) {
     case Aspect::Caption:
         applyCaption();
         break;
-    case Aspect::TextColor:
     case Aspect::ToolTip:
+        applyToolTip();
+        return;
+    case Aspect::TextColor:
         break;
     }
     form_.refreshLater(*this);
@@ -151,6 +153,17 @@ void ControlWindow::paintFocus(Canvas& canvas, const RECT& around, Color color) 
     const auto bottom = static_cast<float>(around.bottom) - static_cast<float>(thickness) / 2;
     canvas.stroke({{left, top}, {right, top}, {right, bottom}, {left, bottom}, {left, top}},
                   static_cast<float>(thickness), color);
+}
+
+void ControlWindow::paintThinEdge() const {
+    RECT whole;
+    GetWindowRect(window_, &whole);
+    OffsetRect(&whole, -whole.left, -whole.top);
+    const HDC dc = GetWindowDC(window_);
+    const HBRUSH edge = CreateSolidBrush(isFocused() ? theme().focus : theme().border);
+    FrameRect(dc, &whole, edge);
+    DeleteObject(edge);
+    ReleaseDC(window_, dc);
 }
 
 Scale ControlWindow::scale() const {

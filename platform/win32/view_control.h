@@ -44,6 +44,7 @@ public:
 
     /// Messages that a child window sends to its parent about itself.
     virtual void notified(int) {}
+    virtual void notifiedWith(const NMHDR&) {}
     virtual void drawRow(const DRAWITEMSTRUCT&) {}
     /// The colours of a standard window's own drawing; null for the system's.
     virtual HBRUSH colorStandardWindow(HDC) { return nullptr; }
@@ -73,6 +74,7 @@ protected:
     virtual void applyCaption() {}
     virtual void applyValue() {}
     virtual void applyItems(Aspect) {}
+    virtual void applyToolTip() {}
     virtual void arranged() {}
 
     Scale scale() const;
@@ -82,6 +84,8 @@ protected:
     FormWindow& form() const { return form_; }
     bool isFocused() const { return GetFocus() == window_; }
     void repaint() const { InvalidateRect(window_, nullptr, FALSE); }
+    /// Draws over the edge of a window that has WS_BORDER.
+    void paintThinEdge() const;
     /// The ring around what the keyboard goes to.
     void paintFocus(Canvas& canvas, const RECT& around, Color color) const;
 

@@ -2,8 +2,10 @@
 #include "platform/win32/view_frame.h"
 #include "platform/win32/view_label.h"
 #include "platform/win32/view_list.h"
+#include "platform/win32/view_picture.h"
 #include "platform/win32/view_progress.h"
 #include "platform/win32/view_tick.h"
+#include "platform/win32/view_tree.h"
 
 namespace tarvelon {
 
@@ -13,7 +15,7 @@ std::unique_ptr<ControlWindow> makeControlWindow(FormWindow& form, Control& cont
         return std::make_unique<FrameWindow>(form, static_cast<Frame&>(control));
     case ControlKind::Label: {
         auto& label = static_cast<Label&>(control);
-        if (label.style() == TextStyle::Action) {
+        if (label.style() == TextStyle::Action || label.style() == TextStyle::Link) {
             return std::make_unique<ActionWindow>(form, label);
         }
         return std::make_unique<LabelWindow>(form, label);
@@ -39,7 +41,9 @@ std::unique_ptr<ControlWindow> makeControlWindow(FormWindow& form, Control& cont
     case ControlKind::ProgressBar:
         return std::make_unique<ProgressBarWindow>(form, static_cast<ProgressBar&>(control));
     case ControlKind::Picture:
+        return std::make_unique<PictureWindow>(form, static_cast<Picture&>(control));
     case ControlKind::Tree:
+        return std::make_unique<TreeWindow>(form, static_cast<Tree&>(control));
     case ControlKind::Timer:
         break;
     }

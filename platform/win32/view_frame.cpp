@@ -37,6 +37,14 @@ bool reflectToChild(UINT message, WPARAM wide, LPARAM low, LRESULT& result) {
             return true;
         }
         return false;
+    case WM_NOTIFY: {
+        const auto& header = *reinterpret_cast<const NMHDR*>(low);
+        if (ControlWindow* child = ControlWindow::from(header.hwndFrom)) {
+            child->notifiedWith(header);
+            return true;
+        }
+        return false;
+    }
     case WM_DRAWITEM: {
         const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(low);
         if (ControlWindow* child = ControlWindow::from(item.hwndItem)) {

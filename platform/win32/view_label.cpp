@@ -47,6 +47,9 @@ TextLook LabelWindow::look() const {
         text.tenthPoints = textSize::heading;
         text.weight = FW_SEMIBOLD;
     }
+    if (label_.style() == TextStyle::Caption) {
+        text.align = Align::Center;
+    }
     if (label_.style() == TextStyle::Value) {
         text.tenthPoints = textSize::value;
         text.weight = FW_BOLD;

@@ -131,9 +131,10 @@ void ListBoxWindow::drawRow(const DRAWITEMSTRUCT& item) {
 }
 
 LRESULT ListBoxWindow::handle(UINT message, WPARAM wide, LPARAM low) {
+    toolTip_.see(window(), message, wide, low);
     const LRESULT result = ItemsWindow::handle(message, wide, low);
     if (message == WM_NCPAINT) {
-        paintEdge();
+        paintThinEdge();
     }
     if (message == WM_SETFOCUS || message == WM_KILLFOCUS) {
         RedrawWindow(window(), nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME);
@@ -141,15 +142,8 @@ LRESULT ListBoxWindow::handle(UINT message, WPARAM wide, LPARAM low) {
     return result;
 }
 
-void ListBoxWindow::paintEdge() {
-    RECT whole;
-    GetWindowRect(window(), &whole);
-    OffsetRect(&whole, -whole.left, -whole.top);
-    const HDC dc = GetWindowDC(window());
-    const HBRUSH edge = CreateSolidBrush(isFocused() ? theme().focus : theme().border);
-    FrameRect(dc, &whole, edge);
-    DeleteObject(edge);
-    ReleaseDC(window(), dc);
+void ListBoxWindow::applyToolTip() {
+    toolTip_.set(window(), items().ToolTip(), scale()(480));
 }
 
 void CheckListWindow::notified(int code) {

@@ -2,6 +2,7 @@
 
 #include "platform/win32/view_control.h"
 #include "platform/win32/view_mark.h"
+#include "platform/win32/view_tip.h"
 
 namespace tarvelon {
 
@@ -69,9 +70,10 @@ protected:
     void rowsAdded(int first) override;
     int rowWidth() const override { return rowStartWidth() + longestText_ + scale()(12); }
 
-private:
-    void paintEdge();
+    void applyToolTip() override;
 
+private:
+    tarvelon::ToolTip toolTip_;
     int longestText_ = 0; ///< In pixels.
 };
 

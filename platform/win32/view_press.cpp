@@ -4,6 +4,8 @@
 
 #include <windowsx.h>
 
+#include <algorithm>
+
 namespace tarvelon {
 
 void PressWindow::notified(int code) {
@@ -175,62 +177,36 @@ void FlatButtonWindow::paint(Canvas& canvas) {
 }
 
 void ActionWindow::paint(Canvas& canvas) {
+    if (label_.style() == TextStyle::Link) {
+        paintLink(canvas);
+        return;
+    }
     const Scale& scaled = canvas.scale();
     canvas.roundedBox(canvas.area(), scaled(4), faceColor(theme().action), theme().action.border, scaled(1));
-    const Color own = theme().highContrast ? theme().action.border : label_.ForeColor();
+    const Color systemText = label_.isUsable() ? theme().action.border : theme().disabledText;
+    const Color own = label_.isUsable() ? label_.ForeColor() : colors::white;
     canvas.text(label_.Caption(), inset(canvas.area(), scaled(8), scaled(1)),
-                {.color = label_.isUsable() ? own : theme().disabledText, .align = Align::Center});
+                {.color = theme().highContrast ? systemText : own, .align = Align::Center});
     if (isFocused()) {
-        paintFocus(canvas, inset(canvas.area(), scaled(2), scaled(2)), theme().focus);
+        paintFocus(canvas, inset(canvas.area(), scaled(3), scaled(3)),
+                   theme().highContrast ? theme().focus : colors::white);
     }
 }
 
-NavButtonWindow::~NavButtonWindow() {
-    forgetPicture();
-}
-
-void NavButtonWindow::forgetPicture() {
-    if (picture_) {
-        DestroyIcon(picture_);
-        picture_ = nullptr;
+void ActionWindow::paintLink(Canvas& canvas) {
+    TextLook look{.color = theme().link, .underlined = true};
+    if (!label_.isUsable()) {
+        look.color = theme().disabledText;
+    } else if (label_.ForeColor() != colors::black && !theme().highContrast) {
+        look.color = label_.ForeColor();
     }
-}
-
-void NavButtonWindow::arranged() {
-    forgetPicture();
-    const int size = scale()(32);
-    picture_ = static_cast<HICON>(LoadImageA(GetModuleHandleA(nullptr), button_.icon().c_str(), IMAGE_ICON,
-                                             size, size, LR_DEFAULTCOLOR));
-}
-
-void NavButtonWindow::paint(Canvas& canvas) {
-    const Scale& scaled = canvas.scale();
-    const RECT area = canvas.area();
-    Color ground = isHovered() ? theme().navigationHover : theme().navigation.ground;
-    Color text = theme().navigation.text;
-    if (button_.Current()) {
-        ground = theme().navigationCurrent;
-        text = theme().navigationCurrentText;
-    }
-    if (!button_.isUsable()) {
-        text = theme().disabledText;
-    }
-    canvas.fill(area, ground);
-    if (button_.Current()) {
-        canvas.fill({0, 0, scaled(4), area.bottom}, text);
-    }
-    const int size = scaled(32);
-    const int line = scaled(20);
-    const int gap = scaled(4);
-    const int left = (widthOf(area) - size) / 2;
-    const int top = (heightOf(area) - size - gap - line) / 2;
-    if (picture_) {
-        canvas.picture(picture_, {left, top, left + size, top + size}, text, ground);
-    }
-    const RECT caption{scaled(8), top + size + gap, area.right - scaled(8), top + size + gap + line};
-    canvas.text(button_.Caption(), caption, {.color = text, .align = Align::Center, .mnemonics = true});
+    RECT text = canvas.area();
+    text.left = canvas.scale()(2);
+    canvas.text(label_.Caption(), text, look);
     if (isFocused()) {
-        paintFocus(canvas, inset(area, scaled(2), scaled(2)), theme().navigation.quietText);
+        text.left = 0;
+        text.right = std::min<LONG>(canvas.textWidth(label_.Caption(), look) + canvas.scale()(5), text.right);
+        paintFocus(canvas, text, theme().focus);
     }
 }
 

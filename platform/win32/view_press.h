@@ -58,7 +58,7 @@ private:
     FlatButton& button_;
 };
 
-/// A label with a button's face.
+/// A label that is clicked: with a button's face, or as a link.
 class ActionWindow : public PressWindow {
 public:
     ActionWindow(FormWindow& form, Label& label)
@@ -71,27 +71,9 @@ protected:
     void paint(Canvas& canvas) override;
 
 private:
+    void paintLink(Canvas& canvas);
+
     Label& label_;
-};
-
-class NavButtonWindow : public PressWindow {
-public:
-    NavButtonWindow(FormWindow& form, NavButton& button)
-        : PressWindow(form, button)
-        , button_(button) {}
-    ~NavButtonWindow() override;
-
-protected:
-    Kind kind() const override { return {"BUTTON", BS_OWNERDRAW | WS_TABSTOP}; }
-    void click() override { button_.click(); }
-    void paint(Canvas& canvas) override;
-    void arranged() override;
-
-private:
-    void forgetPicture();
-
-    NavButton& button_;
-    HICON picture_ = nullptr;
 };
 
 } // namespace tarvelon

@@ -32,7 +32,7 @@ Theme ownTheme() {
         .disabledText = rgb(0x8A939D),
         .link = colors::hoverBlue,
         .button = {rgb(0x5484B3), rgb(0x6D9AC8), rgb(0x365C85), rgb(0x7F8A95), rgb(0x5484B3)},
-        .action = {rgb(0xD3E0ED), rgb(0xE6EFF8), rgb(0xB8CCE0), rgb(0xDDE2E7), rgb(0x8FABC8)},
+        .action = {rgb(0x5484B3), rgb(0x5C8BBA), rgb(0x365C85), rgb(0x7F8A95), rgb(0x2F5479)},
         .track = rgb(0xD5DEE7),
         .bar = rgb(0x3F8F6B),
         .navigationHover = rgb(0x2B3C4E),

@@ -13,7 +13,7 @@ void TickWindow::paint(Canvas& canvas) {
     paintMark(
         canvas, theme(), scaled(1),
         {.round = isRound(), .ticked = isTicked(), .usable = control().isUsable(), .hovered = isHovered()});
-    TextLook look{.color = surface().text, .underlined = isLink(), .mnemonics = true};
+    TextLook look{.color = textColor(), .underlined = isLink(), .mnemonics = true};
     if (!control().isUsable()) {
         look.color = theme().disabledText;
     } else if (isLink()) {
@@ -31,6 +31,18 @@ void TickWindow::paint(Canvas& canvas) {
                           std::min<LONG>(text.left + width - scaled(2), canvas.area().right), middle + half};
         paintFocus(canvas, around, theme().focus);
     }
+}
+
+Color CheckBoxWindow::textColor() const {
+    const bool plain = box_.ForeColor() == colors::black && !box_.BackColor();
+    return plain || theme().highContrast ? surface().text : box_.ForeColor();
+}
+
+void CheckBoxWindow::paint(Canvas& canvas) {
+    if (box_.BackColor() && !theme().highContrast) {
+        canvas.roundedBox(canvas.area(), canvas.scale()(4), *box_.BackColor());
+    }
+    TickWindow::paint(canvas);
 }
 
 void FlatCheckWindow::hover(POINT where) {

@@ -13,6 +13,7 @@ protected:
     void paint(Canvas& canvas) override;
     virtual bool isRound() const { return false; }
     virtual bool isLink() const { return false; }
+    virtual Color textColor() const { return surface().text; }
 
     /// Where the text begins, in pixels.
     int textLeft() const { return scale()(24); }
@@ -46,6 +47,8 @@ protected:
     Kind kind() const override { return {"BUTTON", BS_AUTOCHECKBOX | WS_TABSTOP}; }
     void click() override { box_.click(); }
     bool isTicked() const override { return box_.value() != 0; }
+    Color textColor() const override;
+    void paint(Canvas& canvas) override;
 
 private:
     CheckBox& box_;
