@@ -22,7 +22,7 @@ def cases(output):
             said = []
         elif match := CASE.match(line):
             outcome = {"OK": "passed", "FAILED": "failed", "SKIPPED": "skipped"}[match[1]]
-            reason = " ".join(text.strip() for text in said if not text.rstrip().endswith(": Skipped"))
+            reason = " ".join(text.strip() for text in said if not text.rstrip().endswith(": Skipped")).strip()
             yield outcome, match[2], reason
         else:
             said.append(line)
