@@ -26,6 +26,8 @@ void ControlWindow::create(HWND parent, int id) {
     arrange();
     applyItems(Aspect::Items);
     applyValue();
+    applyToolTip();
+    form_.refreshLater(*this);
 }
 
 void ControlWindow::arrange() {

@@ -11,6 +11,9 @@ ToolTip::~ToolTip() {
 }
 
 void ToolTip::set(HWND owner, const std::string& text, int widestLine) {
+    if (!window_ && text.empty()) {
+        return;
+    }
     TOOLINFOA tool{};
     tool.cbSize = TTTOOLINFOA_V1_SIZE; // The form that every version of the library takes.
     tool.uFlags = TTF_IDISHWND;

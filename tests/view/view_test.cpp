@@ -1,6 +1,6 @@
 #include "platform/win32/win32_platform.h"
 #include "platform/win32/windows_api.h"
-#include "ui/controls/controls.h"
+#include "ui/controls/tree.h"
 
 #include <gmock/gmock.h>
 
@@ -29,6 +29,7 @@ struct SampleScreen : Screen {
     CheckListBox checkList{page, at(264, 168, 120, 80)};
     ComboBox combo{page, at(264, 136, 120, 24)};
     ProgressBar bar{page, at(264, 104, 120, 16)};
+    Tree tree{page, at(264, 32, 120, 60)};
     Timer timer{*this, 10};
 };
 
@@ -231,6 +232,22 @@ TEST_F(View, TicksFlipByMouseAndSpace) {
     ask(screen.checkList, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(30, 70));
     ask(screen.checkList, WM_LBUTTONUP, 0, MAKELPARAM(30, 70));
     EXPECT_EQ(clicks, 2) << "Below the last row there is nothing to click";
+}
+
+TEST_F(View, NodesFollowAndAreClicked) {
+    std::string clicked;
+    screen.tree.onNodeClick = [&] { clicked = Tree::fullPath(*screen.tree.selected()); };
+    screen.tree.addRoot("gone", "Gone");
+    EXPECT_EQ(ask(screen.tree, TVM_GETCOUNT), 1);
+    screen.tree.clear();
+    screen.tree.addRoot("day", "1-2-2004");
+    screen.tree.addChild("day", "log", "10:30");
+    EXPECT_EQ(ask(screen.tree, TVM_GETCOUNT), 2);
+    EXPECT_EQ(clicked, "") << "Nodes that come and go are no clicks";
+    const LRESULT root = ask(screen.tree, TVM_GETNEXTITEM, TVGN_ROOT);
+    const LRESULT child = ask(screen.tree, TVM_GETNEXTITEM, TVGN_CHILD, root);
+    ask(screen.tree, TVM_SELECTITEM, TVGN_CARET, child);
+    EXPECT_EQ(clicked, "1-2-2004\\10:30");
 }
 
 TEST_F(View, TypingAndSettingText) {
