@@ -85,15 +85,13 @@ void mouse(DWORD event) {
 }
 
 /// A real click, through the system's input queue. The control must lie open under the mouse.
-void clickOn(HWND control) {
+void clickAt(HWND control, const RECT& place, const std::function<bool()>& ready) {
     HWND const window = GetAncestor(control, GA_ROOT);
-    SetForegroundWindow(window);
-    const RECT place = placeOf(control);
     const POINT centre{(place.left + place.right) / 2, (place.top + place.bottom) / 2};
     const bool open = comesTrue(
         [&] {
             SetCursorPos(centre.x, centre.y);
-            return GetForegroundWindow() == window && GetAncestor(WindowFromPoint(centre), GA_ROOT) == window;
+            return ready() && GetAncestor(WindowFromPoint(centre), GA_ROOT) == window;
         },
         Milliseconds(answerTime));
     if (!open) {
@@ -104,6 +102,43 @@ void clickOn(HWND control) {
     mouse(MOUSEEVENTF_LEFTDOWN);
     Sleep(hand);
     mouse(MOUSEEVENTF_LEFTUP);
+}
+
+void clickOn(HWND control, const RECT& place) {
+    HWND const window = GetAncestor(control, GA_ROOT);
+    SetForegroundWindow(window);
+    clickAt(control, place, [window] { return GetForegroundWindow() == window; });
+}
+
+void clickOn(HWND control) {
+    clickOn(control, placeOf(control));
+}
+
+bool isOfClass(HWND window, const char* name) {
+    return CompareStringA(LOCALE_INVARIANT, NORM_IGNORECASE, classOf(window).c_str(), -1, name, -1) ==
+           CSTR_EQUAL;
+}
+
+std::vector<std::string> rowsOf(HWND list) {
+    std::vector<std::string> rows;
+    const LRESULT count = send(list, LB_GETCOUNT, 0, 0);
+    for (LRESULT row = 0; row < count; ++row) {
+        rows.push_back(rowText(list, static_cast<WPARAM>(row)));
+    }
+    return rows;
+}
+
+/// Where the row with this text stands on the screen, if the list has it.
+std::optional<RECT> placeOfRow(HWND list, const std::string& text) {
+    const std::vector<std::string> rows = rowsOf(list);
+    const auto row = std::find(rows.begin(), rows.end(), text);
+    if (row == rows.end()) {
+        return std::nullopt;
+    }
+    RECT place{};
+    send(list, LB_GETITEMRECT, static_cast<WPARAM>(row - rows.begin()), reinterpret_cast<LPARAM>(&place));
+    MapWindowPoints(list, nullptr, reinterpret_cast<POINT*>(&place), 2);
+    return place;
 }
 
 /// The closest visible control that `distance` accepts: it gives a distance, or a negative number.
@@ -200,18 +235,64 @@ std::string Form::below(const std::string& label) const {
 }
 
 std::vector<std::string> Form::rows() const {
-    std::vector<std::string> rows;
+    std::vector<std::string> all;
     for (HWND child : visibleChildren(window_)) {
-        if (CompareStringA(LOCALE_INVARIANT, NORM_IGNORECASE, classOf(child).c_str(), -1, "ListBox", -1) !=
-            CSTR_EQUAL) {
-            continue;
-        }
-        const LRESULT count = send(child, LB_GETCOUNT, 0, 0);
-        for (LRESULT row = 0; row < count; ++row) {
-            rows.push_back(rowText(child, static_cast<WPARAM>(row)));
+        if (isOfClass(child, "ListBox")) {
+            const std::vector<std::string> rows = rowsOf(child);
+            all.insert(all.end(), rows.begin(), rows.end());
         }
     }
-    return rows;
+    return all;
+}
+
+void Form::clickRow(const std::string& text) const {
+    HWND list = nullptr;
+    std::optional<RECT> place;
+    comesTrue([&] {
+        for (HWND child : visibleChildren(window_)) {
+            if (isOfClass(child, "ListBox") && (place = placeOfRow(child, text))) {
+                list = child;
+                return true;
+            }
+        }
+        return false;
+    });
+    if (list == nullptr) {
+        throw NotSeen("no row \"" + text + "\" on " + describe());
+    }
+    clickOn(list, *place);
+}
+
+HWND Form::dropDown() const {
+    for (HWND child : visibleChildren(window_)) {
+        if (isOfClass(child, "ComboBox")) {
+            return child;
+        }
+    }
+    throw NotSeen("no drop-down list on " + describe());
+}
+
+std::string Form::chosen() const {
+    return textOf(dropDown());
+}
+
+void Form::choose(const std::string& text) const {
+    HWND const box = dropDown();
+    clickOn(box);
+    COMBOBOXINFO parts{};
+    parts.cbSize = sizeof parts;
+    GetComboBoxInfo(box, &parts);
+    HWND const list = parts.hwndList;
+    std::optional<RECT> place;
+    if (!comesTrue(
+            [&] { return IsWindowVisible(list) != 0 && (place = placeOfRow(list, text)).has_value(); })) {
+        throw NotSeen("no row \"" + text + "\" in the drop-down list of " + describe());
+    }
+    // Coming to the front would close the list.
+    clickAt(list, *place, [] { return true; });
+    if (!comesTrue([&] { return IsWindowVisible(list) == 0; })) {
+        throw NotSeen("the drop-down list stays open on " + describe());
+    }
 }
 
 void Form::close() const {

@@ -52,8 +52,15 @@ public:
     /// The text of the nearest control below a label.
     std::string below(const std::string& label) const;
 
-    /// The rows of the visible list box.
+    /// The rows of the visible list boxes.
     std::vector<std::string> rows() const;
+    /// Clicks the row with this text in a list box, once it is there.
+    void clickRow(const std::string& text) const;
+
+    /// What the visible drop-down list shows as chosen.
+    std::string chosen() const;
+    /// Opens the drop-down list and clicks the row with this text.
+    void choose(const std::string& text) const;
 
     /// What the close box in the window's frame does.
     void close() const;
@@ -64,6 +71,7 @@ public:
 private:
     HWND find(const std::string& text) const;
     HWND await(const std::string& text) const;
+    HWND dropDown() const;
 
     HWND window_;
 };

@@ -23,23 +23,6 @@ Inputs& storedInputs() {
     return stored;
 }
 
-std::vector<std::string> namesIn(const std::string& folder) {
-    std::vector<std::string> names;
-    WIN32_FIND_DATAA entry{};
-    HANDLE const search = FindFirstFileA((folder + "*").c_str(), &entry);
-    if (search == INVALID_HANDLE_VALUE) {
-        return names;
-    }
-    do {
-        const std::string name = entry.cFileName;
-        if (name != "." && name != "..") {
-            names.push_back(name);
-        }
-    } while (FindNextFileA(search, &entry) != 0);
-    FindClose(search);
-    return names;
-}
-
 void removeTree(const std::string& folder) {
     for (const std::string& name : namesIn(folder)) {
         if (DeleteFileA((folder + name).c_str()) == 0) {
@@ -65,6 +48,23 @@ std::optional<std::string> readFile(const std::string& path) {
         return std::nullopt;
     }
     return std::string(std::istreambuf_iterator<char>(file), {});
+}
+
+std::vector<std::string> namesIn(const std::string& folder) {
+    std::vector<std::string> names;
+    WIN32_FIND_DATAA entry{};
+    HANDLE const search = FindFirstFileA((folder + "*").c_str(), &entry);
+    if (search == INVALID_HANDLE_VALUE) {
+        return names;
+    }
+    do {
+        const std::string name = entry.cFileName;
+        if (name != "." && name != "..") {
+            names.push_back(name);
+        }
+    } while (FindNextFileA(search, &entry) != 0);
+    FindClose(search);
+    return names;
 }
 
 void writeFile(const std::string& path, const std::string& bytes) {

@@ -22,6 +22,9 @@ void setInputs(Inputs given);
 std::optional<std::string> readFile(const std::string& path);
 void writeFile(const std::string& path, const std::string& bytes);
 
+/// Bare names of the files and folders in a folder, which is given with a backslash.
+std::vector<std::string> namesIn(const std::string& folder);
+
 /// A fresh folder with nothing in it but the program.
 class ProgramFolder {
 public:

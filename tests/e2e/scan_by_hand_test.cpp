@@ -1,0 +1,366 @@
+// From findings to accepted files: what the scanners are given, what the report says, what the baseline
+// holds.
+
+#include "driver.h"
+#include "workplace.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <memory>
+
+namespace e2e {
+namespace {
+
+using Rows = std::vector<std::string>;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::UnorderedElementsAreArray;
+
+constexpr const char* guarded = "zzguarded.drv";
+constexpr const char* visitor = "zz new visitor.ocx";
+constexpr const char* original = "a file that the baseline knows";
+constexpr const char* changed = "something else";
+constexpr const char* newOrFailed =
+    "Integrity Checker - These files were either New or Failed the Integrity Check,";
+
+/// A program in the place of an anti-virus scanner, which writes down how it was started.
+class RecordingScanner {
+public:
+    explicit RecordingScanner(std::string path)
+        : path_(std::move(path)) {
+        char own[MAX_PATH] = {};
+        GetModuleFileNameA(nullptr, own, sizeof own);
+        const std::string beside = std::string(own).substr(0, std::string(own).rfind('\\') + 1);
+        if (CopyFileA((beside + "recording_scanner.exe").c_str(), path_.c_str(), FALSE) == 0) {
+            throw std::runtime_error("cannot copy the recording scanner to " + path_);
+        }
+    }
+
+    const std::string& path() const { return path_; }
+
+    /// How each of the first `count` runs was started; fewer when they do not come.
+    Rows records(std::size_t count) const {
+        Rows all;
+        comesTrue([&] { return (all = recordsNow()).size() >= count; });
+        return all;
+    }
+
+    Rows recordsNow() const {
+        const std::string text = readFile(path_ + ".txt").value_or("");
+        Rows all;
+        for (std::size_t from = 0, end = 0; (end = text.find("\r\n", from)) != std::string::npos;
+             from = end + 2) {
+            all.push_back(text.substr(from, end - from));
+        }
+        return all;
+    }
+
+private:
+    std::string path_;
+};
+
+std::string replaced(std::string text, const std::string& from, const std::string& to) {
+    for (std::size_t at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size())) {
+        text.replace(at, from.size(), to);
+    }
+    return text;
+}
+
+/// The name of a report made at that moment, by the regional form of date and time.
+std::string reportName(const SYSTEMTIME& moment) {
+    char date[100] = {};
+    char time[100] = {};
+    GetDateFormatA(LOCALE_USER_DEFAULT, DATE_SHORTDATE, &moment, nullptr, date, sizeof date);
+    GetTimeFormatA(LOCALE_USER_DEFAULT, 0, &moment, nullptr, time, sizeof time);
+    std::string padded;
+    std::string part;
+    for (const char character : replaced(date, "/", "-")) {
+        part += character;
+        if (character == '-') {
+            padded += (part.size() == 2 ? "0" : "") + part;
+            part.clear();
+        }
+    }
+    return padded + part + "(" + replaced(replaced(time, ":", "_"), " ", "") + ").log";
+}
+
+/// The names of reports made in any second from `first` to now.
+Rows reportNamesSince(const SYSTEMTIME& first) {
+    const auto ticks = [](const SYSTEMTIME& moment) {
+        FILETIME time{};
+        SystemTimeToFileTime(&moment, &time);
+        return ULARGE_INTEGER{{time.dwLowDateTime, time.dwHighDateTime}}.QuadPart;
+    };
+    SYSTEMTIME now{};
+    GetLocalTime(&now);
+    Rows names;
+    constexpr ULONGLONG second = 10'000'000;
+    for (ULONGLONG at = ticks(first) / second; at <= ticks(now) / second; ++at) {
+        const ULARGE_INTEGER whole{.QuadPart = at * second};
+        const FILETIME time{whole.LowPart, whole.HighPart};
+        SYSTEMTIME moment{};
+        FileTimeToSystemTime(&time, &moment);
+        names.push_back(reportName(moment));
+    }
+    return names;
+}
+
+/// A workstation with a complete baseline, one guarded file that has changed, and two scanners.
+class ScanByHand : public testing::Test {
+protected:
+    ScanByHand() {
+        folder_.writeData("Integrity.dat", withEntry(systemBaseline(), "DRV", guarded, crcText(original)));
+        GetLocalTime(&start_);
+    }
+
+    /// `scanTypes` is the list for runs at log-on, with automatic scan and reports at its end.
+    void configure(const std::string& scanTypes, const std::string& passCount,
+                   const std::string& shell) const {
+        folder_.writeSettings({{"settings", scanTypes},
+                               {"advanced", "65536," + passCount + ",0"},
+                               {"antivirus", first_.path() + "| /scan /log:all "},
+                               {"av2", second_.path() + "| "},
+                               {"antivirus2", shell}});
+    }
+
+    /// Ticks the types on the page and scans.
+    static Form scan(const Program& program, const Rows& types) {
+        const Form window = program.form("Welcome to Tarvelon");
+        window.click("Integrity Scan");
+        for (const std::string& type : types) {
+            window.click(type);
+        }
+        window.click("Scan Folder Now");
+        const Form results = program.form("AutoCheck");
+        results.awaitText("Results");
+        return results;
+    }
+
+    static Form openFindings(const Program& program, const Rows& types) {
+        const Form results = scan(program, types);
+        results.click("Repair and Update Failed Files...");
+        results.awaitText("Failed Files List");
+        return results;
+    }
+
+    /// What a scanner's run writes down. A program whose path has blanks is quoted by the system itself.
+    std::string firstRun(const std::string& style, const std::string& files) const {
+        return style + " \"" + first_.path() + "\" /scan /log:all " + files;
+    }
+    std::string secondRun(const std::string& style, const std::string& files) const {
+        return style + " " + second_.path() + "  " + files;
+    }
+
+    /// The text of the only report, whose name must tell when it was made.
+    std::string onlyReport() const {
+        const Rows names = namesIn(folder_.path() + "Data\\Log\\");
+        EXPECT_EQ(names.size(), 1U) << testing::PrintToString(names);
+        if (names.empty()) {
+            return "";
+        }
+        EXPECT_THAT(reportNamesSince(start_), testing::Contains(names.front()));
+        return folder_.data("Log\\" + names.front()).value_or("");
+    }
+
+    /// The baseline after both findings were accepted. A rewrite leaves out the empty line behind the head.
+    static std::string acceptedBaseline() {
+        std::string text = withEntry(systemBaseline(), "DRV", guarded, crcText(changed));
+        text = withEntry(text, "OCX", visitor, crcText("a stranger"));
+        return text.erase(text.find("\r\n\r\n"), 2);
+    }
+
+    const ProgramFolder folder_{"scan by hand"};
+    const RecordingScanner first_{folder_.path() + "first scanner.exe"};
+    const ProgramFolder plainFolder_{"scanner"};
+    const RecordingScanner second_{plainFolder_.path() + "second.exe"};
+    const PlantedFile guarded_{systemDirectory() + guarded, changed};
+    SYSTEMTIME start_{};
+};
+
+TEST_F(ScanByHand, FindingsGoToBothScannersIntoTheReportAndIntoTheBaseline) {
+    configure("0,0,0,0,0,0,0,1", "99999", "1,0,0");
+    const std::optional<std::string> before = folder_.data("Integrity.dat");
+    const PlantedFile added(systemDirectory() + visitor, "a stranger");
+    const Program program(folder_.program());
+    const Form results = scan(program, {"Driver Files (DRV)", "ActiveX Files (OCX)"});
+    EXPECT_EQ(results.beside("New Files:"), "1");
+    EXPECT_EQ(results.beside("Failed Files:"), "1");
+    results.click("Repair and Update Failed Files...");
+    results.awaitText("Failed Files List");
+    EXPECT_THAT(results.rows(), ElementsAre(guarded_.path(), added.path() + " *NEW*"));
+    EXPECT_THAT(first_.recordsNow(), IsEmpty());
+
+    results.click("Scan Failing Files...");
+    results.awaitText("Close Integrity Window");
+    results.awaitText("Integrity File Updated");
+    const std::string files = "\"" + guarded_.path() + "\" \"" + added.path() + "\" ";
+    EXPECT_THAT(first_.records(1), ElementsAre(firstRun("2", files)));
+    EXPECT_THAT(second_.records(1), ElementsAre(secondRun("2", files)));
+    EXPECT_EQ(onlyReport(), newOrFailed + guarded_.path() + "," + replaced(added.path(), " ", ",") + "\r\n");
+    EXPECT_EQ(folder_.data("Integrity.dat"), acceptedBaseline());
+    EXPECT_EQ(folder_.data("integrity.bak"), before);
+
+    results.click("Close Integrity Window");
+    EXPECT_TRUE(comesTrue([&] { return !results.isVisible(); })) << program.describe();
+
+    const Form again = scan(program, {});
+    again.awaitText("Scan Complete. No new or modified files were found.");
+    EXPECT_EQ(again.beside("New Files:"), "0");
+    EXPECT_EQ(again.beside("Failed Files:"), "0");
+    again.click("Close Integrity Check Window");
+    EXPECT_TRUE(comesTrue([&] { return !again.isVisible(); })) << program.describe();
+    EXPECT_EQ(first_.recordsNow().size(), 1U);
+    program.form("Welcome to Tarvelon").click("Exit");
+    EXPECT_TRUE(program.ends());
+}
+
+/// More new files than one batch takes.
+class ManyFindings : public ScanByHand {
+protected:
+    static constexpr std::size_t count = 120;
+
+    ManyFindings() {
+        for (std::size_t number = 0; number < count; ++number) {
+            const std::string name = "zz newcomer " + std::to_string(number) + ".ocx";
+            files_.push_back(std::make_unique<PlantedFile>(systemDirectory() + name, "new"));
+        }
+    }
+
+    /// The rows as the scanner is to get them, cut into batches.
+    static Rows batches(const Rows& rows, std::size_t size, const std::string& quote, bool shortNames) {
+        Rows all;
+        for (std::size_t i = 0; i < rows.size(); ++i) {
+            if (i % size == 0) {
+                all.emplace_back();
+            }
+            std::string name = replaced(rows[i], " *NEW*", "");
+            if (shortNames) {
+                char text[MAX_PATH] = {};
+                GetShortPathNameA(name.c_str(), text, sizeof text);
+                EXPECT_EQ(std::string(text).find(' '), std::string::npos) << "no short name of " << name;
+                name = text;
+            }
+            all.back() += quote + name + quote + " ";
+        }
+        return all;
+    }
+
+    std::vector<std::unique_ptr<PlantedFile>> files_;
+};
+
+TEST_F(ManyFindings, ReachTheScannersInBatchesByTheOptions) {
+    const struct {
+        const char* passCount;
+        const char* shell; ///< Quotes, short names, focus.
+        std::size_t batch;
+        const char* quote;
+        bool shortNames;
+        const char* style; ///< 1 is normal, 2 minimised.
+    } cases[] = {
+        {"50", "0,0,1", 50, "", false, "1"},
+        {"99999", "1,1,0", 99999, "\"", true, "2"},
+        {"50", "0,1,1", 50, "", true, "1"},
+    };
+    for (const auto& [passCount, shell, batch, quote, shortNames, style] : cases) {
+        SCOPED_TRACE(std::string(passCount) + " at a time, " + shell);
+        DeleteFileA((first_.path() + ".txt").c_str());
+        DeleteFileA((second_.path() + ".txt").c_str());
+        folder_.writeData("Integrity.dat", withEntry(systemBaseline(), "DRV", guarded, crcText(original)));
+        configure("0,0,0,0,0,0,0,0", passCount, shell);
+        const Program program(folder_.program());
+        const Form results = openFindings(program, {"ActiveX Files (OCX)"});
+        const Rows rows = results.rows();
+        ASSERT_EQ(rows.size(), count);
+        results.click("Scan Failing Files...");
+        results.awaitText("Close Integrity Window");
+
+        Rows firstRuns;
+        Rows secondRuns;
+        for (const std::string& files : batches(rows, batch, quote, shortNames)) {
+            firstRuns.push_back(firstRun(style, files));
+            secondRuns.push_back(secondRun(style, files));
+        }
+        EXPECT_THAT(first_.records(firstRuns.size()), UnorderedElementsAreArray(firstRuns));
+        EXPECT_THAT(second_.records(secondRuns.size()), UnorderedElementsAreArray(secondRuns));
+        EXPECT_THAT(namesIn(folder_.path() + "Data\\Log\\"), IsEmpty()) << "reports are off";
+    }
+}
+
+TEST_F(ManyFindings, WithoutAScannerTheFirstBatchIsReportedAndAllAreAccepted) {
+    folder_.writeSettings({{"advanced", "65536,50,0"}, {"antivirus2", "0,0,0"}});
+    const Program program(folder_.program());
+    const Form results = openFindings(program, {"ActiveX Files (OCX)"});
+    const Rows rows = results.rows();
+    ASSERT_EQ(rows.size(), count);
+    results.click("Scan Failing Files...");
+    const Box notice = program.box();
+    EXPECT_EQ(notice.text,
+              "You do not have any Anti-Virus program setup with Tarvelon.  For your conveniance, these "
+              "files will be added to the log, and will be updated in your Integrity File (so that you "
+              "can scan them for viruses later).");
+    notice.press("OK");
+    results.awaitText("Close Integrity Window");
+
+    std::string line =
+        "Integrity Checker - These files were logged because you didn't setup an Anti-Virus Scanner";
+    std::string entries;
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        const std::string path = replaced(rows[i], " *NEW*", "");
+        line += i < 50 ? "," + replaced(path, " ", ",") : "";
+        entries += path.substr(systemDirectory().size()) + "=" + crcText("new") + "*E\r\n";
+    }
+    EXPECT_EQ(onlyReport(), line + "\r\n");
+    EXPECT_NE(folder_.data("Integrity.dat")->find(entries + "NULL*E\r\n[EXE]"), std::string::npos);
+}
+
+TEST_F(ScanByHand, AScannerThatCannotBeStartedLeavesEverythingAsItWas) {
+    const std::string broken = folder_.path() + "broken.exe";
+    writeFile(broken, "not a program");
+    folder_.writeSettings({{"settings", "0,0,0,0,0,0,0,1"}, {"antivirus", broken + "| "}});
+    const std::optional<std::string> before = folder_.data("Integrity.dat");
+    const Program program(folder_.program());
+    const Form results = openFindings(program, {"Driver Files (DRV)"});
+    results.click("Scan Failing Files...");
+    const Box box = program.box();
+    EXPECT_EQ(box.text,
+              "Your Anti-Virus program could not be executed!!!\nPlease verify the path of the software:\n" +
+                  broken);
+    EXPECT_EQ(box.title, "TarvelonLow");
+    box.press("OK");
+    EXPECT_THAT(results.rows(), ElementsAre(guarded_.path()));
+    EXPECT_TRUE(results.shows("Scan Failing Files..."));
+    EXPECT_THAT(namesIn(folder_.path() + "Data\\Log\\"), IsEmpty());
+    EXPECT_EQ(folder_.data("Integrity.dat"), before);
+}
+
+/// Runs with a switch that scan drivers and ActiveX files, hand over by themselves, and write reports.
+class AutomaticScan : public ScanByHand, public testing::WithParamInterface<const char*> {};
+
+TEST_P(AutomaticScan, HandsItsFindingsOverAndEndsAndEndsAtOnceWhenThereAreNone) {
+    configure("0,1,0,1,0,0,1,1", "500", "1,0,0");
+    const std::optional<std::string> before = folder_.data("Integrity.dat");
+    const PlantedFile added(systemDirectory() + visitor, "a stranger");
+    {
+        const Program program(folder_.program(), GetParam());
+        EXPECT_TRUE(program.ends()) << program.describe();
+    }
+    const std::string files = "\"" + guarded_.path() + "\" \"" + added.path() + "\" ";
+    EXPECT_THAT(first_.records(1), ElementsAre(firstRun("2", files)));
+    EXPECT_THAT(second_.records(1), ElementsAre(secondRun("2", files)));
+    EXPECT_EQ(onlyReport(), newOrFailed + guarded_.path() + "," + replaced(added.path(), " ", ",") + "\r\n");
+    EXPECT_EQ(folder_.data("Integrity.dat"), acceptedBaseline());
+    EXPECT_EQ(folder_.data("integrity.bak"), before);
+
+    const Program clean(folder_.program(), GetParam());
+    EXPECT_TRUE(clean.ends()) << clean.describe();
+    EXPECT_EQ(first_.recordsNow().size(), 1U);
+    EXPECT_EQ(folder_.data("Integrity.dat"), acceptedBaseline());
+}
+
+INSTANTIATE_TEST_SUITE_P(Switches, AutomaticScan, testing::Values("/r", "/a"),
+                         [](const auto& instance) { return std::string(instance.param).substr(1); });
+
+} // namespace
+} // namespace e2e
