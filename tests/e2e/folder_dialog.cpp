@@ -58,17 +58,16 @@ public:
         SendMessageA(window_, TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(item));
     }
 
-    /// The entry below `parent` with this text, once it is there; null when it does not come.
+    /// The entry below `parent` whose text is or ends in `text`; null when there is none within `limit`.
     HTREEITEM child(HTREEITEM parent, const std::string& text, Milliseconds limit) const {
         HTREEITEM found = nullptr;
         comesTrue(
             [&] {
-                for (found = next(TVGN_CHILD, parent); found != nullptr; found = next(TVGN_NEXT, found)) {
-                    if (textOf(found) == text) {
-                        return true;
-                    }
+                found = next(TVGN_CHILD, parent);
+                while (found != nullptr && !textOf(found).ends_with(text)) {
+                    found = next(TVGN_NEXT, found);
                 }
-                return false;
+                return found != nullptr;
             },
             limit);
         return found;
@@ -115,9 +114,7 @@ HTREEITEM drive(const Tree& tree, const std::string& name) {
             return found;
         }
     }
-    std::string all;
-    for (HTREEITEM place = tree.next(TVGN_CHILD, desktop); place; place = tree.next(TVGN_NEXT, place)) all += tree.textOf(place) + ":" + tree.texts(place);
-    throw NotSeen("no drive " + name + " in the tree of folders:" + all);
+    throw NotSeen("no drive " + name + " in the tree of folders:" + tree.texts(desktop));
 }
 
 } // namespace
