@@ -62,8 +62,9 @@ struct SimRegistry::Node {
     std::uint32_t denied = 0;
 
     auto valueLike(const std::string& asked) {
-        return std::ranges::find_if(
-            values, [wanted = upper(asked.c_str())](const NamedValue& value) { return upper(value.name) == wanted; });
+        return std::ranges::find_if(values, [wanted = upper(asked.c_str())](const NamedValue& value) {
+            return upper(value.name) == wanted;
+        });
     }
 };
 
