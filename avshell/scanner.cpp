@@ -2,6 +2,7 @@
 
 #include "core/failure.h"
 #include "core/globals.h"
+#include "platform/dialogs.h"
 #include "platform/files.h"
 #include "platform/platform.h"
 #include "platform/processes.h"
@@ -75,6 +76,26 @@ void Scanner::startBoth(const ScannerCommand& first, const ScannerCommand& secon
     if (second.isSet()) {
         runScanner(second.line(list));
     }
+}
+
+bool Scanner::test(const std::string& exe) const {
+    if (!platform_.files.open(exe, OpenMode::Read)) {
+        platform_.dialogs.message({.text = "You must choose a virus scanner before you proceed!"});
+        return false;
+    }
+    platform_.dialogs.message(
+        {.text =
+             "Tarvelon will now attempt to scan two files. If the Virus-Scanner you selected scans both "
+             "files, then "
+             "it is fully compatible with Tarvelon! If not, make sure you chose the correct EXE file in your "
+             "anti-virus folder."});
+    runScanner(exe + " " + testItem(globals_.app.settFile) + " " + testItem(globals_.app.intFile));
+    return true;
+}
+
+std::string Scanner::testItem(const std::string& path) const {
+    const std::string& quote = globals_.settings.quoteChar;
+    return quote + (globals_.settings.shortPaths ? toShortPath(path) : path) + quote;
 }
 
 } // namespace tarvelon

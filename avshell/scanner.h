@@ -47,7 +47,13 @@ public:
     /// Starts both scanners with the list; nothing is started for an empty list.
     void startBoth(const ScannerCommand& first, const ScannerCommand& second, const std::string& list) const;
 
+    /// Has a scanner that is not saved yet look at the settings file and the baseline, without arguments.
+    /// False, with a notice, when there is no such file. Throws `Failure` when it cannot be started.
+    bool test(const std::string& exe) const;
+
 private:
+    std::string testItem(const std::string& path) const;
+
     const MForm1Screen& mForm1_;
     const Globals& globals_;
     Platform& platform_;

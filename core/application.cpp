@@ -72,7 +72,10 @@ void Application::bindHooks() {
     customFolders.loadf = [this] { folderScanPage.loadf(); };
     mainForm.hooks = {.loadSettings = [this] { settingsPages.loadSettings(); },
                       .showCustomFolders = [this] { iCust.show(); },
+                      .showScanners = [this] { s_avir.show(); },
                       .regPageOpened = [this] { regPage.Image7_Opened(); }};
+    scannerChoice.hooks.showHelp = [this](bool forSecond) { scannerCatalogue.show(forSecond); };
+    logBrowser.norms2 = [this] { mainForm.norms2(); };
     snapshotFile.setReg = [this] { detection.setReg(); };
     scan.hooks.resultAction = [this] { resultAction.Label12_Click(); };
     scan.hooks.showMainWindow = [this] { mForm1.show(); };

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "avshell/avirhelp.h"
+#include "avshell/avirhelp_screen.h"
+#include "avshell/s_avir.h"
 #include "avshell/s_avir_screen.h"
 #include "avshell/scanner.h"
 #include "core/globals.h"
@@ -16,6 +19,7 @@
 #include "integrity/intcheck.h"
 #include "integrity/intcheck_screen.h"
 #include "integrity/result_action.h"
+#include "logging/log_browser.h"
 #include "logging/log_files.h"
 #include "platform/platform.h"
 #include "regwatch/detection.h"
@@ -37,7 +41,7 @@ public:
     explicit Application(Platform& platform);
 
     /// Every screen, for a view to attach to before the start.
-    std::vector<Screen*> screens() { return {&mForm1, &intCheck, &sProg, &s_avir, &iCust}; }
+    std::vector<Screen*> screens() { return {&mForm1, &intCheck, &sProg, &s_avir, &aVirHelp, &iCust}; }
 
     /// Loads the main window, which is the whole start-up, and shows it unless a switch or a scan hid it.
     void start();
@@ -49,6 +53,7 @@ public:
     IntCheckScreen intCheck;
     SProgScreen sProg;
     SAvirScreen s_avir;
+    AVirHelpScreen aVirHelp;
     ICustScreen iCust;
 
     Utilities utilities{platform};
@@ -62,6 +67,9 @@ public:
                   {globals, platform, settingsFile, checksum, dataFile, baseline, utilities, comparison}};
     Scanner scanner{mForm1, globals, platform};
     LogFiles logFiles{mForm1, globals, platform};
+    SAvir scannerChoice{s_avir, globals, platform, settingsFile, utilities};
+    AVirHelp scannerCatalogue{aVirHelp, s_avir, globals.cases, platform, utilities, scanner};
+    LogBrowser logBrowser{mForm1, {globals, platform, settingsFile, utilities, scanner}};
     Detection detection{mForm1, globals, platform, settingsFile};
     RegPage regPage{mForm1, {globals, platform, settingsFile, utilities, scanner, logFiles, detection}};
     ResultAction resultAction{

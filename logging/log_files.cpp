@@ -3,6 +3,7 @@
 #include "core/failure.h"
 #include "core/file_text.h"
 #include "core/globals.h"
+#include "logging/report_name.h"
 #include "platform/clock.h"
 #include "platform/platform.h"
 #include "ui/mform1_screen.h"
@@ -38,16 +39,8 @@ bool LogFiles::passesGate(const std::string& listText) {
 }
 
 std::string LogFiles::fileName() const {
-    std::vector<std::string> parts =
-        split(globals_.cases.replaceAll(platform_.clock.dateText(), "/", "-"), '-');
-    std::string date;
-    for (std::size_t i = 0; i < parts.size(); ++i) {
-        const bool last = i + 1 == parts.size();
-        date += (!last && parts[i].size() == 1 ? "0" : "") + parts[i] + (last ? "" : "-");
-    }
-    const std::string time =
-        globals_.cases.replaceAll(globals_.cases.replaceAll(platform_.clock.timeText(), ":", "_"), " ", "");
-    return globals_.app.appPath + "Data\\Log\\" + date + "(" + time + ").log";
+    return globals_.app.appPath + "Data\\Log\\" + reportDate(platform_.clock.dateText()) + "(" +
+           reportTimeStored(globals_.cases, platform_.clock.timeText()) + ").log";
 }
 
 } // namespace tarvelon

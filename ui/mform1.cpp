@@ -43,6 +43,7 @@ void MForm1::bind() {
     screen_.Label37.onClick = [this] { Label37_Click(); };
     screen_.cUpdates.onClick = [this] { cUpdates_Click(); };
     screen_.addRem.onClick = [this] { hooks.showCustomFolders(); };
+    screen_.cButton10.onClick = [this] { hooks.showScanners(); };
     bindPages();
     bindHover();
 }

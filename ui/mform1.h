@@ -15,6 +15,7 @@ struct Platform;
 struct MForm1Hooks {
     std::function<void()> loadSettings;
     std::function<void()> showCustomFolders;
+    std::function<void()> showScanners;
     std::function<void()> regPageOpened;
 };
 

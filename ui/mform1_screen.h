@@ -14,8 +14,9 @@ struct MForm1Screen : Screen {
         : Screen("Welcome to Tarvelon", 760, 488) {
         Label1.Visible = false;
         Label19.Visible = false;
+        Label26.Visible = false;
         // What they open comes with the settings, the wizard and the log browser.
-        for (FlatButton* button : {&cSetW, &cCreateSS, &cReports, &cButton10, &cSave, &cSave2}) {
+        for (FlatButton* button : {&cSetW, &cCreateSS, &cSave, &cSave2}) {
             button->Enabled = false;
         }
     }
@@ -83,9 +84,22 @@ struct MForm1Screen : Screen {
                   at(248, 144, 336, 32), TextStyle::Hint};
     FlatButton cReports{setFq, "Load Logs", at(32, 200, 200, 32)};
     FlatButton cViewReport{setFq, "View Log", at(32, 240, 200, 32)};
+    FlatButton cButton3{setFq, "Delete All Logs", at(32, 280, 200, 32)};
+    Tree TreeView2{setFq, at(248, 200, 336, 200)};
+    Label Label27{setFq,
+                  "Tip: Use the Delete key to delete log entries, or log groupings directly from the list",
+                  at(248, 404, 336, 36), TextStyle::Hint};
+    Label Label26{setFq, "L o a d i n g  R e p o r t  . . .  P l e a s e  W a i t", at(248, 444, 336, 24)};
     FlatButton cUpdates{setFq, "Check for Updates", at(32, 400, 200, 32)};
     FlatButton cAbout{setFq, "About", at(32, 440, 200, 32)};
     Frame repF{*this, at(160, 0, 600, 488), false};
+    Label Label25{
+        repF, "The following files either failed an Integrity Check, or were New/Modified Registry Entries:",
+        at(16, 16, 568, 36)};
+    ListBox List4{repF, at(16, 56, 568, 368)};
+    FlatButton cScnLog{repF, "Scan Files For Viruses", at(16, 440, 176, 32)};
+    FlatButton cDelLog{repF, "Delete this Report", at(200, 440, 160, 32)};
+    FlatButton cX{repF, "Close", at(464, 440, 120, 32)};
 
     // Settings: the main page and the advanced page.
     Frame settF{*this, at(160, 0, 600, 488), false};

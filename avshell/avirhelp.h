@@ -1,0 +1,50 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+namespace tarvelon {
+
+struct AVirHelpScreen;
+struct Platform;
+struct SAvirScreen;
+class CaseRules;
+class Scanner;
+class Utilities;
+
+/// What the catalogue calls beside itself.
+struct AVirHelpHooks {
+    std::function<void(const std::string&)> setWizardPath; ///< `vpath` of the wizard.
+    std::function<void(const std::string&)> setWizardArgs; ///< `varg` of the wizard.
+};
+
+/// Finds the right file of a known product on the disk, tests it, and hands it to the choice of scanners.
+class AVirHelp {
+public:
+    AVirHelp(AVirHelpScreen& screen, SAvirScreen& scanners, const CaseRules& cases, Platform& platform,
+             const Utilities& utilities, const Scanner& scanner);
+
+    AVirHelpHooks hooks;
+
+    /// Opens the window for the first or the second scanner.
+    void show(bool forSecond);
+
+private:
+    void bind();
+    void Command4_Click();
+    void Command2_Click();
+    void Command3_Click();
+    void useForFirst(const std::string& path);
+    void useForSecond(const std::string& path);
+    void Command1_Click();
+
+    AVirHelpScreen& screen_;
+    SAvirScreen& scanners_;
+    const CaseRules& cases_;
+    Platform& platform_;
+    const Utilities& utilities_;
+    const Scanner& scanner_;
+    bool forSecond_ = false; ///< The window's tag.
+};
+
+} // namespace tarvelon

@@ -1,0 +1,116 @@
+#include "avshell/s_avir.h"
+
+#include "avshell/known_scanners.h"
+#include "avshell/s_avir_screen.h"
+#include "core/failure.h"
+#include "core/globals.h"
+#include "core/settings_file.h"
+#include "core/utilities.h"
+#include "platform/dialogs.h"
+#include "platform/platform.h"
+
+namespace tarvelon {
+
+namespace {
+
+using namespace std::string_literals;
+
+const std::string executables = "Executable Files (*.exe, *.com)\0*.EXE;*.COM\0All Files (*.*)\0*.*\0\0"s;
+
+} // namespace
+
+SAvir::SAvir(SAvirScreen& screen, Globals& globals, Platform& platform, SettingsFile& settings,
+             const Utilities& utilities)
+    : screen_(screen)
+    , globals_(globals)
+    , platform_(platform)
+    , settings_(settings)
+    , utilities_(utilities) {
+    bind();
+}
+
+void SAvir::bind() {
+    screen_.onLoad = [this] {
+        passOver([this] { fill("ANTIVIRUS", screen_.Text5, screen_.Text6); });
+        passOver([this] { fill("AV2", screen_.Text1, screen_.Text2); });
+    };
+    screen_.onMouseMove = [this] { norms(); };
+    screen_.cChoose.onClick = [this] { cChoose_Click(); };
+    screen_.cButton10.onClick = [this] { cButton10_Click(); };
+    screen_.chlpFind.onClick = [this] { hooks.showHelp(false); };
+    screen_.cButton1.onClick = [this] { hooks.showHelp(true); };
+    screen_.cButton2.onClick = [this] { screen_.hide(); };
+    screen_.cButton3.onClick = [this] { cButton3_Click(); };
+}
+
+void SAvir::norms() {
+    for (FlatButton* button : {&screen_.cChoose, &screen_.chlpFind, &screen_.cButton10, &screen_.cButton1,
+                               &screen_.cButton2, &screen_.cButton3}) {
+        button->downStatus(1);
+    }
+}
+
+void SAvir::fill(const char* request, Control& exe, Control& args) {
+    if (const auto scanner = splitExeAndArgs(settings_.getSetting(request))) {
+        exe.Caption = scanner->exe;
+        args.Caption = scanner->args;
+    }
+}
+
+/// The file that the user picks, or empty.
+std::string SAvir::choose() const {
+    const std::string file = utilities_.openFileBox("Choose Anti-Virus Executable File", executables);
+    return file.substr(0, file.find('\0'));
+}
+
+void SAvir::cChoose_Click() {
+    const std::string file = choose();
+    if (file.empty()) {
+        return;
+    }
+    screen_.Text5.Caption = file;
+    screen_.Text6.Caption = argumentsForFirst();
+    platform_.dialogs.message({.text = "Don't forget to Save!"});
+}
+
+void SAvir::cButton10_Click() {
+    const std::string file = choose();
+    if (file.empty()) {
+        return;
+    }
+    screen_.Text1.Caption = file;
+    // The second scanner gets what the first one's name calls for.
+    screen_.Text2.Caption = argumentsForFirst();
+    platform_.dialogs.message({.text = "Don't forget to Save!"});
+}
+
+const char* SAvir::argumentsForFirst() {
+    const ScannerFamily family = scannerFamily(globals_.cases, screen_.Text5.Caption());
+    const char* arguments = defaultArguments(family);
+    if (family != ScannerFamily::Pavcl && hooks.setWizardArgs) {
+        hooks.setWizardArgs(arguments);
+    }
+    return arguments;
+}
+
+void SAvir::cButton3_Click() {
+    if (!utilities_.fileThere(screen_.Text5.Caption())) {
+        platform_.dialogs.message(
+            {.text = "You didn't choose an anti-virus software exe.  We recommend that you get "
+                     "one to take full advantage of Tarvelon"});
+        screen_.Text5.Caption = SAvirScreen::noScanner;
+        screen_.Text6.Caption = " ";
+    }
+    if (!utilities_.fileThere(screen_.Text1.Caption())) {
+        screen_.Text1.Caption = "";
+        screen_.Text2.Caption = "";
+    }
+    const std::string& file = globals_.app.settFile;
+    settings_.writeEntry(file, "antivirus", screen_.Text5.Caption() + "|" + screen_.Text6.Caption(),
+                         "Tarvelon");
+    settings_.writeEntry(file, "av2", screen_.Text1.Caption() + "|" + screen_.Text2.Caption(), "Tarvelon");
+    platform_.dialogs.message({.text = "Save Success!"});
+    screen_.hide();
+}
+
+} // namespace tarvelon
