@@ -141,6 +141,17 @@ std::optional<RECT> placeOfRow(HWND list, const std::string& text) {
     return place;
 }
 
+/// The list that hangs open under the drop-down list, if it does: a window of its own.
+HWND openList(HWND dropDown) {
+    const DWORD thread = GetWindowThreadProcessId(dropDown, nullptr);
+    for (HWND list = nullptr; (list = FindWindowExA(nullptr, list, "ComboLBox", nullptr)) != nullptr;) {
+        if (IsWindowVisible(list) != 0 && GetWindowThreadProcessId(list, nullptr) == thread) {
+            return list;
+        }
+    }
+    return nullptr;
+}
+
 /// The closest visible control that `distance` accepts: it gives a distance, or a negative number.
 std::string nearestText(HWND window, HWND label, const std::function<long(RECT, RECT)>& distance) {
     HWND nearest = nullptr;
@@ -279,13 +290,9 @@ std::string Form::chosen() const {
 void Form::choose(const std::string& text) const {
     HWND const box = dropDown();
     clickOn(box);
-    COMBOBOXINFO parts{};
-    parts.cbSize = sizeof parts;
-    GetComboBoxInfo(box, &parts);
-    HWND const list = parts.hwndList;
+    HWND list = nullptr;
     std::optional<RECT> place;
-    if (!comesTrue(
-            [&] { return IsWindowVisible(list) != 0 && (place = placeOfRow(list, text)).has_value(); })) {
+    if (!comesTrue([&] { return (list = openList(box)) != nullptr && (place = placeOfRow(list, text)); })) {
         throw NotSeen("no row \"" + text + "\" in the drop-down list of " + describe());
     }
     // Coming to the front would close the list.
