@@ -39,8 +39,8 @@ double scan(const std::string& drive, const std::string& folder, bool first, std
     pc.files.put(dataFolder + "Tarvelon.dat", "[Tarvelon]\r\nsettings=1,1,1,1,1,1,0,0\r\n");
     pc.processes.arguments = first ? "" : "/r";
     Yes yes;
-    Platform platform{pc.codePage, pc.files,     pc.folders,  pc.crypto, pc.messages,
-                      yes,         pc.processes, pc.registry, pc.clock,  pc.shell};
+    Platform platform{pc.codePage, pc.files, pc.folders, pc.crypto,    pc.messages, yes,       pc.processes,
+                      pc.registry, pc.clock, pc.shell,   pc.shortcuts, pc.power,    pc.desktop};
     Application app(platform);
     for (Screen* screen : app.screens()) {
         pc.attach(*screen);

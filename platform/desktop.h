@@ -15,17 +15,19 @@ public:
 
     /// `GetWindow` on the desktop window for its first child: the first top-level window.
     virtual Window firstWindow() = 0;
-    /// `GetWindow` for the next window in stacking order.
+    /// `GetWindow` for the next window in stacking order; 0 behind the last, and for a window that has gone.
     virtual Window nextWindow(Window window) = 0;
 
-    /// `GetWindowTextA` into `size` bytes, its zero included; what was in the buffer stays when it fails.
+    /// `GetWindowTextA`: the title with a zero, cut to fit into `size` bytes; just a zero for a window that
+    /// has no title or is not there.
     virtual void windowText(Window window, char* buffer, int size) = 0;
-    /// `GetClassNameA`: likewise.
+    /// `GetClassNameA`: likewise, but the buffer stays as it was for a window that is not there.
     virtual void className(Window window, char* buffer, int size) = 0;
     /// `GetWindowThreadProcessId`'s process; 0 for a window that is not there.
     virtual std::uint32_t processOf(Window window) = 0;
 
-    /// `FindWindowA`; without a class any class will do.
+    /// `FindWindowA`: the first in stacking order with this class and title, both without regard to case;
+    /// without a class any class will do.
     virtual Window find(const std::optional<std::string>& className, const std::string& title) = 0;
     /// `BringWindowToTop`.
     virtual void bringToTop(Window window) = 0;

@@ -12,6 +12,9 @@ class Processes;
 class Registry;
 class Clock;
 class Shell;
+class Shortcuts;
+class Power;
+class Desktop;
 
 /// Everything outside the process, one interface for each group of system calls.
 struct Platform {
@@ -25,6 +28,9 @@ struct Platform {
     Registry& registry;
     Clock& clock;
     Shell& shell;
+    Shortcuts& shortcuts;
+    Power& power;
+    Desktop& desktop;
 };
 
 } // namespace tarvelon

@@ -26,6 +26,9 @@ public:
     /// Starts a command line and does not wait for it. False when it cannot be started.
     virtual bool start(const std::string& commandLine, WindowStyle style) = 0;
 
+    /// Whether another process of this program was there when this one started.
+    virtual bool anotherInstance() = 0;
+
     /// Ends this process at once: all windows go, nothing is saved, no question is asked.
     [[noreturn]] void end() {
         endNow();

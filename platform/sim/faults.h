@@ -36,6 +36,10 @@ enum class Operation {
     DeleteValue,
     CloseKey,
     OpenDocument,
+    SaveShellLink,
+    SaveScripted,
+    SetPowerState,
+    ExitWindows,
     count_,
 };
 

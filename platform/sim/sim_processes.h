@@ -28,6 +28,7 @@ public:
     std::string file = R"(C:\Program Files\Tarvelon\TarvelonLow.exe)";
     std::string arguments;
     std::array<int, 3> version{2, 0, 0};
+    bool otherInstance = false;
     /// Asked for each command line; unset, every one can be started.
     std::function<bool(const std::string& commandLine)> canStart;
 
@@ -39,6 +40,7 @@ public:
     std::string commandLine() override { return arguments; }
     std::array<int, 3> programVersion() override { return version; }
     bool start(const std::string& commandLine, WindowStyle style) override;
+    bool anotherInstance() override { return otherInstance; }
 
 protected:
     [[noreturn]] void endNow() override;

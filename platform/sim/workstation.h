@@ -5,13 +5,16 @@
 #include "platform/sim/sim_clock.h"
 #include "platform/sim/sim_codepage.h"
 #include "platform/sim/sim_crypto.h"
+#include "platform/sim/sim_desktop.h"
 #include "platform/sim/sim_dialogs.h"
 #include "platform/sim/sim_files.h"
 #include "platform/sim/sim_folders.h"
 #include "platform/sim/sim_messages.h"
+#include "platform/sim/sim_power.h"
 #include "platform/sim/sim_processes.h"
 #include "platform/sim/sim_registry.h"
 #include "platform/sim/sim_shell.h"
+#include "platform/sim/sim_shortcuts.h"
 #include "platform/sim/sim_view.h"
 
 namespace tarvelon {
@@ -44,10 +47,13 @@ public:
     SimProcesses processes{faults};
     SimRegistry registry{faults};
     SimShell shell{faults, files};
+    SimShortcuts shortcuts{faults, files};
+    SimPower power{faults};
+    SimDesktop desktop;
 
 private:
-    Platform platform_{codePage, files,     folders,  crypto, messages,
-                       dialogs,  processes, registry, clock,  shell};
+    Platform platform_{codePage, files, folders, crypto,    messages, dialogs, processes,
+                       registry, clock, shell,   shortcuts, power,    desktop};
     std::string ownFolder_; ///< Empty when the folder was given.
 };
 

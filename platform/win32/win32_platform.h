@@ -5,13 +5,16 @@
 #include "platform/win32/win32_clock.h"
 #include "platform/win32/win32_codepage.h"
 #include "platform/win32/win32_crypto.h"
+#include "platform/win32/win32_desktop.h"
 #include "platform/win32/win32_dialogs.h"
 #include "platform/win32/win32_files.h"
 #include "platform/win32/win32_folders.h"
 #include "platform/win32/win32_messages.h"
+#include "platform/win32/win32_power.h"
 #include "platform/win32/win32_processes.h"
 #include "platform/win32/win32_registry.h"
 #include "platform/win32/win32_shell.h"
+#include "platform/win32/win32_shortcuts.h"
 
 namespace tarvelon {
 
@@ -39,6 +42,9 @@ private:
     Win32Registry registry_;
     Win32Clock clock_;
     Win32Shell shell_;
+    Win32Shortcuts shortcuts_;
+    Win32Power power_;
+    Win32Desktop desktop_;
     Win32View view_;
     Win32MessageQueue messages_{view_};
 };

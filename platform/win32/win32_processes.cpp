@@ -22,6 +22,14 @@ static_assert(offsetof(VersionRecord, fixed) == 40);
 
 } // namespace
 
+Win32Processes::Win32Processes()
+    : instanceMark_(CreateMutexA(nullptr, FALSE, "TarvelonLow"))
+    , anotherInstance_(GetLastError() == ERROR_ALREADY_EXISTS) {}
+
+Win32Processes::~Win32Processes() {
+    CloseHandle(instanceMark_);
+}
+
 std::string Win32Processes::programFile() {
     std::string path(MAX_PATH, '\0');
     for (;;) {

@@ -6,13 +6,22 @@ namespace tarvelon {
 
 class Win32Processes : public Processes {
 public:
+    Win32Processes();
+    Win32Processes(const Win32Processes&) = delete;
+    ~Win32Processes() override;
+
     std::string programFile() override;
     std::string commandLine() override;
     std::array<int, 3> programVersion() override;
     bool start(const std::string& commandLine, WindowStyle style) override;
+    bool anotherInstance() override { return anotherInstance_; }
 
 protected:
     [[noreturn]] void endNow() override;
+
+private:
+    void* instanceMark_; ///< A mutex that nobody waits for: it is there while the process is.
+    bool anotherInstance_;
 };
 
 } // namespace tarvelon
