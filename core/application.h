@@ -1,5 +1,6 @@
 #pragma once
 
+#include "appwatch/app_page.h"
 #include "avshell/avirhelp.h"
 #include "avshell/avirhelp_screen.h"
 #include "avshell/s_avir.h"
@@ -25,6 +26,10 @@
 #include "regwatch/detection.h"
 #include "regwatch/reg_page.h"
 #include "regwatch/snapshot_file.h"
+#include "shutdown/logoff.h"
+#include "shutdown/logoff_screen.h"
+#include "shutdown/power_action.h"
+#include "shutdown/sequence.h"
 #include "shutdown/sprog_screen.h"
 #include "ui/mform1.h"
 #include "ui/mform1_screen.h"
@@ -41,7 +46,7 @@ public:
     explicit Application(Platform& platform);
 
     /// Every screen, for a view to attach to before the start.
-    std::vector<Screen*> screens() { return {&mForm1, &intCheck, &sProg, &s_avir, &aVirHelp, &iCust}; }
+    std::vector<Screen*> screens() { return {&mForm1, &intCheck, &frmLogoff, &sProg, &s_avir, &aVirHelp, &iCust}; }
 
     /// Loads the main window, which is the whole start-up, and shows it unless a switch or a scan hid it.
     void start();
@@ -51,6 +56,7 @@ public:
 
     MForm1Screen mForm1;
     IntCheckScreen intCheck;
+    LogoffScreen frmLogoff;
     SProgScreen sProg;
     SAvirScreen s_avir;
     AVirHelpScreen aVirHelp;
@@ -72,6 +78,11 @@ public:
     LogBrowser logBrowser{mForm1, {globals, platform, settingsFile, utilities, scanner}};
     Detection detection{mForm1, globals, platform, settingsFile};
     RegPage regPage{mForm1, {globals, platform, settingsFile, utilities, scanner, logFiles, detection}};
+    AppPage appPage{mForm1, platform};
+    PowerAction powerAction{platform};
+    Logoff logoff{frmLogoff, globals.app, platform};
+    Sequence shutDownSequence{
+        frmLogoff, sProg, mForm1, s_avir, {globals, platform, utilities, scanner, logFiles, powerAction}};
     ResultAction resultAction{
         intCheck, {globals, platform, settingsFile, checksum, dataFile, utilities, scanner, logFiles}};
     FolderScanPage folderScanPage{mForm1,

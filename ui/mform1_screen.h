@@ -15,6 +15,7 @@ struct MForm1Screen : Screen {
         Label1.Visible = false;
         Label19.Visible = false;
         Label26.Visible = false;
+        txtTitle.Caption = "No Window Selected";
         // What they open comes with the settings, the wizard and the log browser.
         for (FlatButton* button : {&cSetW, &cCreateSS, &cSave, &cSave2}) {
             button->Enabled = false;
@@ -50,7 +51,7 @@ struct MForm1Screen : Screen {
     FlatButton bCLEAR{intF, "Clear Selections", at(352, 176, 152, 32)};
     FlatButton bSCAN{intF, "Scan Folder Now", at(352, 336, 152, 32)};
 
-    // RegWatch and AppWatch.
+    // RegWatch.
     Frame regF{*this, at(160, 0, 600, 488), false};
     ListBox List5{regF, at(16, 16, 568, 112)};
     Tree TreeView1{regF, at(16, 136, 568, 224)};
@@ -66,7 +67,17 @@ struct MForm1Screen : Screen {
     ListBox List2{regF, at(0, 0, 8, 8), false};
     ListBox List3{regF, at(0, 0, 8, 8), false};
 
+    // AppWatch.
     Frame appF{*this, at(160, 0, 600, 488), false};
+    ListBox lstOpenWindows{appF, at(32, 24, 536, 248)};
+    Label lblCount{appF, "Please Click On Refresh", at(32, 280, 536, 20), TextStyle::Hint};
+    TextBox txtTitle{appF, at(32, 312, 536, 24)};
+    Label lblProcessID{appF, "Process ID: Please select an Entry first", at(32, 344, 536, 20)};
+    Label lblClassName{appF, "Click on an Entry in the list to retrieve additional Information",
+                       at(32, 368, 536, 56)};
+    FlatButton act{appF, "Activate Window", at(32, 440, 168, 32)};
+    FlatButton cl{appF, "Close Window", at(208, 440, 168, 32)};
+    FlatButton ref{appF, "Refresh", at(400, 440, 168, 32)};
 
     // Options and one report.
     Frame setFq{*this, at(160, 0, 600, 488), false};
