@@ -152,20 +152,6 @@ HWND openList(HWND dropDown) {
     return nullptr;
 }
 
-/// The closest visible control that `distance` accepts: it gives a distance, or a negative number.
-std::string nearestText(HWND window, HWND label, const std::function<long(RECT, RECT)>& distance) {
-    HWND nearest = nullptr;
-    long shortest = 0;
-    for (HWND child : visibleChildren(window)) {
-        const long away = child == label ? -1 : distance(placeOf(label), placeOf(child));
-        if (away >= 0 && (nearest == nullptr || away < shortest)) {
-            nearest = child;
-            shortest = away;
-        }
-    }
-    return nearest == nullptr ? std::string() : textOf(nearest);
-}
-
 } // namespace
 
 bool comesTrue(const std::function<bool()>& holds, Milliseconds limit) {
@@ -231,18 +217,17 @@ void Form::click(const std::string& text) const {
 }
 
 std::string Form::beside(const std::string& label) const {
-    return nearestText(window_, await(label), [](RECT from, RECT to) -> long {
-        const long middle = (to.top + to.bottom) / 2;
-        const bool sameRow = middle >= from.top && middle < from.bottom;
-        return sameRow ? to.left - from.left - 1 : -1;
-    });
-}
-
-std::string Form::below(const std::string& label) const {
-    return nearestText(window_, await(label), [](RECT from, RECT to) -> long {
-        const bool sameColumn = to.left < from.right && to.right > from.left;
-        return sameColumn ? to.top - from.bottom : -1;
-    });
+    const RECT from = placeOf(await(label));
+    HWND nearest = nullptr;
+    for (HWND child : visibleChildren(window_)) {
+        const RECT place = placeOf(child);
+        const long middle = (place.top + place.bottom) / 2;
+        const bool behind = middle >= from.top && middle < from.bottom && place.left > from.left;
+        if (behind && (nearest == nullptr || place.left < placeOf(nearest).left)) {
+            nearest = child;
+        }
+    }
+    return nearest == nullptr ? std::string() : textOf(nearest);
 }
 
 std::vector<std::string> Form::rows() const {
@@ -375,10 +360,6 @@ std::optional<HWND> Program::formNow(const std::string& captionPart) const {
 
 bool Program::hasForm(const std::string& captionPart) const {
     return formNow(captionPart).has_value();
-}
-
-bool Program::hasAnyWindow() const {
-    return !windows().empty();
 }
 
 Form Program::form(const std::string& captionPart) const {

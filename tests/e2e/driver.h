@@ -49,8 +49,6 @@ public:
 
     /// The text of the nearest control to the right of a label, on the same row.
     std::string beside(const std::string& label) const;
-    /// The text of the nearest control below a label.
-    std::string below(const std::string& label) const;
 
     /// The rows of the visible list boxes.
     std::vector<std::string> rows() const;
@@ -98,7 +96,6 @@ public:
     Form form(const std::string& captionPart) const;
     /// True when such a window is visible now.
     bool hasForm(const std::string& captionPart) const;
-    bool hasAnyWindow() const;
 
     /// Waits for a message box.
     Box box() const;
