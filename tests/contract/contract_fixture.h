@@ -3,13 +3,16 @@
 #include "platform/clock.h"
 #include "platform/codepage.h"
 #include "platform/crypto.h"
+#include "platform/desktop.h"
 #include "platform/files.h"
 #include "platform/folders.h"
 #include "platform/messages.h"
 #include "platform/platform.h"
+#include "platform/power.h"
 #include "platform/processes.h"
 #include "platform/registry.h"
 #include "platform/shell.h"
+#include "platform/shortcuts.h"
 #include "ui/controls/controls.h"
 
 #include <gmock/gmock.h>
@@ -21,6 +24,17 @@
 #include <vector>
 
 namespace tarvelon {
+
+/// A link file as the system's own object reads it.
+struct LinkFile {
+    std::string target;
+    std::string workingDirectory;
+    std::string arguments;
+    std::string description;
+    std::string iconFile;
+    int iconIndex = 0;
+    int showCmd = 0;
+};
 
 /// A workstation to hold against the contract, and what a test does to it from outside the program.
 class ContractWorkstation {
@@ -46,6 +60,17 @@ public:
     virtual void attach(Screen& screen) = 0;
     /// Whether a command line that makes this file has been run, at the latest within some seconds.
     virtual bool hasMade(const std::string& path, const std::string& commandLine) = 0;
+    /// Empty when there is no link file.
+    virtual std::optional<LinkFile> readLink(const std::string& path) = 0;
+    /// Opens a window that closes when it is asked to, at the latest together with the workstation.
+    virtual Desktop::Window openWindow(const std::string& title, const std::string& className,
+                                       bool visible = true) = 0;
+    /// The process that these windows belong to.
+    virtual std::uint32_t windowProcess() = 0;
+    /// The program, started a second time while it runs.
+    virtual Processes& startedAgain() = 0;
+    /// Whether the privilege is in force for this process.
+    virtual bool holdsPrivilege(const std::string& name) = 0;
 };
 
 std::unique_ptr<ContractWorkstation> makeContractWorkstation();

@@ -40,6 +40,41 @@ public:
             return process.commandLine == commandLine;
         });
     }
+    std::optional<LinkFile> readLink(const std::string& path) override {
+        for (const auto& [linkPath, told] : sim_.shortcuts.shellLinks()) {
+            if (linkPath == path && sim_.files.get(path)) {
+                return LinkFile{told.path,      told.workingDirectory,
+                                told.arguments, told.description.substr(0, told.description.find('\0')),
+                                told.iconFile,  told.iconIndex,
+                                told.showCmd};
+            }
+        }
+        for (const auto& [linkPath, told] : sim_.shortcuts.scripted()) {
+            if (linkPath == path && sim_.files.get(path)) {
+                return LinkFile{.target = told.targetPath,
+                                .workingDirectory = "",
+                                .arguments = told.arguments,
+                                .description = told.description,
+                                .iconFile = "",
+                                .showCmd = told.windowStyle};
+            }
+        }
+        return std::nullopt;
+    }
+    Desktop::Window openWindow(const std::string& title, const std::string& className,
+                               bool visible) override {
+        return sim_.desktop.open({title, className, windowProcess(), visible});
+    }
+    std::uint32_t windowProcess() override { return 4321; }
+    Processes& startedAgain() override {
+        sim_.processes.otherInstance = true;
+        return sim_.processes;
+    }
+    bool holdsPrivilege(const std::string& name) override {
+        return std::ranges::any_of(sim_.power.calls(), [&](const std::string& call) {
+            return call == "adjustPrivilege " + name + " 2147483651";
+        });
+    }
 
 private:
     SimWorkstation sim_;

@@ -1,9 +1,11 @@
 #include "tests/contract/contract_fixture.h"
 
+#include "platform/win32/component.h"
 #include "platform/win32/win32_platform.h"
 
 #include <windows.h>
 
+#include <shlobj.h>
 #include <wincrypt.h>
 
 namespace tarvelon {
@@ -52,6 +54,21 @@ HKEY createKey(const std::string& path) {
     return key;
 }
 
+/// The show command in a link file's header. Wine's object reads the normal window out of every file,
+/// whatever stands there.
+int showCommandIn(const std::string& path) {
+    constexpr LONG place = 60;
+    const HANDLE file =
+        CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
+    EXPECT_NE(file, INVALID_HANDLE_VALUE) << path;
+    SetFilePointer(file, place, nullptr, FILE_BEGIN);
+    std::int32_t value = -1;
+    DWORD came = 0;
+    EXPECT_TRUE(ReadFile(file, &value, sizeof value, &came, nullptr));
+    CloseHandle(file);
+    return value;
+}
+
 constexpr const char* scratchKey = R"(Software\TarvelonContract)";
 
 class Win32ContractWorkstation : public ContractWorkstation {
@@ -63,6 +80,9 @@ public:
             std::string(temporary) + "tarvelon-contract-" + std::to_string(GetCurrentProcessId()) + "\\";
     }
     ~Win32ContractWorkstation() override {
+        for (const HWND window : windows_) {
+            DestroyWindow(window);
+        }
         removeTree(folder_);
         removeKey(HKEY_CURRENT_USER, scratchKey);
     }
@@ -115,10 +135,62 @@ public:
         }
         return false;
     }
+    std::optional<LinkFile> readLink(const std::string& path) override {
+        const auto link = makeComponent<IShellLinkA>(CLSID_ShellLink);
+        const auto file = queryComponent<IPersistFile>(*link);
+        if (FAILED(file->Load(wideText(path).c_str(), STGM_READ))) {
+            return std::nullopt;
+        }
+        LinkFile read;
+        char text[1024] = "";
+        EXPECT_HRESULT_SUCCEEDED(link->GetPath(text, MAX_PATH, nullptr, 0));
+        read.target = text;
+        EXPECT_HRESULT_SUCCEEDED(link->GetWorkingDirectory(text, MAX_PATH));
+        read.workingDirectory = text;
+        EXPECT_HRESULT_SUCCEEDED(link->GetArguments(text, sizeof text));
+        read.arguments = text;
+        EXPECT_HRESULT_SUCCEEDED(link->GetDescription(text, sizeof text));
+        read.description = text;
+        EXPECT_HRESULT_SUCCEEDED(link->GetIconLocation(text, MAX_PATH, &read.iconIndex));
+        read.iconFile = text;
+        read.showCmd = showCommandIn(path);
+        return read;
+    }
+    Desktop::Window openWindow(const std::string& title, const std::string& className,
+                               bool visible) override {
+        WNDCLASSA description{};
+        description.lpfnWndProc = DefWindowProcA;
+        description.lpszClassName = className.c_str();
+        RegisterClassA(&description); // Fails for one that is there, which serves as well.
+        const DWORD style = WS_OVERLAPPEDWINDOW | (visible ? WS_VISIBLE : 0);
+        const HWND window = CreateWindowExA(0, className.c_str(), title.c_str(), style, 0, 0, 200, 100,
+                                            nullptr, nullptr, nullptr, nullptr);
+        EXPECT_NE(window, nullptr) << title;
+        windows_.push_back(window);
+        return reinterpret_cast<Desktop::Window>(window);
+    }
+    std::uint32_t windowProcess() override { return GetCurrentProcessId(); }
+    Processes& startedAgain() override {
+        secondInstance_ = std::make_unique<Win32Processes>();
+        return *secondInstance_;
+    }
+    bool holdsPrivilege(const std::string& name) override {
+        PRIVILEGE_SET wanted{};
+        wanted.PrivilegeCount = 1;
+        EXPECT_TRUE(LookupPrivilegeValueA(nullptr, name.c_str(), &wanted.Privilege[0].Luid)) << name;
+        HANDLE token = nullptr;
+        EXPECT_TRUE(OpenProcessToken(GetCurrentProcess(), TOKEN_QUERY, &token));
+        BOOL held = FALSE;
+        EXPECT_TRUE(PrivilegeCheck(token, &wanted, &held));
+        CloseHandle(token);
+        return held;
+    }
 
 private:
     Win32Platform win32_;
     std::string folder_;
+    std::vector<HWND> windows_;
+    std::unique_ptr<Win32Processes> secondInstance_;
 };
 
 } // namespace
