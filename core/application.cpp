@@ -47,17 +47,11 @@ void Application::bindHooks() {
         .showScan = showScan,
         .loadUp = loadUp,
         .minimizeScan = [this] { intCheck.Minimized = true; },
-        .showLogoff =
-            [this] {
-                globals.app.autoLoadRun = true;
-                intCheck.show();
-                scan.LoadUp();
-            },
+        .showLogoff = [this] { frmLogoff.show(); },
         .preShut0 =
             [this] {
-                globals.app.autoLoadRun = true;
-                intCheck.show();
-                scan.LoadUp();
+                frmLogoff.load();
+                shutDownSequence.preShut0();
             },
     };
     dataFile.buildCustomDat = [this](const std::string& folder, const std::string& file,
@@ -78,6 +72,11 @@ void Application::bindHooks() {
     logBrowser.norms2 = [this] { mainForm.norms2(); };
     snapshotFile.setReg = [this] { detection.setReg(); };
     scan.hooks.resultAction = [this] { resultAction.Label12_Click(); };
+    logoff.preShut0 = [this] { shutDownSequence.preShut0(); };
+    shutDownSequence.hooks = {.loadUp = loadUp,
+                              .setReg = [this] { detection.setReg(); },
+                              .cScnUpd = [this] { regPage.cScnUpd_Click(); }};
+    scan.hooks.preShut2 = [this] { shutDownSequence.PreShut2(); };
     scan.hooks.showMainWindow = [this] { mForm1.show(); };
 }
 

@@ -46,7 +46,9 @@ public:
     explicit Application(Platform& platform);
 
     /// Every screen, for a view to attach to before the start.
-    std::vector<Screen*> screens() { return {&mForm1, &intCheck, &frmLogoff, &sProg, &s_avir, &aVirHelp, &iCust}; }
+    std::vector<Screen*> screens() {
+        return {&mForm1, &intCheck, &frmLogoff, &sProg, &s_avir, &aVirHelp, &iCust};
+    }
 
     /// Loads the main window, which is the whole start-up, and shows it unless a switch or a scan hid it.
     void start();

@@ -6,7 +6,10 @@ namespace tarvelon {
 
 /// Progress of the scans in front of a shut-down.
 struct SProgScreen : Screen {
-    SProgScreen() : Screen("Scanning and Shutting Down...Please Wait", 480, 152) { Command1.Visible = false; }
+    SProgScreen()
+        : Screen("Scanning and Shutting Down...Please Wait", 480, 152) {
+        Command1.Visible = false;
+    }
 
     Label Label2{*this, "Status: ", at(16, 16, 448, 20)};
     Label Label1{*this, "Current Task Progress:", at(16, 48, 448, 20)};

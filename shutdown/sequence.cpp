@@ -1,0 +1,183 @@
+#include "shutdown/sequence.h"
+
+#include "avshell/s_avir_screen.h"
+#include "avshell/scanner.h"
+#include "core/failure.h"
+#include "core/globals.h"
+#include "core/utilities.h"
+#include "logging/log_files.h"
+#include "platform/dialogs.h"
+#include "platform/platform.h"
+#include "platform/processes.h"
+#include "regwatch/pending_files.h"
+#include "shutdown/logoff_screen.h"
+#include "shutdown/power_action.h"
+#include "shutdown/sprog_screen.h"
+#include "ui/mform1_screen.h"
+
+namespace tarvelon {
+
+Sequence::Sequence(LogoffScreen& logoff, SProgScreen& sProg, const MForm1Screen& mForm1,
+                   const SAvirScreen& scanners, const SequenceParts& parts)
+    : logoff_(logoff)
+    , sProg_(sProg)
+    , mForm1_(mForm1)
+    , scanners_(scanners)
+    , parts_(parts)
+    , globals_(parts.globals) {
+    logoff_.Timer1.onTick = [this] { Timer1_Tick(); };
+    sProg_.Command1.onClick = [this] { parts_.power.ShutDown(globals_.app.shutAction); };
+    sProg_.onQueryClose = [this] { return queryClose(); };
+}
+
+void Sequence::preShut0() {
+    CheckWinInit();
+}
+
+// ---- Files pending for the next boot
+
+void Sequence::CheckWinInit() {
+    sProg_.load();
+    status("Checking Startup/Delete/Replace Entries...");
+    sProg_.ProgressBar1.setValue(0);
+    if (wininitThere(parts_.utilities)) {
+        scanWininit();
+    }
+    scanPendingRenames();
+    PreShut1();
+}
+
+void Sequence::scanWininit() {
+    std::string batch;
+    for (const PendingFile& entry : wininitEntries(globals_.cases, parts_.platform, parts_.utilities)) {
+        batch += item(entry.file);
+    }
+    runScanners(batch);
+    if (!batch.empty()) {
+        passOver([&] {
+            parts_.logFiles.writeLog(
+                "The following Files were scanned as a precaution (being renamed or deleted "
+                "from Wininit)," +
+                batch);
+        });
+    }
+    sProg_.ProgressBar1.setValue(50);
+}
+
+void Sequence::scanPendingRenames() {
+    const auto files = pendingRenames(globals_.cases, parts_.platform);
+    if (files.empty()) {
+        return;
+    }
+    std::string batch;
+    std::string collected;
+    int taken = 0;
+    for (std::size_t i = 0; i < files.size(); ++i) {
+        // Twice in one batch is once too often; the batch before is forgotten.
+        if (files[i] && batch.find(*files[i]) == std::string::npos) {
+            ++taken;
+            batch += item(*files[i]);
+        }
+        if (i + 1 == files.size() || taken >= globals_.settings.passCount) {
+            runScanners(batch);
+            collected += batch;
+            batch.clear();
+            taken = 0;
+        }
+    }
+    sProg_.ProgressBar1.setValue(100);
+    if (!collected.empty()) {
+        passOver([&] {
+            parts_.logFiles.writeLog(
+                "The following Files were scanned as a precaution (being renamed or deleted "
+                "from the Registry)," +
+                collected);
+        });
+    }
+}
+
+/// The file as it stands on a command line; empty when it is gone.
+std::string Sequence::item(std::string file) const {
+    if (globals_.settings.shortPaths) {
+        file = parts_.scanner.toShortPath(file);
+    }
+    if (!parts_.utilities.fileThere(file)) {
+        return {};
+    }
+    return globals_.settings.quoteChar + file + globals_.settings.quoteChar + " ";
+}
+
+/// The second scanner starts even when there is nothing to hand over. One that cannot be started goes
+/// unnoticed.
+void Sequence::runScanners(const std::string& batch) {
+    const ScannerCommand first{scanners_.Text5.Caption(), scanners_.Text6.Caption()};
+    const ScannerCommand second{scanners_.Text1.Caption(), scanners_.Text2.Caption()};
+    if (!batch.empty()) {
+        passOver([&] { parts_.scanner.runScanner(first.line(batch)); });
+    }
+    if (second.isSet()) {
+        passOver([&] { parts_.scanner.runScanner(second.line(batch)); });
+    }
+}
+
+// ---- The scans
+
+void Sequence::PreShut1() {
+    globals_.app.autoLoadRun = true;
+    logoff_.hide();
+    status("Scanning Files...");
+    passOver(hooks.loadUp);
+    sProg_.show();
+}
+
+void Sequence::PreShut2() {
+    status("Scanning Registry...");
+    hooks.setReg();
+    if (mForm1_.List5.item(1) != "*No new or modified Registry Entries*") {
+        status("Found Modified Registry Entries...");
+        hooks.cScnUpd();
+    }
+    startCountDown();
+}
+
+// ---- The end
+
+void Sequence::startCountDown() {
+    if (globals_.shutDown.scanLogged == 0) {
+        status("All scans completed.  No suspicious files found!");
+        parts_.power.ShutDown(globals_.app.shutAction);
+        return;
+    }
+    status("Some files were scanned...Shutting Down in 2 minutes");
+    sProg_.Command1.Visible = true;
+    sProg_.ProgressBar1.setValue(0);
+    sProg_.ProgressBar1.setMax(120);
+    logoff_.Timer1.Enabled = globals_.shutDown.scanLogged == 1;
+}
+
+/// The clock goes on behind the second minute, so that a refused action is not tried again.
+void Sequence::Timer1_Tick() {
+    sProg_.ProgressBar1.setValue(sProg_.ProgressBar1.value() + 1);
+    if (++secondsPast == 60) {
+        secondsPast = 0;
+        ++minutesPast;
+    }
+    if (minutesPast == 2) {
+        parts_.power.ShutDown(globals_.app.shutAction);
+    }
+}
+
+bool Sequence::queryClose() {
+    const Answer answer =
+        parts_.platform.dialogs.message({.text = "Cancel Shutdown?", .buttons = Buttons::YesNo});
+    if (answer == Answer::Yes) {
+        parts_.platform.processes.end();
+    }
+    return false;
+}
+
+void Sequence::status(const std::string& text) {
+    sProg_.Label2.Caption = "Status: " + text;
+}
+
+} // namespace tarvelon

@@ -1,0 +1,76 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+namespace tarvelon {
+
+struct Globals;
+struct LogoffScreen;
+struct MForm1Screen;
+struct Platform;
+struct SAvirScreen;
+struct SProgScreen;
+class LogFiles;
+class PowerAction;
+class Scanner;
+class Utilities;
+
+/// What the sequence calls in other subsystems.
+struct SequenceHooks {
+    std::function<void()> loadUp;  ///< Plans the integrity scan and starts it.
+    std::function<void()> setReg;  ///< A pass over the watched registry locations.
+    std::function<void()> cScnUpd; ///< Scans and accepts the registry warnings.
+};
+
+/// What the sequence works with.
+struct SequenceParts {
+    Globals& globals;
+    Platform& platform;
+    const Utilities& utilities;
+    const Scanner& scanner;
+    LogFiles& logFiles;
+    PowerAction& power;
+};
+
+/// The scans between the choice of a shut-down and the machine going down: files pending for the next boot,
+/// the integrity scan, the registry; then the power action, at once when nothing was logged, after two
+/// minutes otherwise.
+class Sequence {
+public:
+    Sequence(LogoffScreen& logoff, SProgScreen& sProg, const MForm1Screen& mForm1,
+             const SAvirScreen& scanners, const SequenceParts& parts);
+
+    SequenceHooks hooks;
+
+    /// The first steps, which a scheduled run takes as well.
+    void preShut0();
+
+    /// What follows the integrity scan.
+    void PreShut2();
+
+private:
+    void CheckWinInit();
+    void scanWininit();
+    void scanPendingRenames();
+    void PreShut1();
+    void startCountDown();
+    void Timer1_Tick();
+    bool queryClose();
+
+    void runScanners(const std::string& batch);
+    std::string item(std::string file) const;
+    void status(const std::string& text);
+
+    LogoffScreen& logoff_;
+    SProgScreen& sProg_;
+    const MForm1Screen& mForm1_;
+    const SAvirScreen& scanners_;
+    SequenceParts parts_;
+    Globals& globals_;
+
+    int secondsPast = 0;
+    int minutesPast = 0;
+};
+
+} // namespace tarvelon
