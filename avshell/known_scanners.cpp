@@ -4,6 +4,12 @@
 
 namespace tarvelon {
 
+using namespace std::string_literals;
+
+std::string scannerBoxFilter() {
+    return "Executable Files (*.exe, *.com)\0*.EXE;*.COM\0All Files (*.*)\0*.*\0\0"s;
+}
+
 ScannerFamily scannerFamily(const CaseRules& cases, const std::string& path) {
     if (cases.find(path, "NAVW") != std::string::npos) {
         return ScannerFamily::Navw;

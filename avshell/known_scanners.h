@@ -31,6 +31,10 @@ inline constexpr std::array<KnownScanner, 16> knownScanners{
      {"Panda 7.0 Platinum (All-OS)", "Pavcl.com"},
      {"Sophos Anti Virus (All-OS)", "sweep.exe"}}};
 
+/// The file box in which the user picks a scanner.
+inline constexpr const char* scannerBoxTitle = "Choose Anti-Virus Executable File";
+std::string scannerBoxFilter();
+
 enum class ScannerFamily { Navw, Pavcl, Other };
 
 /// By a part of the program's path, whatever its case; a folder's name counts as well.

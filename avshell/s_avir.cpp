@@ -11,14 +11,6 @@
 
 namespace tarvelon {
 
-namespace {
-
-using namespace std::string_literals;
-
-const std::string executables = "Executable Files (*.exe, *.com)\0*.EXE;*.COM\0All Files (*.*)\0*.*\0\0"s;
-
-} // namespace
-
 SAvir::SAvir(SAvirScreen& screen, Globals& globals, Platform& platform, SettingsFile& settings,
              const Utilities& utilities)
     : screen_(screen)
@@ -59,7 +51,7 @@ void SAvir::fill(const char* request, Control& exe, Control& args) {
 
 /// The file that the user picks, or empty.
 std::string SAvir::choose() const {
-    const std::string file = utilities_.openFileBox("Choose Anti-Virus Executable File", executables);
+    const std::string file = utilities_.openFileBox(scannerBoxTitle, scannerBoxFilter());
     return file.substr(0, file.find('\0'));
 }
 

@@ -97,6 +97,7 @@ enum class TextStyle {
     Hint,    ///< Explanations: quieter than the texts around them.
     Caption, ///< Names the picture above it: centred.
     Link,    ///< Opens something elsewhere: underlined, with a hand under the mouse.
+    Step,    ///< Plain text that is pressed; its colour and underline are all its look.
     Action,  ///< A label that is clicked like a button: drawn with a face that lights up under the mouse.
 };
 
@@ -108,8 +109,14 @@ public:
     TextStyle style() const { return style_; }
 
     Property<Color, Control, Aspect::TextColor> ForeColor{*this, colors::black};
+    Property<bool, Control, Aspect::TextColor> Underlined{*this, false};
 
+    Screen::Handler onMouseDown;
+    /// The mouse button is up again, in front of the click.
+    Screen::Handler onMouseUp;
     Screen::Handler onClick;
+    void mouseDown() { raise(onMouseDown); }
+    void mouseUp() { raise(onMouseUp); }
     void click();
 
 private:

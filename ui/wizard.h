@@ -1,0 +1,77 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace tarvelon {
+
+class Control;
+class Label;
+struct Globals;
+struct Platform;
+struct SAvirScreen;
+struct WizardScreen;
+class Scanner;
+class SettingsFile;
+class Utilities;
+
+/// What the wizard calls beside itself.
+struct WizardHooks {
+    std::function<void()> showCatalogue;  ///< For the first scanner.
+    std::function<void()> createAutoLoad; ///< Makes the log-on shortcut in the way that is set.
+    std::function<void()> cCreateSS;      ///< Makes the shut-down shortcut, with its questions.
+};
+
+/// What the wizard works with.
+struct WizardParts {
+    Globals& globals;
+    Platform& platform;
+    SettingsFile& settings;
+    const Utilities& utilities;
+    const Scanner& scanner;
+    SAvirScreen& scanners;
+};
+
+/// Walks a new user through the main settings. Nothing is written before the last page's Save.
+class Wizard {
+public:
+    Wizard(WizardScreen& screen, const WizardParts& parts);
+
+    WizardHooks hooks;
+
+    /// Opens the wizard on its first page, with the settings as they are.
+    void LoadUp();
+
+    /// Hides the controls of all pages and shows the way on and back.
+    void norms();
+
+    /// Shows the page whose number is set.
+    void NextFrame();
+
+private:
+    /// The label that the mouse is on, or what was done with it last.
+    enum Hover : std::int16_t { None = 0, Back = 1, Cancel = 2, Next = 3, Released = 6 };
+
+    void bind();
+    void bindStep(Label& label, Hover number);
+    void light(const Label* lit);
+    void showPage(const char* title, const std::string& text, const std::vector<Control*>& controls);
+    void showLastPage();
+
+    void next();
+    void cancel();
+    void locate_Click();
+    void Command2_Click();
+
+    WizardScreen& screen_;
+    WizardParts parts_;
+    Globals& globals_;
+
+    std::int16_t page_ = 0;      ///< 0 to 8.
+    std::int32_t startTime_ = 0; ///< Whole seconds since midnight.
+    Hover hover_ = None;
+};
+
+} // namespace tarvelon
