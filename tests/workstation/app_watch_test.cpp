@@ -2,6 +2,8 @@
 
 #include "tests/workstation/session.h"
 
+#include <algorithm>
+
 namespace tarvelon {
 namespace {
 
