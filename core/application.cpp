@@ -67,7 +67,9 @@ void Application::bindHooks() {
     mainForm.hooks = {.loadSettings = [this] { settingsPages.loadSettings(); },
                       .showCustomFolders = [this] { iCust.show(); },
                       .showScanners = [this] { s_avir.show(); },
-                      .regPageOpened = [this] { regPage.Image7_Opened(); }};
+                      .regPageOpened = [this] { regPage.Image7_Opened(); },
+                      .advancedPageOpened = [this] { advancedPage.opened(); }};
+    mForm1.cCreateSS.onClick = [this] { ownShortcuts.cCreateSS_Click(); };
     scannerChoice.hooks.showHelp = [this](bool forSecond) { scannerCatalogue.show(forSecond); };
     logBrowser.norms2 = [this] { mainForm.norms2(); };
     snapshotFile.setReg = [this] { detection.setReg(); };

@@ -31,9 +31,12 @@
 #include "shutdown/power_action.h"
 #include "shutdown/sequence.h"
 #include "shutdown/sprog_screen.h"
+#include "ui/advanced_page.h"
 #include "ui/mform1.h"
 #include "ui/mform1_screen.h"
+#include "ui/own_shortcuts.h"
 #include "ui/settings_pages.h"
+#include "ui/speed_comparison.h"
 
 #include <vector>
 
@@ -89,7 +92,10 @@ public:
         intCheck, {globals, platform, settingsFile, checksum, dataFile, utilities, scanner, logFiles}};
     FolderScanPage folderScanPage{mForm1,
                                   {globals, platform, settingsFile, checksum, dataFile, baseline, utilities}};
-    SettingsPages settingsPages{mForm1, s_avir, globals, platform, settingsFile, utilities};
+    OwnShortcuts ownShortcuts{globals, platform, utilities};
+    SettingsPages settingsPages{mForm1, s_avir, globals, platform, settingsFile, utilities, ownShortcuts};
+    AdvancedPage advancedPage{mForm1, globals, platform, settingsFile, checksum};
+    SpeedComparison speedComparison{mForm1, globals, platform, checksum};
     MForm1 mainForm{mForm1, globals.app, platform};
     ICust customFolders{iCust, {globals, platform, settingsFile, checksum, utilities}};
     StartUp startUp{globals, platform, settingsFile, utilities};

@@ -75,6 +75,7 @@ void MForm1::bindPages() {
         screen_.settF.Visible = true;
         screen_.qSett.Visible = false;
         screen_.advF.Visible = true;
+        hooks.advancedPageOpened();
     };
     screen_.cCancelSett.onClick = [this] { backToOptions(screen_.settF); };
     screen_.cButton1.onClick = screen_.cCancelSett.onClick;
@@ -84,12 +85,14 @@ void MForm1::bindHover() {
     for (Frame* frame : {&screen_.settF, &screen_.qSett, &screen_.Frame2}) {
         frame->onMouseMove = [this] { norms(); };
     }
-    const auto resetAdvanced = [this] {
+    screen_.Frame1.onMouseMove = [this] {
         screen_.cSave2.downStatus(1);
+        screen_.cSpeeds.downStatus(1);
+    };
+    screen_.advF.onMouseMove = [this] {
+        screen_.Frame1.onMouseMove();
         screen_.cButton1.downStatus(1);
     };
-    screen_.advF.onMouseMove = resetAdvanced;
-    screen_.Frame1.onMouseMove = [this] { screen_.cSave2.downStatus(1); };
 }
 
 /// On a flat button this does nothing, so the check boxes are all that need it.

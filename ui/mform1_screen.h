@@ -1,9 +1,13 @@
 #pragma once
 
+#include "ui/controls/bar_chart.h"
 #include "ui/controls/controls.h"
 #include "ui/controls/tree.h"
 
 #include <array>
+#include <cstdint>
+#include <string_view>
+#include <utility>
 
 namespace tarvelon {
 
@@ -13,13 +17,11 @@ struct MForm1Screen : Screen {
     MForm1Screen()
         : Screen("Welcome to Tarvelon", 760, 488) {
         Label1.Visible = false;
+        Label1.ForeColor = colors::warningRed;
         Label19.Visible = false;
         Label26.Visible = false;
         txtTitle.Caption = "No Window Selected";
-        // What they open comes with the settings, the wizard and the log browser.
-        for (FlatButton* button : {&cSetW, &cCreateSS, &cSave, &cSave2}) {
-            button->Enabled = false;
-        }
+        cSetW.Enabled = false; // What it opens comes with the wizard.
     }
 
     // Navigation column.
@@ -141,38 +143,45 @@ struct MForm1Screen : Screen {
     FlatCheck Check17{qSett, "SCR,PIF", at(384, 284, 200, 24)};
 
     Frame advF{settF, at(0, 0, 600, 488), false};
-    Label Label22{advF, "Tarvelon Integrity Checker Read Buffer:", at(16, 16, 568, 20)};
-    Frame bufferGroup{advF, at(16, 36, 568, 28)};
-    OptionButton Option1{bufferGroup, "64 Kb", at(0, 2, 96, 24)};
-    OptionButton Option2{bufferGroup, "128 Kb", at(104, 2, 96, 24)};
-    OptionButton Option3{bufferGroup, "256 Kb", at(208, 2, 96, 24)};
-    OptionButton Option4{bufferGroup, "512 Kb", at(312, 2, 96, 24)};
-    Frame Frame1{advF, "Pass 'x' Files at a Time (500 is recommended)", at(16, 72, 568, 56)};
-    OptionButton Option5{Frame1, "Pass All Files", at(16, 24, 120, 24)};
-    OptionButton Option6{Frame1, "50", at(152, 24, 64, 24)};
-    OptionButton Option7{Frame1, "100", at(224, 24, 64, 24)};
-    OptionButton Option8{Frame1, "200", at(296, 24, 64, 24)};
-    OptionButton Option9{Frame1, "350", at(368, 24, 64, 24)};
-    OptionButton Option10{Frame1, "500", at(440, 24, 64, 24)};
-    Label Label28{advF, "Anti-Virus Shell Options:", at(16, 140, 568, 20)};
-    CheckBox Check10{advF, "Enclose Files with Quotes", at(16, 160, 568, 24)};
+    Label Label22{advF, "Tarvelon Integrity Checker Read Buffer:", at(16, 16, 248, 24)};
+    Frame bufferGroup{advF, at(264, 16, 320, 24)};
+    OptionButton Option1{bufferGroup, "64 Kb", at(0, 0, 80, 24)};
+    OptionButton Option2{bufferGroup, "128 Kb", at(80, 0, 80, 24)};
+    OptionButton Option3{bufferGroup, "256 Kb", at(160, 0, 80, 24)};
+    OptionButton Option4{bufferGroup, "512 Kb", at(240, 0, 80, 24)};
+    Frame Frame1{advF, "Pass 'x' Files at a Time (500 is recommended)", at(16, 48, 320, 80)};
+    OptionButton Option5{Frame1, "Pass All Files", at(16, 24, 136, 24)};
+    OptionButton Option6{Frame1, "50", at(152, 24, 72, 24)};
+    OptionButton Option7{Frame1, "100", at(232, 24, 72, 24)};
+    OptionButton Option8{Frame1, "200", at(16, 50, 72, 24)};
+    OptionButton Option9{Frame1, "350", at(152, 50, 72, 24)};
+    OptionButton Option10{Frame1, "500", at(232, 50, 72, 24)};
+    Frame Frame3{advF, "Integrity Checker Algorithm:", at(344, 48, 240, 80)};
+    OptionButton Option11{Frame3, "CRC32", at(16, 24, 96, 24)};
+    OptionButton Option12{Frame3, "MD5", at(128, 24, 96, 24)};
+    OptionButton Option13{Frame3, "SHA-1", at(16, 50, 96, 24)};
+    OptionButton Option14{Frame3, "MD4", at(128, 50, 96, 24)};
+    Label Label28{advF, "Anti-Virus Shell Options:", at(16, 136, 568, 20)};
+    CheckBox Check10{advF, "Enclose Files with Quotes", at(16, 156, 240, 24)};
+    Label Label1{advF, "Warning! Current options may cause errors!", at(264, 156, 320, 24)};
     CheckBox Check11{
         advF, "Use ShortPath File Names (For DOS-Based On-Demand Anti-Virus scanners...Example: McAfee)",
-        at(16, 184, 568, 24)};
+        at(16, 180, 568, 24)};
     CheckBox avfocus{advF, "Give anti-virus program Focus (Fixes GUI Errors with AVAST 4)",
-                     at(16, 208, 568, 24)};
-    Label Label1{advF, "Warning! Current options may cause errors!", at(16, 232, 568, 20)};
-    Frame Frame3{advF, "Integrity Checker Algorithm:", at(16, 256, 568, 56)};
-    OptionButton Option11{Frame3, "CRC32", at(16, 24, 96, 24)};
-    OptionButton Option12{Frame3, "MD5", at(120, 24, 96, 24)};
-    OptionButton Option13{Frame3, "SHA-1", at(224, 24, 96, 24)};
-    OptionButton Option14{Frame3, "MD4", at(328, 24, 96, 24)};
-    Label Label30{advF, "Micellaneous:", at(16, 320, 568, 20)};
+                     at(16, 204, 568, 24)};
+    Label Label30{advF, "Micellaneous:", at(16, 232, 96, 24)};
     FlatCheck wsh{advF, "Use Windows Scripting Host (If Auto-Load won't create shortcut/save)",
-                  at(16, 340, 568, 24)};
+                  at(112, 232, 472, 24)};
 
+    // Compare Speeds: the report, and each of its three tests as a chart.
+    ListBox List1{advF, at(16, 264, 328, 168)};
+    Label chartHeading{advF, "Time for each buffer size (Kb):", at(352, 264, 232, 20), TextStyle::Hint};
+    std::array<BarChart, 3> speedChart{{BarChart{advF, "Test 1: 5x", 4, at(352, 288, 72, 144)},
+                                        BarChart{advF, "Test 2: 10x", 4, at(432, 288, 72, 144)},
+                                        BarChart{advF, "Test 3: 100x", 4, at(512, 288, 72, 144)}}};
     FlatButton cSave2{advF, "Save", at(16, 440, 136, 32)};
     FlatButton cButton1{advF, "Cancel", at(160, 440, 136, 32)};
+    FlatButton cSpeeds{advF, "Compare Speeds", at(408, 440, 176, 32)};
 
     // About; the page that shows when the window opens.
     Frame Frame2{*this, at(160, 0, 600, 488)};
@@ -191,6 +200,20 @@ struct MForm1Screen : Screen {
                                              &Check6, &Check9, &Check8, &Check7};
     std::array<FlatCheck*, 6> shutDownChecks{&Check15, &Check14, &Check13, &Check12, &Check16, &Check17};
     std::array<CheckBox*, 3> shellChecks{&Check10, &Check11, &avfocus};
+
+    /// The options of the advanced page, each with what it stands for.
+    template<class Value, std::size_t count>
+    using Choices = std::array<std::pair<OptionButton*, Value>, count>;
+    Choices<std::int32_t, 4> bufferOptions{
+        {{&Option1, 65536}, {&Option2, 131072}, {&Option3, 262144}, {&Option4, 524288}}};
+    Choices<std::int32_t, 6> passOptions{{{&Option5, 99999},
+                                          {&Option6, 50},
+                                          {&Option7, 100},
+                                          {&Option8, 200},
+                                          {&Option9, 350},
+                                          {&Option10, 500}}};
+    Choices<std::string_view, 4> algorithmOptions{
+        {{&Option11, "CRC32"}, {&Option12, "MD5"}, {&Option13, "SHA1"}, {&Option14, "MD4"}}};
 };
 
 } // namespace tarvelon

@@ -5,7 +5,12 @@
 #include "core/globals.h"
 #include "core/settings_file.h"
 #include "core/utilities.h"
+#include "platform/dialogs.h"
+#include "platform/files.h"
+#include "platform/platform.h"
+#include "ui/join_values.h"
 #include "ui/mform1_screen.h"
+#include "ui/own_shortcuts.h"
 #include "ui/shortcuts.h"
 
 #include <cstdint>
@@ -40,13 +45,17 @@ void fillScanner(const std::string& setting, Control& exe, Control& args) {
 } // namespace
 
 SettingsPages::SettingsPages(MForm1Screen& screen, SAvirScreen& scanners, Globals& globals,
-                             Platform& platform, SettingsFile& settings, const Utilities& utilities)
+                             Platform& platform, SettingsFile& settings, const Utilities& utilities,
+                             OwnShortcuts& shortcuts)
     : screen_(screen)
     , scanners_(scanners)
     , globals_(globals)
     , platform_(platform)
     , settings_(settings)
-    , utilities_(utilities) {}
+    , utilities_(utilities)
+    , shortcuts_(shortcuts) {
+    screen_.cSave.onClick = [this] { cSave_Click(); };
+}
 
 void SettingsPages::loadSettings() {
     passOver([this] {
@@ -101,6 +110,24 @@ bool SettingsPages::loadShellOptions() {
     globals_.settings.quoteChar = screen_.Check10.value() != 0 ? "\"" : "";
     globals_.settings.shortPaths = screen_.Check11.value() != 0;
     return true;
+}
+
+/// Every save starts from no shortcut, so that an old one is never left in place of a new one. Whether the
+/// shortcut and the settings reached the disk is not looked at.
+void SettingsPages::cSave_Click() {
+    settings_.checkSettFile();
+    const std::string shortcut = autoLoadShortcut(platform_);
+    if (utilities_.fileThere(shortcut)) {
+        platform_.files.remove(shortcut);
+    }
+    if (screen_.Check1.value() == 1) {
+        shortcuts_.createAutoLoad();
+    }
+    const std::string& file = globals_.app.settFile;
+    settings_.writeEntry(file, "settings", joinValues(screen_.autoLoadChecks), "Tarvelon");
+    settings_.writeEntry(file, "settings2", joinValues(screen_.shutDownChecks), "Tarvelon");
+    globals_.settings.autoScanFailed = screen_.Check8.value() == 1;
+    platform_.dialogs.message({.text = "Settings Saved Successfully"});
 }
 
 } // namespace tarvelon

@@ -8,6 +8,7 @@ struct Globals;
 struct MForm1Screen;
 struct Platform;
 struct SAvirScreen;
+class OwnShortcuts;
 class SettingsFile;
 class Utilities;
 
@@ -15,7 +16,7 @@ class Utilities;
 class SettingsPages {
 public:
     SettingsPages(MForm1Screen& screen, SAvirScreen& scanners, Globals& globals, Platform& platform,
-                  SettingsFile& settings, const Utilities& utilities);
+                  SettingsFile& settings, const Utilities& utilities, OwnShortcuts& shortcuts);
 
     /// Fills both pages, the scanner fields and every global that depends on the settings from the settings
     /// file. A list with fewer positions leaves the rest as it is. A value that cannot be taken ends the
@@ -23,6 +24,7 @@ public:
     void loadSettings();
 
 private:
+    void cSave_Click();
     bool loadAutoLoad();
     bool loadAdvanced();
     bool loadShellOptions();
@@ -33,6 +35,7 @@ private:
     Platform& platform_;
     SettingsFile& settings_;
     const Utilities& utilities_;
+    OwnShortcuts& shortcuts_;
 };
 
 } // namespace tarvelon

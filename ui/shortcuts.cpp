@@ -3,6 +3,7 @@
 #include "core/text.h"
 #include "platform/folders.h"
 #include "platform/platform.h"
+#include "platform/shortcuts.h"
 
 namespace tarvelon {
 
@@ -29,6 +30,33 @@ std::string getStartupFolder(Platform& platform) {
 
 std::string autoLoadShortcut(Platform& platform) {
     return withBackslash(getStartupFolder(platform)) + "Tarvelon.lnk";
+}
+
+bool makeShortcut(Platform& platform, const std::string& linkPath, const std::string& target,
+                  const std::string& workDir, const std::string& args, const std::string& iconFile,
+                  std::int32_t iconIndex, std::int32_t showCmd) {
+    constexpr std::uint32_t updateThePath = 4;
+    if (linkPath.empty() || target.empty()) {
+        return false;
+    }
+    return platform.shortcuts.saveShellLink(linkPath, {.path = target,
+                                                       .workingDirectory = workDir,
+                                                       .arguments = args,
+                                                       .description = std::string("Access Shortcut") + '\0',
+                                                       .iconFile = iconFile,
+                                                       .iconIndex = iconIndex,
+                                                       .showCmd = showCmd,
+                                                       .resolveFlags = updateThePath});
+}
+
+bool makeShortcutWsh(Platform& platform, const CaseRules& cases, const std::string& linkPath,
+                     const std::string& description, const std::string& target, const std::string& args,
+                     std::int32_t windowStyle) {
+    const std::string ending = cases.lower(lastCharacters(linkPath, 4));
+    const bool isLink = ending == ".lnk" || ending == ".url";
+    return platform.shortcuts.saveScripted(
+        isLink ? linkPath : linkPath + ".lnk",
+        {.arguments = args, .description = description, .targetPath = target, .windowStyle = windowStyle});
 }
 
 } // namespace tarvelon

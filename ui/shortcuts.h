@@ -1,9 +1,11 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 namespace tarvelon {
 
+class CaseRules;
 struct Platform;
 
 /// The folder whose shortcuts start at log-on, without a trailing backslash; empty when the system names
@@ -12,5 +14,17 @@ std::string getStartupFolder(Platform& platform);
 
 /// Where the shortcut lies that is the Auto-Load setting.
 std::string autoLoadShortcut(Platform& platform);
+
+/// Makes a link file through the system's shell-link object. `workDir`, `args` and `iconFile` may be empty.
+/// False when the link's path or its target is empty, or when the system refuses.
+bool makeShortcut(Platform& platform, const std::string& linkPath, const std::string& target,
+                  const std::string& workDir, const std::string& args, const std::string& iconFile,
+                  std::int32_t iconIndex, std::int32_t showCmd);
+
+/// Makes a link file through the scripting host, with ".lnk" added to a path that ends in neither ".lnk" nor
+/// ".url". `args` may be empty. False when there is no scripting host, or when it refuses.
+bool makeShortcutWsh(Platform& platform, const CaseRules& cases, const std::string& linkPath,
+                     const std::string& description, const std::string& target, const std::string& args,
+                     std::int32_t windowStyle = 0);
 
 } // namespace tarvelon

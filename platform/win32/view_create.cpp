@@ -1,3 +1,4 @@
+#include "platform/win32/view_chart.h"
 #include "platform/win32/view_edit.h"
 #include "platform/win32/view_frame.h"
 #include "platform/win32/view_label.h"
@@ -15,7 +16,8 @@ std::unique_ptr<ControlWindow> makeControlWindow(FormWindow& form, Control& cont
         return std::make_unique<FrameWindow>(form, static_cast<Frame&>(control));
     case ControlKind::Label: {
         auto& label = static_cast<Label&>(control);
-        if (label.style() == TextStyle::Action || label.style() == TextStyle::Link) {
+        if (label.style() == TextStyle::Action || label.style() == TextStyle::Link ||
+            label.style() == TextStyle::Step) {
             return std::make_unique<ActionWindow>(form, label);
         }
         return std::make_unique<LabelWindow>(form, label);
@@ -40,6 +42,8 @@ std::unique_ptr<ControlWindow> makeControlWindow(FormWindow& form, Control& cont
         return std::make_unique<ComboBoxWindow>(form, static_cast<ComboBox&>(control));
     case ControlKind::ProgressBar:
         return std::make_unique<ProgressBarWindow>(form, static_cast<ProgressBar&>(control));
+    case ControlKind::BarChart:
+        return std::make_unique<BarChartWindow>(form, static_cast<BarChart&>(control));
     case ControlKind::Picture:
         return std::make_unique<PictureWindow>(form, static_cast<Picture&>(control));
     case ControlKind::Tree:

@@ -24,6 +24,7 @@ enum class ControlKind {
     Tree,
     ComboBox,
     ProgressBar,
+    BarChart,
     Timer,
 };
 

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "platform/win32/view_control.h"
+#include "ui/controls/bar_chart.h"
+
+namespace tarvelon {
+
+class BarChartWindow : public ControlWindow {
+public:
+    BarChartWindow(FormWindow& form, BarChart& chart)
+        : ControlWindow(form, chart)
+        , chart_(chart) {}
+
+protected:
+    Kind kind() const override;
+    void paint(Canvas& canvas) override;
+
+private:
+    void paintBar(Canvas& canvas, const RECT& slot, int index) const;
+
+    BarChart& chart_;
+};
+
+} // namespace tarvelon

@@ -1,0 +1,86 @@
+#include "ui/advanced_page.h"
+
+#include "core/globals.h"
+#include "core/settings_file.h"
+#include "hash/checksum.h"
+#include "platform/dialogs.h"
+#include "platform/platform.h"
+#include "ui/join_values.h"
+#include "ui/mform1_screen.h"
+
+#include <string>
+
+namespace tarvelon {
+
+namespace {
+
+template<class Choices, class Value>
+void choose(const Choices& choices, const Value& value) {
+    for (const auto& [option, meaning] : choices) {
+        option->setValue(meaning == value);
+    }
+}
+
+/// The value stays as it is when no option is chosen.
+template<class Choices, class Value>
+void takeChosen(const Choices& choices, Value& value) {
+    for (const auto& [option, meaning] : choices) {
+        if (option->value()) {
+            value = meaning;
+        }
+    }
+}
+
+/// A click on one of the two boxes decides about the warning. While the other is ticked, clearing the clicked
+/// one leaves the warning as it is.
+void showWarning(const CheckBox& clicked, const CheckBox& other, Label& warning) {
+    if (clicked.value() != 0) {
+        warning.Visible = false;
+    } else if (other.value() == 0) {
+        warning.Visible = true;
+    }
+}
+
+} // namespace
+
+AdvancedPage::AdvancedPage(MForm1Screen& screen, Globals& globals, Platform& platform, SettingsFile& settings,
+                           Checksum& checksum)
+    : screen_(screen)
+    , globals_(globals)
+    , platform_(platform)
+    , settings_(settings)
+    , checksum_(checksum) {
+    screen_.cSave2.onClick = [this] { cSave2_Click(); };
+    screen_.Check10.onClick = [this] { showWarning(screen_.Check10, screen_.Check11, screen_.Label1); };
+    screen_.Check11.onClick = [this] { showWarning(screen_.Check11, screen_.Check10, screen_.Label1); };
+}
+
+void AdvancedPage::opened() {
+    const Settings& values = globals_.settings;
+    const std::string algorithm = globals_.cases.upper(trim(values.algoName));
+    choose(screen_.bufferOptions, values.readBuffer);
+    choose(screen_.passOptions, values.passCount);
+    choose(screen_.algorithmOptions, values.algoName.empty() ? "CRC32" : algorithm);
+    screen_.wsh.setValue(values.useWsh != 0);
+}
+
+void AdvancedPage::cSave2_Click() {
+    Settings& values = globals_.settings;
+    takeChosen(screen_.bufferOptions, values.readBuffer);
+    takeChosen(screen_.passOptions, values.passCount);
+    takeChosen(screen_.algorithmOptions, values.algoName);
+    checksum_.setDatName();
+    values.useWsh = static_cast<std::int16_t>(screen_.wsh.value());
+
+    settings_.checkSettFile();
+    const auto write = [this](const char* key, const std::string& value) {
+        settings_.writeEntry(globals_.app.settFile, key, value, "Tarvelon");
+    };
+    write("advanced", std::to_string(values.readBuffer) + "," + std::to_string(values.passCount) + "," +
+                          std::to_string(values.useWsh));
+    write("antivirus2", joinValues(screen_.shellChecks));
+    write("algo", values.algoName);
+    platform_.dialogs.message({.text = "Save Success!"});
+}
+
+} // namespace tarvelon

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <string>
+
+namespace tarvelon {
+
+struct Globals;
+struct Platform;
+class Utilities;
+
+/// The two shortcuts that the program makes to itself, in the way that the settings say. A shortcut that
+/// cannot be made is not reported: the user sees it missing and tries the other way.
+class OwnShortcuts {
+public:
+    OwnShortcuts(Globals& globals, Platform& platform, const Utilities& utilities);
+
+    /// The one in the Startup folder, that runs the check at every log-on. The shell-link way leaves a file
+    /// alone that is there already.
+    void createAutoLoad();
+
+    /// Asks where the shortcut that shuts the machine down shall lie, and makes it unless it lies there.
+    void cCreateSS_Click();
+
+private:
+    struct Kind {
+        const char* command;     ///< The program's switch.
+        const char* description; ///< As the scripting host is told.
+    };
+
+    void make(const std::string& linkPath, const Kind& kind);
+    std::string shutDownShortcut();
+    std::string program();
+
+    Globals& globals_;
+    Platform& platform_;
+    const Utilities& utilities_;
+};
+
+} // namespace tarvelon
