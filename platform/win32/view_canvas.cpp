@@ -82,6 +82,16 @@ float lineDistance(Spot from, Spot to, Spot spot) {
     return std::sqrt(x * x + y * y);
 }
 
+/// Distance from the nearest of the straight lines from spot to spot.
+template<class Iterator>
+float polylineDistance(Iterator first, Iterator last, Spot spot) {
+    float nearest = std::numeric_limits<float>::max();
+    for (; last - first > 1; ++first) {
+        nearest = std::min(nearest, lineDistance(first[0], first[1], spot));
+    }
+    return nearest;
+}
+
 } // namespace
 
 Canvas::Canvas(BackBuffer& buffer, Fonts& fonts, Scale scale, int width, int height)
@@ -137,34 +147,40 @@ void Canvas::roundedBox(const RECT& rect, int radius, Color color, Color edge, i
 }
 
 void Canvas::stroke(std::initializer_list<Spot> spots, float thickness, Color color) {
-    const auto distance = [&](Spot spot) {
-        float nearest = std::numeric_limits<float>::max();
-        for (auto end = spots.begin() + 1; end != spots.end(); ++end) {
-            nearest = std::min(nearest, lineDistance(end[-1], *end, spot));
-        }
-        return nearest - thickness / 2;
-    };
-    shape(area(), color, distance);
+    shape(area(), color,
+          [&](Spot spot) { return polylineDistance(spots.begin(), spots.end(), spot) - thickness / 2; });
 }
 
-void Canvas::picture(HICON picture, const RECT& rect, Color color, Color ground) {
-    // White on black, each pixel's brightness is how much of it the picture covers.
-    fill(rect, colors::black);
-    DrawIconEx(dc(), rect.left, rect.top, picture, widthOf(rect), heightOf(rect), 0, nullptr, DI_NORMAL);
-    GdiFlush();
-    RECT visible;
-    const RECT whole = area();
-    if (!IntersectRect(&visible, &rect, &whole)) {
+void Canvas::drawing(const LineDrawing& drawing, const RECT& rect, Color color) {
+    if (drawing.side <= 0) {
         return;
     }
-    for (int y = visible.top; y < visible.bottom; ++y) {
-        std::uint32_t* row = buffer_.row(y);
-        for (int x = visible.left; x < visible.right; ++x) {
-            const float coverage = static_cast<float>(row[x] & 0xff) / 255;
-            row[x] = pixelFrom(ground);
-            blend(row[x], color, coverage);
+    const float zoom = static_cast<float>(widthOf(rect)) / drawing.side;
+    const auto distance = [&](Spot spot) {
+        const Spot there{(spot.x - static_cast<float>(rect.left)) / zoom,
+                         (spot.y - static_cast<float>(rect.top)) / zoom};
+        float nearest = std::numeric_limits<float>::max();
+        for (const std::vector<Spot>& line : drawing.lines) {
+            nearest = std::min(nearest, polylineDistance(line.begin(), line.end(), there));
         }
-    }
+        return (nearest - drawing.thickness / 2) * zoom;
+    };
+    shape(rect, color, distance);
+}
+
+void Canvas::ring(Spot middle, float radius, float thickness, Color color) {
+    shape(area(), color, [&](Spot spot) {
+        return std::fabs(std::hypot(spot.x - middle.x, spot.y - middle.y) - radius) - thickness / 2;
+    });
+}
+
+void Canvas::glow(Spot middle, float radius, float width, Color color) {
+    constexpr float brightest = 0.75F;
+    shape(area(), color, [&](Spot spot) {
+        const float away = std::hypot(spot.x - middle.x, spot.y - middle.y) - radius;
+        const float left = std::clamp(1 - away / width, 0.0F, 1.0F);
+        return 0.5F - brightest * left * left;
+    });
 }
 
 int Canvas::textWidth(const std::string& text, const TextLook& look) {

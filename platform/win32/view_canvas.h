@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/win32/view_fonts.h"
+#include "platform/win32/view_lines.h"
 #include "platform/win32/view_scale.h"
 #include "platform/win32/view_theme.h"
 #include "platform/win32/windows_api.h"
@@ -45,11 +46,6 @@ struct TextLook {
     bool mnemonics = false; ///< "&&" shows as one "&", as captions of buttons have it.
 };
 
-struct Spot {
-    float x;
-    float y;
-};
-
 /// Draws one control, from its top left corner on, with smooth edges.
 class Canvas {
 public:
@@ -65,8 +61,11 @@ public:
     void roundedBox(const RECT& rect, int radius, Color color, Color edge, int thickness);
     /// Straight lines from spot to spot, with round ends.
     void stroke(std::initializer_list<Spot> spots, float thickness, Color color);
-    /// Draws a white picture in another colour, on a ground of one colour.
-    void picture(HICON picture, const RECT& rect, Color color, Color ground);
+    /// Fills the square of the rectangle's width with the drawing.
+    void drawing(const LineDrawing& drawing, const RECT& rect, Color color);
+    void ring(Spot middle, float radius, float thickness, Color color);
+    /// Light around a disc, that fades towards `width` pixels from it.
+    void glow(Spot middle, float radius, float width, Color color);
 
     /// Draws the text in the middle of the rectangle's height; a rectangle with room for three lines or more
     /// is filled from its top. Text that does not fit into one line is first set a little smaller, then

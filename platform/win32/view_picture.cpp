@@ -2,6 +2,10 @@
 
 #include "platform/win32/view_form.h"
 
+#include <windowsx.h>
+
+#include <algorithm>
+#include <cmath>
 #include <string_view>
 
 namespace tarvelon {
@@ -9,63 +13,142 @@ namespace tarvelon {
 namespace {
 
 constexpr std::string_view litEnding = "-lit";
+constexpr int haloWidth = 12; ///< Around the disc, for light and focus.
+
+/// The drawing out of the program's resources; nothing when there is none of that name.
+LineDrawing drawingNamed(const std::string& name) {
+    const HMODULE program = GetModuleHandleA(nullptr);
+    const HRSRC found = FindResourceA(program, name.c_str(), RT_RCDATA);
+    const HGLOBAL loaded = found ? LoadResource(program, found) : nullptr;
+    const auto* source = static_cast<const char*>(loaded ? LockResource(loaded) : nullptr);
+    return source ? readLineDrawing({source, SizeofResource(program, found)}) : LineDrawing{};
+}
+
+std::string plainName(const std::string& name) {
+    return name.ends_with(litEnding) ? name.substr(0, name.size() - litEnding.size()) : name;
+}
+
+/// The largest square in the middle of the area.
+RECT squareIn(const RECT& area) {
+    const int side = std::min(widthOf(area), heightOf(area));
+    const int left = (widthOf(area) - side) / 2;
+    const int top = (heightOf(area) - side) / 2;
+    return {left, top, left + side, top + side};
+}
+
+Spot middleOf(const RECT& rect) {
+    return {static_cast<float>(rect.left + rect.right) / 2, static_cast<float>(rect.top + rect.bottom) / 2};
+}
 
 } // namespace
 
-void Drawing::load(const std::string& name, int size) {
-    forget();
-    picture_ = static_cast<HICON>(
-        LoadImageA(GetModuleHandleA(nullptr), name.c_str(), IMAGE_ICON, size, size, LR_DEFAULTCOLOR));
+PictureWindow::PictureWindow(FormWindow& form, Picture& picture)
+    : PressWindow(form, picture)
+    , picture_(picture)
+    , lit_(picture.image().ends_with(litEnding))
+    , drawing_(drawingNamed(plainName(picture.image()))) {}
+
+ControlWindow::Kind PictureWindow::kind() const {
+    return {"BUTTON", BS_OWNERDRAW | (lit_ ? 0UL : WS_TABSTOP)};
 }
 
-void Drawing::forget() {
-    if (picture_) {
-        DestroyIcon(picture_);
-        picture_ = nullptr;
+const Face& PictureWindow::face() const {
+    const std::string name = plainName(picture_.image());
+    if (name == "standby") {
+        return theme().standby;
     }
-}
-
-bool PictureWindow::isLit() const {
-    return std::string_view(picture_.image()).ends_with(litEnding);
-}
-
-void PictureWindow::arranged() {
-    const std::size_t nameLength = picture_.image().size() - (isLit() ? litEnding.size() : 0);
-    drawing_.load(picture_.image().substr(0, nameLength), scale()(48));
+    if (name == "turnoff") {
+        return theme().turnOff;
+    }
+    return name == "restart" ? theme().restart : theme().button;
 }
 
 LRESULT PictureWindow::handle(UINT message, WPARAM wide, LPARAM low) {
+    if (message == WM_NCHITTEST) {
+        // The corners around the disc belong to what lies under the window.
+        return isOnDisc({GET_X_LPARAM(low), GET_Y_LPARAM(low)}) ? HTCLIENT : HTTRANSPARENT;
+    }
     const LRESULT result = PressWindow::handle(message, wide, low);
-    if (message == WM_SETFOCUS && picture_.onFocus) {
-        picture_.screen().dispatch(picture_.onFocus);
+    if (message == WM_KILLFOCUS) {
+        focusMoved();
+    } else if (message == WM_SETFOCUS) {
+        const HWND plain = lit_ ? plainBelow() : nullptr;
+        if (plain) {
+            SetFocus(plain);
+            return result;
+        }
+        focusMoved();
+        if (picture_.onFocus) {
+            picture_.screen().dispatch(picture_.onFocus);
+        }
     }
     return result;
 }
 
+bool PictureWindow::isOnDisc(POINT onDesktop) const {
+    RECT area;
+    GetWindowRect(window(), &area);
+    const Spot middle = middleOf(area);
+    const int radius = std::min(widthOf(area), heightOf(area)) / 2 - scale()(haloWidth);
+    return std::hypot(static_cast<float>(onDesktop.x) - middle.x,
+                      static_cast<float>(onDesktop.y) - middle.y) <= static_cast<float>(radius);
+}
+
+bool PictureWindow::isSamePlace(HWND other) const {
+    const ControlWindow* found = ControlWindow::from(other);
+    return found && found->control().kind() == ControlKind::Picture &&
+           found->control().frame() == picture_.frame() && found->control().place() == picture_.place();
+}
+
+HWND PictureWindow::plainBelow() const {
+    HWND below = GetWindow(window(), GW_HWNDNEXT);
+    while (below && !(isSamePlace(below) && IsWindowVisible(below) && IsWindowEnabled(below))) {
+        below = GetWindow(below, GW_HWNDNEXT);
+    }
+    return below;
+}
+
+void PictureWindow::focusMoved() const {
+    // The ring shows on whichever of the windows in this place lies on top.
+    const RECT place = scale()(picture_.place());
+    RedrawWindow(GetParent(window()), &place, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+}
+
 void PictureWindow::paint(Canvas& canvas) {
     const Scale& scaled = canvas.scale();
-    const RECT area = canvas.area();
-    const Face& face = theme().button;
-    const Color plain = isLit() ? face.hovered : faceColor(face);
-    const Color ground = isHeld() ? face.pressed : plain;
-    const Color edge = theme().highContrast || isLit() ? theme().focus : ground;
-    canvas.roundedBox(area, scaled(16), ground, edge, scaled(isLit() ? 3 : 1));
-    const int size = scaled(48);
-    const int left = (widthOf(area) - size) / 2;
-    const int top = (heightOf(area) - size) / 2;
-    if (drawing_.get()) {
-        canvas.picture(drawing_.get(), {left, top, left + size, top + size},
-                       theme().highContrast ? face.border : colors::white, ground);
+    const bool contrast = theme().highContrast;
+    const int halo = scaled(haloWidth);
+    const RECT disc = inset(squareIn(canvas.area()), halo, halo);
+    const int radius = widthOf(disc) / 2;
+    const Spot middle = middleOf(disc);
+    const auto edge = static_cast<float>(radius);
+    if (lit_ && !contrast) {
+        canvas.glow(middle, edge, static_cast<float>(halo), face().hovered);
     }
-    if (isFocused()) {
-        paintFocus(canvas, inset(area, scaled(8), scaled(8)),
-                   theme().highContrast ? theme().focus : colors::white);
+    Color ground = lit_ ? face().hovered : face().normal;
+    Color lines = contrast ? face().border : colors::white;
+    if (!picture_.isUsable()) {
+        ground = face().disabled;
+    } else if (isHeld()) {
+        ground = face().pressed;
+    }
+    if (contrast && lit_) {
+        ground = theme().selected;
+        lines = theme().selectedText;
+    }
+    canvas.roundedBox(disc, radius, ground, contrast ? face().border : ground, scaled(2));
+    const int margin = widthOf(disc) * 2 / 9;
+    canvas.drawing(drawing_, inset(disc, margin, margin), lines);
+    if (isSamePlace(GetFocus())) {
+        const auto thickness = static_cast<float>(scaled(4)) / 2;
+        canvas.ring(middle, edge + static_cast<float>(halo) / 2, thickness, theme().focus);
     }
 }
 
-void NavButtonWindow::arranged() {
-    drawing_.load(button_.icon(), scale()(32));
-}
+NavButtonWindow::NavButtonWindow(FormWindow& form, NavButton& button)
+    : PressWindow(form, button)
+    , button_(button)
+    , drawing_(drawingNamed(button.icon())) {}
 
 void NavButtonWindow::paint(Canvas& canvas) {
     const Scale& scaled = canvas.scale();
@@ -88,9 +171,7 @@ void NavButtonWindow::paint(Canvas& canvas) {
     const int gap = scaled(4);
     const int left = (widthOf(area) - size) / 2;
     const int top = (heightOf(area) - size - gap - line) / 2;
-    if (drawing_.get()) {
-        canvas.picture(drawing_.get(), {left, top, left + size, top + size}, text, ground);
-    }
+    canvas.drawing(drawing_, {left, top, left + size, top + size}, text);
     const RECT caption{scaled(8), top + size + gap, area.right - scaled(8), top + size + gap + line};
     canvas.text(button_.Caption(), caption, {.color = text, .align = Align::Center, .mnemonics = true});
     if (isFocused()) {

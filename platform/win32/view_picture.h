@@ -1,63 +1,47 @@
 #pragma once
 
+#include "platform/win32/view_lines.h"
 #include "platform/win32/view_press.h"
 
 namespace tarvelon {
 
-/// A white drawing out of the program's resources, in the size that the scale asks for.
-class Drawing {
-public:
-    Drawing() = default;
-    Drawing(const Drawing&) = delete;
-    ~Drawing() { forget(); }
-
-    void load(const std::string& name, int size);
-    HICON get() const { return picture_; }
-
-private:
-    void forget();
-
-    HICON picture_ = nullptr;
-};
-
-/// A large button with a drawing on it. "-lit" behind the picture's name stands for the same drawing on a lit
-/// face.
+/// A large round button with a drawing on it. "-lit" behind the picture's name stands for the same button
+/// with light around it: it lies over the plain one and leaves the keyboard to that.
 class PictureWindow : public PressWindow {
 public:
-    PictureWindow(FormWindow& form, Picture& picture)
-        : PressWindow(form, picture)
-        , picture_(picture) {}
+    PictureWindow(FormWindow& form, Picture& picture);
 
 protected:
-    Kind kind() const override { return {"BUTTON", BS_OWNERDRAW | WS_TABSTOP}; }
+    Kind kind() const override;
     LRESULT handle(UINT message, WPARAM wide, LPARAM low) override;
     void click() override { picture_.click(); }
     void paint(Canvas& canvas) override;
-    void arranged() override;
 
 private:
-    bool isLit() const;
+    const Face& face() const;
+    bool isOnDisc(POINT onDesktop) const;
+    bool isSamePlace(HWND other) const;
+    HWND plainBelow() const;
+    void focusMoved() const;
 
     Picture& picture_;
-    Drawing drawing_;
+    bool lit_;
+    LineDrawing drawing_;
 };
 
 /// An entry of the navigation column.
 class NavButtonWindow : public PressWindow {
 public:
-    NavButtonWindow(FormWindow& form, NavButton& button)
-        : PressWindow(form, button)
-        , button_(button) {}
+    NavButtonWindow(FormWindow& form, NavButton& button);
 
 protected:
     Kind kind() const override { return {"BUTTON", BS_OWNERDRAW | WS_TABSTOP}; }
     void click() override { button_.click(); }
     void paint(Canvas& canvas) override;
-    void arranged() override;
 
 private:
     NavButton& button_;
-    Drawing drawing_;
+    LineDrawing drawing_;
 };
 
 } // namespace tarvelon

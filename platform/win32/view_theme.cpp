@@ -33,6 +33,9 @@ Theme ownTheme() {
         .link = colors::hoverBlue,
         .button = {rgb(0x5484B3), rgb(0x6D9AC8), rgb(0x365C85), rgb(0x7F8A95), rgb(0x5484B3)},
         .action = {rgb(0x5484B3), rgb(0x5C8BBA), rgb(0x365C85), rgb(0x7F8A95), rgb(0x2F5479)},
+        .standby = {rgb(0xC4820E), rgb(0xDC9823), rgb(0x976308), rgb(0x7F8A95), rgb(0xC4820E)},
+        .turnOff = {rgb(0xC24A42), rgb(0xDB5F55), rgb(0x93332C), rgb(0x7F8A95), rgb(0xC24A42)},
+        .restart = {rgb(0x3F8F6B), rgb(0x4FA982), rgb(0x2C694D), rgb(0x7F8A95), rgb(0x3F8F6B)},
         .track = rgb(0xD5DEE7),
         .bar = rgb(0x3F8F6B),
         .navigationHover = rgb(0x2B3C4E),
@@ -45,7 +48,7 @@ Theme systemTheme() {
     const auto system = [](int index) { return static_cast<Color>(GetSysColor(index)); };
     const Surface window{system(COLOR_WINDOW), system(COLOR_WINDOWTEXT), system(COLOR_WINDOWTEXT)};
     const Color face = system(COLOR_BTNFACE);
-    const Color edge = system(COLOR_BTNTEXT);
+    const Face plain{face, face, face, face, system(COLOR_BTNTEXT)};
     return {
         .highContrast = true,
         .page = window,
@@ -59,8 +62,11 @@ Theme systemTheme() {
         .selectedText = system(COLOR_HIGHLIGHTTEXT),
         .disabledText = system(COLOR_GRAYTEXT),
         .link = system(COLOR_HOTLIGHT),
-        .button = {face, face, face, face, edge},
-        .action = {face, face, face, face, edge},
+        .button = plain,
+        .action = plain,
+        .standby = plain,
+        .turnOff = plain,
+        .restart = plain,
         .track = system(COLOR_WINDOW),
         .bar = system(COLOR_HIGHLIGHT),
         .navigationHover = system(COLOR_WINDOW),

@@ -37,6 +37,9 @@ struct Theme {
     Color link; ///< A check's label under the mouse.
     Face button;
     Face action; ///< Labels that are clicked.
+    Face standby;
+    Face turnOff;
+    Face restart;
     Color track; ///< The part of a bar that is still to come.
     Color bar;
     Color navigationHover;

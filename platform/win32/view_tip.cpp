@@ -26,6 +26,8 @@ void ToolTip::set(HWND owner, const std::string& text, int widestLine) {
         window_ = CreateWindowExA(
             WS_EX_TOPMOST, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, CW_USEDEFAULT,
             CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, owner, nullptr, GetModuleHandleA(nullptr), nullptr);
+        constexpr LPARAM longest = 0x7fff; // Milliseconds: long texts take their time to read.
+        SendMessageA(window_, TTM_SETDELAYTIME, TTDT_AUTOPOP, longest);
         SendMessageA(window_, TTM_ADDTOOLA, 0, record);
     }
     SendMessageA(window_, TTM_SETMAXTIPWIDTH, 0, widestLine);

@@ -1,5 +1,7 @@
 #include "platform/win32/view_tree.h"
 
+#include "platform/win32/view_form.h"
+
 namespace tarvelon {
 
 ControlWindow::Kind TreeWindow::kind() const {
@@ -10,6 +12,10 @@ ControlWindow::Kind TreeWindow::kind() const {
 void TreeWindow::arranged() {
     handleAsClass(TVM_SETITEMHEIGHT, static_cast<WPARAM>(scale()(22)), 0);
     handleAsClass(TVM_SETINDENT, static_cast<WPARAM>(scale()(20)), 0);
+    // Older systems pass this over.
+    constexpr UINT setExtendedStyle = TV_FIRST + 44;
+    constexpr WPARAM doubleBuffered = 4;
+    handleAsClass(setExtendedStyle, doubleBuffered, doubleBuffered);
 }
 
 void TreeWindow::applyItems(Aspect aspect) {
@@ -18,25 +24,52 @@ void TreeWindow::applyItems(Aspect aspect) {
 }
 
 void TreeWindow::refresh() {
-    handleAsClass(TVM_SETBKCOLOR, 0, static_cast<LPARAM>(theme().field));
-    handleAsClass(TVM_SETTEXTCOLOR, 0, static_cast<LPARAM>(theme().fieldText));
+    colour();
     followNodes();
     ControlWindow::refresh();
 }
 
+void TreeWindow::colour() {
+    if (ground_ != theme().field || text_ != theme().fieldText) {
+        ground_ = theme().field;
+        text_ = theme().fieldText;
+        handleAsClass(TVM_SETBKCOLOR, 0, static_cast<LPARAM>(ground_));
+        handleAsClass(TVM_SETTEXTCOLOR, 0, static_cast<LPARAM>(text_));
+    }
+}
+
 void TreeWindow::followNodes() {
-    if (!stale_) {
+    if (!stale_ || following_ || raising_ > 0) {
         return;
     }
     following_ = true;
-    if (anew_) {
-        handleAsClass(TVM_DELETEITEM, 0, reinterpret_cast<LPARAM>(TVI_ROOT));
-        items_.clear();
+    // On a hidden window the message would bring it to light.
+    const bool holdsDrawing = tree_.Visible();
+    if (holdsDrawing) {
+        handleAsClass(WM_SETREDRAW, FALSE, 0);
     }
+    if (anew_) {
+        clear();
+    }
+    addMissing();
+    if (holdsDrawing) {
+        handleAsClass(WM_SETREDRAW, TRUE, 0);
+    }
+    stale_ = false;
+    anew_ = false;
+    following_ = false;
+}
+
+void TreeWindow::clear() {
+    handleAsClass(TVM_DELETEITEM, 0, reinterpret_cast<LPARAM>(TVI_ROOT));
+    items_.clear();
+}
+
+void TreeWindow::addMissing() {
     const auto& nodes = tree_.nodes();
     for (std::size_t index = items_.size(); index < nodes.size(); ++index) {
         const Tree::Node& node = nodes[index];
-        std::string text = node.text;
+        std::string text = node.text; // Seen up to its first zero.
         TVINSERTSTRUCTA insert{};
         insert.hParent = node.parent ? items_[node.parent] : TVI_ROOT;
         insert.hInsertAfter = TVI_LAST;
@@ -46,15 +79,19 @@ void TreeWindow::followNodes() {
         items_[&node] =
             reinterpret_cast<HTREEITEM>(handleAsClass(TVM_INSERTITEMA, 0, reinterpret_cast<LPARAM>(&insert)));
     }
-    stale_ = false;
-    anew_ = false;
-    following_ = false;
 }
 
 LRESULT TreeWindow::handle(UINT message, WPARAM wide, LPARAM low) {
     constexpr UINT lastTreeMessage = TV_FIRST + 0xff;
-    if (stale_ && !following_ && message >= TV_FIRST && message <= lastTreeMessage) {
+    const bool asked = message >= TV_FIRST && message <= lastTreeMessage;
+    if (stale_ &&
+        (asked || message == WM_KEYDOWN || message == WM_LBUTTONDOWN || message == WM_RBUTTONDOWN)) {
         followNodes();
+    }
+    if (message == WM_KEYDOWN && wide >= VK_PRIOR && wide <= VK_DOWN) {
+        selectFirstIfNone();
+    } else if (message == WM_PAINT) {
+        colour();
     }
     const LRESULT result = ControlWindow::handle(message, wide, low);
     if (message == WM_NCPAINT) {
@@ -64,6 +101,13 @@ LRESULT TreeWindow::handle(UINT message, WPARAM wide, LPARAM low) {
         RedrawWindow(window(), nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME);
     }
     return result;
+}
+
+void TreeWindow::selectFirstIfNone() {
+    // From no row at all the keys for moving lead nowhere.
+    if (handleAsClass(TVM_GETNEXTITEM, TVGN_CARET, 0) == 0) {
+        handleAsClass(TVM_SELECTITEM, TVGN_CARET, handleAsClass(TVM_GETNEXTITEM, TVGN_ROOT, 0));
+    }
 }
 
 const Tree::Node* TreeWindow::nodeOf(HTREEITEM item) {
@@ -78,6 +122,15 @@ void TreeWindow::notifiedWith(const NMHDR& header) {
     if (following_ || anew_) {
         return; // The items still name nodes that are gone.
     }
+    ++raising_;
+    raise(header);
+    --raising_;
+    if (stale_ && raising_ == 0) {
+        form().refreshLater(*this);
+    }
+}
+
+void TreeWindow::raise(const NMHDR& header) {
     switch (header.code) {
     case TVN_SELCHANGEDA:
     case TVN_SELCHANGEDW:

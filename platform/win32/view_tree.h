@@ -28,6 +28,11 @@ protected:
 
 private:
     void followNodes();
+    void clear();
+    void addMissing();
+    void colour();
+    void selectFirstIfNone();
+    void raise(const NMHDR& header);
     void clickedAgain();
     const Tree::Node* nodeOf(HTREEITEM item);
 
@@ -36,6 +41,9 @@ private:
     bool stale_ = true;
     bool anew_ = false; ///< Nothing of what the window has is left.
     bool following_ = false;
+    int raising_ = 0; ///< Notifications that are being handled: the window stands on its items meanwhile.
+    Color ground_ = CLR_NONE; ///< As last told to the window, with the text's.
+    Color text_ = CLR_NONE;
 };
 
 } // namespace tarvelon
