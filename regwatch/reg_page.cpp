@@ -102,7 +102,7 @@ void RegPage::List5_Click() {
 void RegPage::TreeView1_NodeClick() {
     const Tree::Node* node = screen_.TreeView1.selected();
     const std::string parent = node && node->parent ? node->parent->text : std::string();
-    const bool entry = !parent.empty() && parent.substr(0, 4) != "HKEY";
+    const bool entry = node && !parent.empty() && parent.substr(0, 4) != "HKEY";
     enableEntryButtons(entry);
     if (!entry) {
         return;
