@@ -25,7 +25,8 @@ Desktop::Window Win32Desktop::nextWindow(Window window) {
 }
 
 void Win32Desktop::windowText(Window window, char* buffer, int size) {
-    if (GetWindowTextA(handleOf(window), buffer, size) == 0) {
+    // For a window that has gone, some systems give what happens to lie in memory.
+    if (!IsWindow(handleOf(window)) || GetWindowTextA(handleOf(window), buffer, size) == 0) {
         *buffer = '\0';
     }
 }

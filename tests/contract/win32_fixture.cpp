@@ -162,10 +162,11 @@ public:
         description.lpfnWndProc = DefWindowProcA;
         description.lpszClassName = className.c_str();
         RegisterClassA(&description); // Fails for one that is there, which serves as well.
-        const DWORD style = WS_OVERLAPPEDWINDOW | (visible ? WS_VISIBLE : 0);
-        const HWND window = CreateWindowExA(0, className.c_str(), title.c_str(), style, 0, 0, 200, 100,
-                                            nullptr, nullptr, nullptr, nullptr);
+        // A kind of window that no window manager has to be waited for.
+        const HWND window = CreateWindowExA(WS_EX_TOOLWINDOW, className.c_str(), title.c_str(), WS_POPUP, 0,
+                                            0, 200, 100, nullptr, nullptr, nullptr, nullptr);
         EXPECT_NE(window, nullptr) << title;
+        ShowWindow(window, visible ? SW_SHOWNOACTIVATE : SW_HIDE);
         windows_.push_back(window);
         return reinterpret_cast<Desktop::Window>(window);
     }
