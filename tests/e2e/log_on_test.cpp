@@ -128,6 +128,7 @@ TEST_F(LogOn, OnlyCustomFoldersMarkedForStartUpAreScannedToo) {
     EXPECT_EQ(results.beside("Failed Files:"), "1");
     EXPECT_EQ(results.beside("New Files:"), "0");
     results.click("Repair and Update Failed Files...");
+    results.awaitText("Failed Files List");
     EXPECT_EQ(results.rows(), (Rows{changed.path()}));
 }
 
