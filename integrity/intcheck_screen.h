@@ -76,7 +76,7 @@ struct IntCheckScreen : Screen {
     // Failed files.
     Frame Frame3{*this, at(0, 48, 600, 352), false};
     Label Label10{Frame3, "New and Failed Files:", at(16, 8, 568, 20)};
-    ListBox List1{Frame3, at(16, 32, 568, 264)};
+    ListBox List1{Frame3, at(16, 32, 568, 262)};
     Label Label12{Frame3, "Scan Failing Files...", at(16, 312, 280, 36), TextStyle::Action};
 
     // Under every view, so that the results can be left as well.
