@@ -21,7 +21,6 @@ struct MForm1Screen : Screen {
         Label19.Visible = false;
         Label26.Visible = false;
         txtTitle.Caption = "No Window Selected";
-        cSetW.Enabled = false; // What it opens comes with the wizard.
     }
 
     // Navigation column.
@@ -71,12 +70,12 @@ struct MForm1Screen : Screen {
 
     // AppWatch.
     Frame appF{*this, at(160, 0, 600, 488), false};
-    ListBox lstOpenWindows{appF, at(32, 24, 536, 248)};
-    Label lblCount{appF, "Please Click On Refresh", at(32, 280, 536, 20), TextStyle::Hint};
-    TextBox txtTitle{appF, at(32, 312, 536, 24)};
-    Label lblProcessID{appF, "Process ID: Please select an Entry first", at(32, 344, 536, 20)};
+    ListBox lstOpenWindows{appF, at(32, 24, 536, 256)};
+    Label lblCount{appF, "Please Click On Refresh", at(32, 288, 536, 20), TextStyle::Hint};
+    TextBox txtTitle{appF, at(32, 320, 536, 24)};
+    Label lblProcessID{appF, "Process ID: Please select an Entry first", at(32, 352, 536, 20)};
     Label lblClassName{appF, "Click on an Entry in the list to retrieve additional Information",
-                       at(32, 368, 536, 56)};
+                       at(32, 376, 536, 56)};
     FlatButton act{appF, "Activate Window", at(32, 440, 168, 32)};
     FlatButton cl{appF, "Close Window", at(208, 440, 168, 32)};
     FlatButton ref{appF, "Refresh", at(400, 440, 168, 32)};
