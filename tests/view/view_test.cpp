@@ -12,7 +12,9 @@ namespace {
 
 struct SampleScreen : Screen {
     SampleScreen()
-        : Screen("Sample", 400, 300) {}
+        : Screen("Sample", 400, 330) {
+        lit.Visible = false;
+    }
 
     Frame page{*this, at(0, 0, 400, 260)};
     Label label{page, "A label", at(8, 8, 120, 16)};
@@ -30,6 +32,8 @@ struct SampleScreen : Screen {
     ComboBox combo{page, at(264, 136, 120, 24)};
     ProgressBar bar{page, at(264, 104, 120, 16)};
     Tree tree{page, at(264, 32, 120, 60)};
+    Picture lit{*this, at(300, 262, 64, 64), "restart-lit", "Restart"};
+    Picture plain{*this, at(300, 262, 64, 64), "restart", "Restart"};
     Timer timer{*this, 10};
 };
 
@@ -248,6 +252,74 @@ TEST_F(View, NodesFollowAndAreClicked) {
     const LRESULT child = ask(screen.tree, TVM_GETNEXTITEM, TVGN_CHILD, root);
     ask(screen.tree, TVM_SELECTITEM, TVGN_CARET, child);
     EXPECT_EQ(clicked, "1-2-2004\\10:30");
+}
+
+TEST_F(View, ATreeMayBeFilledAnewByItsOwnClick) {
+    const auto fill = [this](const std::string& text) {
+        screen.tree.clear();
+        screen.tree.addRoot("root", text);
+        screen.tree.addChild("root", "value", std::string("seen\0unseen", 11));
+    };
+    fill("old");
+    const HWND tree = windowAt(screen.tree);
+    const auto textNow = [tree](LRESULT item) {
+        char text[32] = {};
+        TVITEMA asked{};
+        asked.mask = TVIF_TEXT;
+        asked.hItem = reinterpret_cast<HTREEITEM>(item);
+        asked.pszText = text;
+        asked.cchTextMax = sizeof text;
+        SendMessageA(tree, TVM_GETITEMA, 0, reinterpret_cast<LPARAM>(&asked));
+        return std::string(text);
+    };
+    const LRESULT root = SendMessageA(tree, TVM_GETNEXTITEM, TVGN_ROOT, 0);
+    int clicks = 0;
+    screen.tree.onNodeClick = [&] {
+        ++clicks;
+        fill("new");
+        pump();
+        platform.view().refresh();
+        EXPECT_EQ(textNow(root), "old") << "The window still works with the items it is telling of";
+    };
+    SendMessageA(tree, TVM_SELECTITEM, TVGN_CARET, root);
+    EXPECT_EQ(clicks, 1);
+    const LRESULT newRoot = SendMessageA(tree, TVM_GETNEXTITEM, TVGN_ROOT, 0);
+    EXPECT_EQ(textNow(newRoot), "new");
+    EXPECT_EQ(textNow(SendMessageA(tree, TVM_GETNEXTITEM, TVGN_CHILD, newRoot)), "seen");
+
+    screen.tree.onNodeClick = [&] { ++clicks; };
+    SendMessageA(tree, WM_KEYDOWN, VK_DOWN, 1);
+    EXPECT_GE(clicks, 2) << "The keyboard finds its way in where nothing is selected";
+}
+
+TEST_F(View, ALitPictureTakesTheMouseAndLeavesTheKeyboard) {
+    const HWND lit = windowAt(screen.lit);
+    HWND plain = GetWindow(lit, GW_HWNDNEXT);
+    EXPECT_FALSE(IsWindowVisible(lit));
+    int focused = 0;
+    std::string clicked;
+    screen.plain.onFocus = [&] {
+        ++focused;
+        screen.lit.Visible = true;
+    };
+    screen.plain.onClick = [&] { clicked += "plain "; };
+    screen.lit.onClick = [&] { clicked += "lit "; };
+    SetForegroundWindow(form);
+    SetFocus(plain);
+    EXPECT_EQ(focused, 1);
+    EXPECT_TRUE(IsWindowVisible(lit));
+    SendMessageA(plain, WM_KEYDOWN, VK_RETURN, 1);
+    const LPARAM middle = MAKELPARAM(32, 32);
+    SendMessageA(lit, WM_LBUTTONDOWN, MK_LBUTTON, middle);
+    EXPECT_EQ(GetFocus(), plain) << "It is gone as soon as the mouse moves on";
+    SendMessageA(lit, WM_LBUTTONUP, 0, middle);
+    EXPECT_EQ(clicked, "plain lit ");
+    EXPECT_FALSE(isTabStop(screen.lit));
+
+    RECT place;
+    GetWindowRect(lit, &place);
+    EXPECT_EQ(SendMessageA(lit, WM_NCHITTEST, 0, MAKELPARAM(place.left + 32, place.top + 32)), HTCLIENT);
+    EXPECT_EQ(SendMessageA(lit, WM_NCHITTEST, 0, MAKELPARAM(place.left + 2, place.top + 2)), HTTRANSPARENT);
 }
 
 TEST_F(View, TypingAndSettingText) {
