@@ -56,6 +56,10 @@ void AVirHelp::show(bool forSecond) {
     screen_.show();
 }
 
+void AVirHelp::showAsItStands() {
+    screen_.show();
+}
+
 void AVirHelp::Command4_Click() {
     if (screen_.List1.listIndex() < 0) {
         return;
@@ -110,10 +114,8 @@ void AVirHelp::useForSecond(const std::string& path) {
 
 void AVirHelp::useForFirst(const std::string& path) {
     const std::string arguments = defaultArguments(scannerFamily(cases_, path));
-    if (hooks.setWizardPath) {
-        hooks.setWizardPath(path);
-        hooks.setWizardArgs(arguments);
-    }
+    hooks.setWizardPath(path);
+    hooks.setWizardArgs(arguments);
     scanners_.Text5.Caption = path;
     scanners_.Text6.Caption = arguments;
 }

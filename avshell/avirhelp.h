@@ -28,6 +28,8 @@ public:
 
     /// Opens the window for the first or the second scanner.
     void show(bool forSecond);
+    /// Opens it for the one it was opened for last, which is the first unless the window was hidden half-way.
+    void showAsItStands();
 
 private:
     void bind();

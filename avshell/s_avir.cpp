@@ -79,7 +79,7 @@ void SAvir::cButton10_Click() {
 const char* SAvir::argumentsForFirst() {
     const ScannerFamily family = scannerFamily(globals_.cases, screen_.Text5.Caption());
     const char* arguments = defaultArguments(family);
-    if (family != ScannerFamily::Pavcl && hooks.setWizardArgs) {
+    if (family != ScannerFamily::Pavcl) {
         hooks.setWizardArgs(arguments);
     }
     return arguments;

@@ -33,10 +33,16 @@ void Application::tellFailures() {
 }
 
 void Application::bindHooks() {
-    const auto showScan = [this] { intCheck.show(); };
-    const auto loadUp = [this] { scan.LoadUp(); };
+    bindStartUp();
+    bindScan();
+    bindPages();
+    bindScanners();
+    bindShutDown();
+}
 
+void Application::bindStartUp() {
     mForm1.onLoad = [this] { startUp.run(); };
+    snapshotFile.setReg = [this] { detection.setReg(); };
     startUp.hooks = {
         .checkIntFile = [this] { baseline.checkIntFile(); },
         .checkRegFile = [this] { snapshotFile.checkRegFile(); },
@@ -44,8 +50,8 @@ void Application::bindHooks() {
         .setDatName = [this] { checksum.setDatName(); },
         .loadIntFile = [this] { dataFile.loadIntFile(globals.app.intFile); },
         .hideMainWindow = [this] { mForm1.hide(); },
-        .showScan = showScan,
-        .loadUp = loadUp,
+        .showScan = [this] { intCheck.show(); },
+        .loadUp = [this] { scan.LoadUp(); },
         .minimizeScan = [this] { intCheck.Minimized = true; },
         .showLogoff = [this] { frmLogoff.show(); },
         .preShut0 =
@@ -54,32 +60,55 @@ void Application::bindHooks() {
                 shutDownSequence.preShut0();
             },
     };
+}
+
+void Application::bindScan() {
+    const auto leaveScan = [this] { scan.Command1_Click(); };
+    const auto loadUp = [this] { scan.LoadUp(); };
     dataFile.buildCustomDat = [this](const std::string& folder, const std::string& file,
                                      const std::string& number) {
         return baseline.buildCustomDat(folder, file, number);
     };
-    const auto leaveScan = [this] { scan.Command1_Click(); };
-    baseline.hooks = {.showScan = showScan, .leaveScan = leaveScan, .loadUp = loadUp};
+    baseline.hooks = {.showScan = [this] { intCheck.show(); }, .leaveScan = leaveScan, .loadUp = loadUp};
     folderScanPage.hooks = {
         .norms2 = [this] { mainForm.norms2(); }, .leaveScan = leaveScan, .loadUp = loadUp};
     resultAction.leaveScan = leaveScan;
-    customFolders.loadf = [this] { folderScanPage.loadf(); };
+    scan.hooks = {.resultAction = [this] { resultAction.Label12_Click(); },
+                  .preShut2 = [this] { shutDownSequence.PreShut2(); },
+                  .showMainWindow = [this] { mForm1.show(); }};
+}
+
+void Application::bindPages() {
     mainForm.hooks = {.loadSettings = [this] { settingsPages.loadSettings(); },
                       .showCustomFolders = [this] { iCust.show(); },
                       .showScanners = [this] { s_avir.show(); },
                       .regPageOpened = [this] { regPage.Image7_Opened(); },
                       .advancedPageOpened = [this] { advancedPage.opened(); }};
     mForm1.cCreateSS.onClick = [this] { ownShortcuts.cCreateSS_Click(); };
-    scannerChoice.hooks.showHelp = [this](bool forSecond) { scannerCatalogue.show(forSecond); };
+    mForm1.cSetW.onClick = [this] {
+        settingsPages.loadSettings();
+        wizard.LoadUp();
+    };
+    customFolders.loadf = [this] { folderScanPage.loadf(); };
     logBrowser.norms2 = [this] { mainForm.norms2(); };
-    snapshotFile.setReg = [this] { detection.setReg(); };
-    scan.hooks.resultAction = [this] { resultAction.Label12_Click(); };
+}
+
+void Application::bindScanners() {
+    const auto setWizardPath = [this](const std::string& path) { vDct.vpath.Caption = path; };
+    const auto setWizardArgs = [this](const std::string& arguments) { vDct.varg.Caption = arguments; };
+    scannerChoice.hooks = {.setWizardArgs = setWizardArgs,
+                           .showHelp = [this](bool forSecond) { scannerCatalogue.show(forSecond); }};
+    scannerCatalogue.hooks = {.setWizardPath = setWizardPath, .setWizardArgs = setWizardArgs};
+    wizard.hooks = {.showCatalogue = [this] { scannerCatalogue.showAsItStands(); },
+                    .createAutoLoad = [this] { ownShortcuts.createAutoLoad(); },
+                    .cCreateSS = [this] { ownShortcuts.cCreateSS_Click(); }};
+}
+
+void Application::bindShutDown() {
     logoff.preShut0 = [this] { shutDownSequence.preShut0(); };
-    shutDownSequence.hooks = {.loadUp = loadUp,
+    shutDownSequence.hooks = {.loadUp = [this] { scan.LoadUp(); },
                               .setReg = [this] { detection.setReg(); },
                               .cScnUpd = [this] { regPage.cScnUpd_Click(); }};
-    scan.hooks.preShut2 = [this] { shutDownSequence.PreShut2(); };
-    scan.hooks.showMainWindow = [this] { mForm1.show(); };
 }
 
 } // namespace tarvelon

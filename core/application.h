@@ -37,6 +37,8 @@
 #include "ui/own_shortcuts.h"
 #include "ui/settings_pages.h"
 #include "ui/speed_comparison.h"
+#include "ui/wizard.h"
+#include "ui/wizard_screen.h"
 
 #include <vector>
 
@@ -50,7 +52,7 @@ public:
 
     /// Every screen, for a view to attach to before the start.
     std::vector<Screen*> screens() {
-        return {&mForm1, &intCheck, &frmLogoff, &sProg, &s_avir, &aVirHelp, &iCust};
+        return {&mForm1, &intCheck, &frmLogoff, &sProg, &s_avir, &aVirHelp, &iCust, &vDct};
     }
 
     /// Loads the main window, which is the whole start-up, and shows it unless a switch or a scan hid it.
@@ -66,6 +68,7 @@ public:
     SAvirScreen s_avir;
     AVirHelpScreen aVirHelp;
     ICustScreen iCust;
+    WizardScreen vDct;
 
     Utilities utilities{platform};
     SettingsFile settingsFile{globals, platform};
@@ -80,6 +83,7 @@ public:
     LogFiles logFiles{mForm1, globals, platform};
     SAvir scannerChoice{s_avir, globals, platform, settingsFile, utilities};
     AVirHelp scannerCatalogue{aVirHelp, s_avir, globals.cases, platform, utilities, scanner};
+    Wizard wizard{vDct, {globals, platform, settingsFile, utilities, scanner, s_avir}};
     LogBrowser logBrowser{mForm1, {globals, platform, settingsFile, utilities, scanner}};
     Detection detection{mForm1, globals, platform, settingsFile};
     RegPage regPage{mForm1, {globals, platform, settingsFile, utilities, scanner, logFiles, detection}};
@@ -102,6 +106,11 @@ public:
 
 private:
     void bindHooks();
+    void bindStartUp();
+    void bindScan();
+    void bindPages();
+    void bindScanners();
+    void bindShutDown();
     void tellFailures();
 };
 

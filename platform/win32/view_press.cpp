@@ -177,7 +177,7 @@ void FlatButtonWindow::paint(Canvas& canvas) {
 }
 
 void ActionWindow::paint(Canvas& canvas) {
-    if (label_.style() == TextStyle::Link) {
+    if (label_.style() == TextStyle::Link || label_.style() == TextStyle::Step) {
         paintLink(canvas);
         return;
     }
@@ -194,7 +194,8 @@ void ActionWindow::paint(Canvas& canvas) {
 }
 
 void ActionWindow::paintLink(Canvas& canvas) {
-    TextLook look{.color = theme().link, .underlined = true};
+    const bool step = label_.style() == TextStyle::Step;
+    TextLook look{.color = step ? surface().text : theme().link, .underlined = !step || label_.Underlined()};
     if (!label_.isUsable()) {
         look.color = theme().disabledText;
     } else if (label_.ForeColor() != colors::black && !theme().highContrast) {
