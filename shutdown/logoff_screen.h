@@ -15,6 +15,9 @@ struct LogoffScreen : Screen {
 
     Timer Timer1{*this, 1000};
 
+    // First, so that an Enter too early does no harm.
+    Label Label1{*this, "Cancel", at(368, 224, 144, 32), TextStyle::Action};
+
     // The lit pictures lie over the plain ones and take the clicks.
     Picture Image2{*this, at(40, 24, 128, 128), "standby-lit", "Standby"};
     Picture Image4{*this, at(208, 24, 128, 128), "turnoff-lit", "Turn Off"};
@@ -28,7 +31,6 @@ struct LogoffScreen : Screen {
     Label Label3{*this, "Restart", at(360, 156, 160, 20), TextStyle::Caption};
     Label Label6{*this, "hold SHIFT for Hibernate", at(24, 178, 160, 20), TextStyle::Caption};
     Label Label2{*this, "Log Off...", at(32, 224, 144, 32), TextStyle::Action};
-    Label Label1{*this, "Cancel", at(368, 224, 144, 32), TextStyle::Action};
 };
 
 } // namespace tarvelon
