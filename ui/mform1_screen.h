@@ -88,7 +88,7 @@ struct MForm1Screen : Screen {
     Label Label16{setFq, "Only Intended for Advanced Users", at(248, 64, 336, 32), TextStyle::Hint};
     FlatButton cSetW{setFq, "Settings Wizard", at(32, 104, 200, 32)};
     Label Label15{setFq, "First-time Tarvelon Users are Recommended to use the Settings Wizard",
-                  at(248, 104, 336, 32), TextStyle::Hint};
+                  at(248, 104, 312, 32), TextStyle::Hint}; // Two lines: one would have to be set very small.
     FlatButton cCreateSS{setFq, "Shutdown/Scan Shortcut", at(32, 144, 200, 32)};
     Label Label23{setFq,
                   "Click to Create a Shutdown/Scan shortcut. For more information about this feature, please "
