@@ -232,11 +232,19 @@ std::string Form::beside(const std::string& label) const {
 
 std::vector<std::string> Form::rows() const {
     std::vector<std::string> all;
-    for (HWND child : visibleChildren(window_)) {
-        if (isOfClass(child, "ListBox")) {
-            const std::vector<std::string> rows = rowsOf(child);
-            all.insert(all.end(), rows.begin(), rows.end());
+    bool listSeen = false;
+    comesTrue([&] {
+        for (HWND child : visibleChildren(window_)) {
+            if (isOfClass(child, "ListBox")) {
+                const std::vector<std::string> rows = rowsOf(child);
+                all.insert(all.end(), rows.begin(), rows.end());
+                listSeen = true;
+            }
         }
+        return listSeen;
+    });
+    if (!listSeen) {
+        throw NotSeen("no list on " + describe());
     }
     return all;
 }

@@ -50,7 +50,7 @@ public:
     /// The text of the nearest control to the right of a label, on the same row.
     std::string beside(const std::string& label) const;
 
-    /// The rows of the visible list boxes.
+    /// The rows of the visible list boxes, once there is one.
     std::vector<std::string> rows() const;
     /// Clicks the row with this text in a list box, once it is there.
     void clickRow(const std::string& text) const;
