@@ -50,7 +50,7 @@ struct MForm1Screen : Screen {
     FlatButton bEXE2{intF, "Exploited File Types (PIF, SCR)", at(64, 336, 264, 32)};
     FlatButton bFULL{intF, "Select All", at(352, 136, 152, 32)};
     FlatButton bCLEAR{intF, "Clear Selections", at(352, 176, 152, 32)};
-    FlatButton bSCAN{intF, "Scan Folder Now", at(352, 336, 152, 32)};
+    FlatButton bSCAN{intF, "Scan Folder Now", at(32, 400, 296, 40)};
 
     // RegWatch.
     Frame regF{*this, at(160, 0, 600, 488), false};
@@ -172,12 +172,10 @@ struct MForm1Screen : Screen {
     FlatCheck wsh{advF, "Use Windows Scripting Host (If Auto-Load won't create shortcut/save)",
                   at(112, 232, 472, 24)};
 
-    // Compare Speeds: the report, and each of its three tests as a chart.
-    ListBox List1{advF, at(16, 264, 328, 168)};
-    Label chartHeading{advF, "Time for each buffer size (Kb):", at(352, 264, 232, 20), TextStyle::Hint};
-    std::array<BarChart, 3> speedChart{{BarChart{advF, "Test 1: 5x", 4, at(352, 288, 72, 144)},
-                                        BarChart{advF, "Test 2: 10x", 4, at(432, 288, 72, 144)},
-                                        BarChart{advF, "Test 3: 100x", 4, at(512, 288, 72, 144)}}};
+    // Compare Speeds: the report, and one of its three tests as a chart.
+    ListBox List1{advF, at(16, 264, 440, 168)};
+    Label chartHeading{advF, "Time by buffer (Kb):", at(464, 262, 120, 18), TextStyle::Hint};
+    BarChart speedChart{advF, "", 4, at(464, 280, 120, 152)};
     FlatButton cSave2{advF, "Save", at(16, 440, 136, 32)};
     FlatButton cButton1{advF, "Cancel", at(160, 440, 136, 32)};
     FlatButton cSpeeds{advF, "Compare Speeds", at(408, 440, 176, 32)};
