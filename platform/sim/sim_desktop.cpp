@@ -50,23 +50,23 @@ Desktop::Window SimDesktop::firstWindow() {
 }
 
 Desktop::Window SimDesktop::nextWindow(Window window) {
-    const Place place = placeOf(window);
+    const auto place = placeOf(window);
     return place == windows_.end() || place + 1 == windows_.end() ? 0 : (place + 1)->handle;
 }
 
 void SimDesktop::windowText(Window window, char* buffer, int size) {
-    const Place place = placeOf(window);
+    const auto place = placeOf(window);
     copyInto(place == windows_.end() ? "" : place->window.title, buffer, size);
 }
 
 void SimDesktop::className(Window window, char* buffer, int size) {
-    if (const Place place = placeOf(window); place != windows_.end()) {
+    if (const auto place = placeOf(window); place != windows_.end()) {
         copyInto(place->window.className, buffer, size);
     }
 }
 
 std::uint32_t SimDesktop::processOf(Window window) {
-    const Place place = placeOf(window);
+    const auto place = placeOf(window);
     return place == windows_.end() ? 0 : place->window.process;
 }
 
@@ -81,16 +81,15 @@ Desktop::Window SimDesktop::find(const std::optional<std::string>& className, co
 
 void SimDesktop::bringToTop(Window window) {
     broughtToTop_.push_back(window);
-    if (const Place place = placeOf(window); place != windows_.end()) {
-        const Opened raised = *place;
-        windows_.erase(place);
-        windows_.insert(windows_.begin(), raised);
+    if (const auto place = placeOf(window); place != windows_.end()) {
+        const auto raised = windows_.begin() + (place - windows_.cbegin());
+        std::rotate(windows_.begin(), raised, raised + 1);
     }
 }
 
 void SimDesktop::send(Window window, std::uint32_t message) {
     sent_.push_back({window, message});
-    const Place place = placeOf(window);
+    const auto place = placeOf(window);
     if (place != windows_.end() && message == closeMessage && !place->window.refusesClose) {
         windows_.erase(place);
     }
