@@ -23,8 +23,9 @@ public:
     /// Empty when the file, the section or the key is not there.
     std::string read(const std::string& path, const std::string& section, const std::string& key);
 
-    /// On the disk when the call returns. A missing file is made. False when the file cannot be opened or
-    /// written; it then holds what it held.
+    /// On the disk when the call returns. A missing file is made. False when the file cannot be opened, and
+    /// it then holds what it held; false as well when the write breaks off, as on a full disk, and its end is
+    /// then uncertain.
     bool write(const std::string& path, const std::string& section, const std::string& key,
                const std::string& value);
 
