@@ -18,17 +18,14 @@ namespace {
 
 constexpr std::array<std::int32_t, 4> bufferSizes = {65536, 131072, 262144, 524288};
 
+/// A test's rows in the report: one for each size, the quickest, and an empty one.
+constexpr std::size_t rowsOfTest = bufferSizes.size() + 2;
+
 constexpr std::int32_t kilobytes(std::int32_t bytes) {
     return bytes / 1024;
 }
 
 } // namespace
-
-struct SpeedComparison::Test {
-    int number;
-    int repetitions;
-    BarChart& chart;
-};
 
 /// What the comparison borrows while it runs: the button, the list and the read buffer.
 class SpeedComparison::Session {
@@ -41,9 +38,7 @@ public:
         screen_.cSpeeds.Enabled = false;
         screen_.List1.clear();
         screen_.List1.Enabled = false;
-        for (BarChart& chart : screen_.speedChart) {
-            chart.clear();
-        }
+        screen_.speedChart.clear();
     }
     Session(const Session&) = delete;
     ~Session() {
@@ -66,6 +61,7 @@ SpeedComparison::SpeedComparison(MForm1Screen& screen, Globals& globals, Platfor
     , platform_(platform)
     , checksum_(checksum) {
     screen_.cSpeeds.onClick = [this] { cSpeeds_Click(); };
+    screen_.List1.onClick = [this] { List1_Click(); };
 }
 
 void SpeedComparison::cSpeeds_Click() {
@@ -75,30 +71,31 @@ void SpeedComparison::cSpeeds_Click() {
     if (!length) {
         throw Failure("Cannot read " + file);
     }
-    auto& charts = screen_.speedChart;
-    for (const Test& test : {Test{1, 5, charts[0]}, Test{2, 10, charts[1]}, Test{3, 100, charts[2]}}) {
+    for (Test& test : tests_) {
         run(test, file, *length);
     }
 }
 
-void SpeedComparison::run(const Test& test, const std::string& file, std::uint64_t length) {
+void SpeedComparison::run(Test& test, const std::string& file, std::uint64_t length) {
+    test.seconds.clear();
+    test.quickest.reset();
     float bestTime = 999;
-    std::int32_t bestSize = 0;
-    for (const std::int32_t size : bufferSizes) {
-        globals_.settings.readBuffer = size;
+    for (std::size_t i = 0; i < bufferSizes.size(); ++i) {
+        globals_.settings.readBuffer = bufferSizes[i];
         const float elapsed = measure(file, test.repetitions);
-        const std::string kb = std::to_string(kilobytes(size));
-        screen_.List1.add("Test " + std::to_string(test.number) + " Buffer (" + kb + " Kb) " +
-                          std::to_string(length) + " byte file (calculated " +
-                          std::to_string(test.repetitions) + "x): " + figureText(elapsed) + " seconds");
-        test.chart.add(kb, elapsed);
+        screen_.List1.add("Test " + std::to_string(test.number) + " Buffer (" +
+                          std::to_string(kilobytes(bufferSizes[i])) + " Kb) " + std::to_string(length) +
+                          " byte file (calculated " + std::to_string(test.repetitions) +
+                          "x): " + figureText(elapsed) + " seconds");
+        test.seconds.push_back(elapsed);
         if (elapsed < bestTime) {
             bestTime = elapsed;
-            bestSize = kilobytes(size);
-            test.chart.mark(test.chart.count() - 1);
+            test.quickest = i;
         }
+        draw(test);
         platform_.messages.pump();
     }
+    const std::int32_t bestSize = test.quickest ? kilobytes(bufferSizes[*test.quickest]) : 0;
     screen_.List1.add("Quickest Calculation at: " + figureText(bestTime) +
                       " seconds. Using Buffer of: " + std::to_string(bestSize) + " Kb");
     screen_.List1.add("");
@@ -117,6 +114,25 @@ float SpeedComparison::measure(const std::string& file, int repetitions) {
         checksum_.getChecksum(file);
     }
     return now() - start;
+}
+
+void SpeedComparison::List1_Click() {
+    const auto test = static_cast<std::size_t>(screen_.List1.listIndex()) / rowsOfTest;
+    if (test < tests_.size()) {
+        draw(tests_[test]);
+    }
+}
+
+void SpeedComparison::draw(const Test& test) {
+    BarChart& chart = screen_.speedChart;
+    chart.Caption = "Test " + std::to_string(test.number) + ": " + std::to_string(test.repetitions) + "x";
+    chart.clear();
+    for (std::size_t i = 0; i < test.seconds.size(); ++i) {
+        chart.add(std::to_string(kilobytes(bufferSizes[i])), test.seconds[i]);
+    }
+    if (test.quickest) {
+        chart.mark(static_cast<int>(*test.quickest));
+    }
 }
 
 std::string figureText(float figure) {

@@ -1,33 +1,46 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
+#include <vector>
 
 namespace tarvelon {
 
-class BarChart;
 class Checksum;
 struct Globals;
 struct MForm1Screen;
 struct Platform;
 
 /// Compare Speeds: how long the checksum of the program's own file takes with each size of the read buffer.
+/// Three tests, of more and more repetitions. Beside the report a chart shows the test that runs, afterwards
+/// the last one, or that of the row which the user selects.
 class SpeedComparison {
 public:
     SpeedComparison(MForm1Screen& screen, Globals& globals, Platform& platform, Checksum& checksum);
 
 private:
-    struct Test;
     class Session;
 
+    struct Test {
+        int number;
+        int repetitions;
+        std::vector<float> seconds; ///< In the order of the buffer sizes.
+        std::optional<std::size_t> quickest;
+    };
+
     void cSpeeds_Click();
-    void run(const Test& test, const std::string& file, std::uint64_t length);
+    void run(Test& test, const std::string& file, std::uint64_t length);
     float measure(const std::string& file, int repetitions);
+    void List1_Click();
+    void draw(const Test& test);
 
     MForm1Screen& screen_;
     Globals& globals_;
     Platform& platform_;
     Checksum& checksum_;
+    std::array<Test, 3> tests_{{{1, 5, {}, {}}, {2, 10, {}, {}}, {3, 100, {}, {}}}};
 };
 
 /// A figure as the report shows it: at most seven significant digits, no zeros behind them, a point in front
