@@ -2,6 +2,7 @@
 
 #include "avshell/known_scanners.h"
 #include "avshell/s_avir_screen.h"
+#include "avshell/scanner_fields.h"
 #include "core/failure.h"
 #include "core/globals.h"
 #include "core/settings_file.h"
@@ -23,8 +24,9 @@ SAvir::SAvir(SAvirScreen& screen, Globals& globals, Platform& platform, Settings
 
 void SAvir::bind() {
     screen_.onLoad = [this] {
-        passOver([this] { fill("ANTIVIRUS", screen_.Text5, screen_.Text6); });
-        passOver([this] { fill("AV2", screen_.Text1, screen_.Text2); });
+        passOver(
+            [this] { fillScannerFields(settings_.getSetting("ANTIVIRUS"), screen_.Text5, screen_.Text6); });
+        passOver([this] { fillScannerFields(settings_.getSetting("AV2"), screen_.Text1, screen_.Text2); });
     };
     screen_.onMouseMove = [this] { norms(); };
     screen_.cChoose.onClick = [this] { cChoose_Click(); };
@@ -39,13 +41,6 @@ void SAvir::norms() {
     for (FlatButton* button : {&screen_.cChoose, &screen_.chlpFind, &screen_.cButton10, &screen_.cButton1,
                                &screen_.cButton2, &screen_.cButton3}) {
         button->downStatus(1);
-    }
-}
-
-void SAvir::fill(const char* request, Control& exe, Control& args) {
-    if (const auto scanner = splitExeAndArgs(settings_.getSetting(request))) {
-        exe.Caption = scanner->exe;
-        args.Caption = scanner->args;
     }
 }
 

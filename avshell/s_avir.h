@@ -5,7 +5,6 @@
 
 namespace tarvelon {
 
-class Control;
 struct Globals;
 struct Platform;
 struct SAvirScreen;
@@ -30,7 +29,6 @@ public:
 
 private:
     void bind();
-    void fill(const char* request, Control& exe, Control& args);
     std::string choose() const;
     void cChoose_Click();
     void cButton10_Click();

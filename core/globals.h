@@ -49,6 +49,9 @@ struct Baselines {
     bool primaryScan = false;  ///< The primary full scan is filling the file in, entry by entry.
 };
 
+/// Custom folders are numbered from 1 to this.
+constexpr int folderSlots = 20;
+
 /// What a scan's starters, driver, engine and result action share.
 struct ScanRun {
     bool pageScan = false;        ///< The scan belongs to the main window.

@@ -27,8 +27,6 @@ constexpr std::array<Request, 9> requests{{{"GETSETT", "settings="},
                                            {"ARGS", "args="},
                                            {"ADV", "advanced="}}};
 
-constexpr int folderSlots = 20;
-
 std::string newSettings() {
     std::string text = "[Tarvelon]\r\n"
                        "settings=0,0,0,0,0,0,0,0\r\n"

@@ -16,7 +16,6 @@ namespace tarvelon {
 
 namespace {
 
-constexpr int folderSlots = 20;
 constexpr const char* noTypes = "0,0,0,0,0,0,0";
 constexpr const char* emptyMark = ") Empty:";
 constexpr Color tickedGround = 0x800000;

@@ -18,12 +18,6 @@
 
 namespace tarvelon {
 
-namespace {
-
-constexpr int folderSlots = 20;
-
-} // namespace
-
 FolderScanPage::FolderScanPage(MForm1Screen& screen, const FolderScanParts& parts)
     : screen_(screen)
     , parts_(parts)

@@ -8,7 +8,6 @@
 
 namespace tarvelon {
 
-class Control;
 struct Globals;
 struct IntCheckScreen;
 struct Platform;
@@ -61,7 +60,6 @@ private:
 
     void bind();
     void readScanners();
-    void readScanner(const char* request, Control& exe, Control& args);
     void resetCaptions();
     void setPaused(bool paused);
 

@@ -1,6 +1,7 @@
 #include "ui/settings_pages.h"
 
 #include "avshell/s_avir_screen.h"
+#include "avshell/scanner_fields.h"
 #include "core/failure.h"
 #include "core/globals.h"
 #include "core/settings_file.h"
@@ -35,13 +36,6 @@ bool tick(const Boxes& boxes, const std::string& list) {
     return true;
 }
 
-void fillScanner(const std::string& setting, Control& exe, Control& args) {
-    if (const auto scanner = splitExeAndArgs(setting)) {
-        exe.Caption = scanner->exe;
-        args.Caption = scanner->args;
-    }
-}
-
 } // namespace
 
 SettingsPages::SettingsPages(MForm1Screen& screen, SAvirScreen& scanners, Globals& globals,
@@ -63,9 +57,11 @@ void SettingsPages::loadSettings() {
             return;
         }
         globals_.settings.autoScanFailed = screen_.Check8.value() == 1;
+        passOver([this] {
+            fillScannerFields(settings_.getSetting("ANTIVIRUS"), scanners_.Text5, scanners_.Text6);
+        });
         passOver(
-            [this] { fillScanner(settings_.getSetting("ANTIVIRUS"), scanners_.Text5, scanners_.Text6); });
-        passOver([this] { fillScanner(settings_.getSetting("AV2"), scanners_.Text1, scanners_.Text2); });
+            [this] { fillScannerFields(settings_.getSetting("AV2"), scanners_.Text1, scanners_.Text2); });
         if (!loadShellOptions()) {
             return;
         }

@@ -3,6 +3,7 @@
 #include "avshell/known_scanners.h"
 #include "avshell/s_avir_screen.h"
 #include "avshell/scanner.h"
+#include "avshell/scanner_fields.h"
 #include "core/failure.h"
 #include "core/globals.h"
 #include "core/settings_file.h"
@@ -90,10 +91,7 @@ void Wizard::LoadUp() {
     for (std::size_t i = 0; i < screen_.settingChecks.size() && i < values.size(); ++i) {
         screen_.settingChecks[i]->setValue(toNumber(values[i]).value_or(0) != 0);
     }
-    if (const auto scanner = splitExeAndArgs(parts_.settings.getSetting("ANTIVIRUS"))) {
-        screen_.vpath.Caption = scanner->exe;
-        screen_.varg.Caption = scanner->args;
-    }
+    fillScannerFields(parts_.settings.getSetting("ANTIVIRUS"), screen_.vpath, screen_.varg);
     NextFrame();
 }
 
