@@ -20,7 +20,8 @@ void Win32MessageQueue::pump() {
 
 void Win32MessageQueue::wait() {
     view_.refresh();
-    WaitMessage();
+    // Unlike WaitMessage it does not sleep over input that `queueStatus` has already been told of.
+    MsgWaitForMultipleObjectsEx(0, nullptr, INFINITE, QS_ALLINPUT, MWMO_INPUTAVAILABLE);
 }
 
 std::uint32_t Win32MessageQueue::queueStatus(std::uint32_t flags) {
