@@ -106,7 +106,7 @@ void SpeedComparison::run(Test& test, const std::string& file, std::uint64_t len
 float SpeedComparison::measure(const std::string& file, int repetitions) {
     const auto now = [this] {
         // Through memory: a processor's registers may keep more digits than a float has.
-        const volatile float seconds = static_cast<float>(platform_.clock.secondsSinceMidnight());
+        const volatile auto seconds = static_cast<float>(platform_.clock.secondsSinceMidnight());
         return seconds;
     };
     const float start = now();
