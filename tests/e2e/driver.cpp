@@ -299,6 +299,13 @@ void Form::close() const {
     PostMessageA(window_, WM_SYSCOMMAND, SC_CLOSE, 0);
 }
 
+void Form::bringToFront() const {
+    SetForegroundWindow(window_);
+    if (!comesTrue([this] { return GetForegroundWindow() == window_; })) {
+        throw NotSeen("another window stays in front of " + describe());
+    }
+}
+
 std::string Form::describe() const {
     std::string texts = "window \"" + caption() + "\":";
     for (HWND child : visibleChildren(window_)) {

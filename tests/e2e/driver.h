@@ -63,6 +63,9 @@ public:
     /// What the close box in the window's frame does.
     void close() const;
 
+    /// Waits until keys go to this window.
+    void bringToFront() const;
+
     /// All visible texts, for messages about failures.
     std::string describe() const;
 

@@ -1,16 +1,32 @@
 // Stands in for an anti-virus scanner: adds the way it was started to a file beside itself and ends. The line
-// is its window style as a number, a blank, and its command line as it came. The file has the program's name,
-// with
-// ".txt" behind it.
+// is the moment of its start, its window style as a number, and its command line as it came, with blanks
+// between them. The moment comes first and always has the same length: runs that overlap may write in any
+// order, and sorting the lines puts them right. The file has the program's name, with ".txt" behind it.
 
 #include <windows.h>
 
+#include <cstdio>
 #include <string>
+
+namespace {
+
+/// 16 hexadecimal digits.
+std::string momentOfStart() {
+    FILETIME start{};
+    FILETIME ignored{};
+    GetProcessTimes(GetCurrentProcess(), &start, &ignored, &ignored, &ignored);
+    char text[17] = {};
+    std::snprintf(text, sizeof text, "%08lX%08lX", start.dwHighDateTime, start.dwLowDateTime);
+    return text;
+}
+
+} // namespace
 
 int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
     STARTUPINFOA start{};
     GetStartupInfoA(&start);
-    const std::string line = std::to_string(start.wShowWindow) + " " + GetCommandLineA() + "\r\n";
+    const std::string line =
+        momentOfStart() + " " + std::to_string(start.wShowWindow) + " " + GetCommandLineA() + "\r\n";
 
     char program[MAX_PATH] = {};
     GetModuleFileNameA(nullptr, program, sizeof program);

@@ -2,6 +2,7 @@
 // holds.
 
 #include "driver.h"
+#include "recorder.h"
 #include "workplace.h"
 
 #include <gmock/gmock.h>
@@ -24,42 +25,6 @@ constexpr const char* original = "a file that the baseline knows";
 constexpr const char* changed = "something else";
 constexpr const char* newOrFailed =
     "Integrity Checker - These files were either New or Failed the Integrity Check,";
-
-/// A program in the place of an anti-virus scanner, which writes down how it was started.
-class RecordingScanner {
-public:
-    explicit RecordingScanner(std::string path)
-        : path_(std::move(path)) {
-        char own[MAX_PATH] = {};
-        GetModuleFileNameA(nullptr, own, sizeof own);
-        const std::string beside = std::string(own).substr(0, std::string(own).rfind('\\') + 1);
-        if (CopyFileA((beside + "recording_scanner.exe").c_str(), path_.c_str(), FALSE) == 0) {
-            throw std::runtime_error("cannot copy the recording scanner to " + path_);
-        }
-    }
-
-    const std::string& path() const { return path_; }
-
-    /// How each of the first `count` runs was started; fewer when they do not come.
-    Rows records(std::size_t count) const {
-        Rows all;
-        comesTrue([&] { return (all = recordsNow()).size() >= count; });
-        return all;
-    }
-
-    Rows recordsNow() const {
-        const std::string text = readFile(path_ + ".txt").value_or("");
-        Rows all;
-        for (std::size_t from = 0, end = 0; (end = text.find("\r\n", from)) != std::string::npos;
-             from = end + 2) {
-            all.push_back(text.substr(from, end - from));
-        }
-        return all;
-    }
-
-private:
-    std::string path_;
-};
 
 std::string replaced(std::string text, const std::string& from, const std::string& to) {
     for (std::size_t at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size())) {
