@@ -62,7 +62,6 @@ std::optional<std::string> ProfileImage::read(std::string_view section, std::str
 
 std::size_t ProfileImage::write(std::string_view section, std::string_view key, std::string_view value) {
     parse();
-    const std::string name(trimBlanks(key));
     const auto found = lines_.find(lookupName(section, key));
     if (found != lines_.end()) {
         const std::size_t number = found->second;
@@ -71,14 +70,14 @@ std::size_t ProfileImage::write(std::string_view section, std::string_view key, 
         const std::string_view body = withoutLineEnd(old);
         const std::string ending(old.substr(body.size()));
         const std::string line =
-            std::string(trimBlanks(body.substr(0, body.find('=')))).append("=").append(value).append(ending);
+            std::string(body.substr(0, body.find('='))).append("=").append(value).append(ending);
         const std::size_t oldLength = old.size();
         text_.replace(start, oldLength, line);
         resizeLine(number, oldLength, line.size());
         return start;
     }
 
-    const std::string entry = std::string(name).append("=").append(value).append(lineEnd);
+    const std::string entry = std::string(key).append("=").append(value).append(lineEnd);
     const auto home = sections_.find(lookupName(section, {}));
     if (home != sections_.end()) {
         const std::size_t last = home->second.lastUsedLine;

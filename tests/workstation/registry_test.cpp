@@ -77,7 +77,8 @@ TEST_F(RegistryWatch, TheFirstStartRecordsSilently) {
                   "[CU/R]\r\nMail Check= (\"C:\\Program Files\\Mail\\check.exe\" -q)\r\n\r\n[CU/RO]\r\n\r\n"),
               std::string::npos);
     // The name of a default value is its own text, leading blank and all.
-    EXPECT_NE(snapshot.find("(launcher.exe \"%1\" %*)= (launcher.exe \"%1\" %*)\r\n"), std::string::npos);
+    EXPECT_NE(snapshot.find("[CR/SE]\r\n (launcher.exe \"%1\" %*)= (launcher.exe \"%1\" %*)\r\n"),
+              std::string::npos);
     EXPECT_NE(snapshot.find("[CR/SC]\r\n\r\n"), std::string::npos) << "the normal command is no entry";
     refresh();
     EXPECT_EQ(warnings(), Rows{noWarnings});
