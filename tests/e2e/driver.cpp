@@ -51,10 +51,14 @@ std::string rowText(HWND list, WPARAM row) {
     return narrow(wide);
 }
 
-/// The texts of buttons mark their access key with "&".
-std::string withoutMarks(std::string text) {
-    text.erase(std::remove(text.begin(), text.end(), '&'), text.end());
-    return text;
+/// The texts of buttons mark their access key with "&"; two of them show as one.
+std::string withoutMarks(const std::string& text) {
+    std::string shown;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        i += text[i] == '&' ? 1 : 0;
+        shown += i < text.size() ? text.substr(i, 1) : "";
+    }
+    return shown;
 }
 
 std::vector<HWND> visibleChildren(HWND parent) {
@@ -82,6 +86,15 @@ void mouse(DWORD event) {
     input.type = INPUT_MOUSE;
     input.mi.dwFlags = event;
     SendInput(1, &input, sizeof input);
+}
+
+/// Waits until a click on a row cannot pass for the second half of a double click.
+void awaitSingleClick() {
+    static DWORD last = 0;
+    while (GetTickCount() < last + GetDoubleClickTime()) {
+        Sleep(pollInterval);
+    }
+    last = GetTickCount() + 2 * hand;
 }
 
 /// A real click, through the system's input queue. The control must lie open under the mouse.
@@ -139,6 +152,23 @@ std::optional<RECT> placeOfRow(HWND list, const std::string& text) {
     send(list, LB_GETITEMRECT, static_cast<WPARAM>(row - rows.begin()), reinterpret_cast<LPARAM>(&place));
     MapWindowPoints(list, nullptr, reinterpret_cast<POINT*>(&place), 2);
     return place;
+}
+
+/// False when the list has no row with this text.
+bool bringIntoSight(HWND list, const std::string& text) {
+    const std::optional<RECT> row = placeOfRow(list, text);
+    if (!row) {
+        return false;
+    }
+    RECT area{};
+    GetClientRect(list, &area);
+    MapWindowPoints(list, nullptr, reinterpret_cast<POINT*>(&area), 2);
+    if (row->top < area.top || row->bottom > area.bottom) {
+        const std::vector<std::string> rows = rowsOf(list);
+        send(list, LB_SETTOPINDEX,
+             static_cast<WPARAM>(std::find(rows.begin(), rows.end(), text) - rows.begin()), 0);
+    }
+    return true;
 }
 
 /// The list that hangs open under the drop-down list, if it does: a window of its own.
@@ -216,6 +246,28 @@ void Form::click(const std::string& text) const {
     clickOn(await(text));
 }
 
+bool Form::isEnabled(const std::string& text) const {
+    return IsWindowEnabled(await(text)) != 0;
+}
+
+std::string Form::field() const {
+    for (HWND child : visibleChildren(window_)) {
+        if (isOfClass(child, "Edit")) {
+            return textOf(child);
+        }
+    }
+    throw NotSeen("no text field on " + describe());
+}
+
+HWND Form::tree() const {
+    for (HWND child : visibleChildren(window_)) {
+        if (isOfClass(child, "SysTreeView32")) {
+            return child;
+        }
+    }
+    throw NotSeen("no tree on " + describe());
+}
+
 std::string Form::beside(const std::string& label) const {
     const RECT from = placeOf(await(label));
     HWND nearest = nullptr;
@@ -254,7 +306,8 @@ void Form::clickRow(const std::string& text) const {
     std::optional<RECT> place;
     comesTrue([&] {
         for (HWND child : visibleChildren(window_)) {
-            if (isOfClass(child, "ListBox") && (place = placeOfRow(child, text))) {
+            if (isOfClass(child, "ListBox") && bringIntoSight(child, text) &&
+                (place = placeOfRow(child, text))) {
                 list = child;
                 return true;
             }
@@ -264,6 +317,7 @@ void Form::clickRow(const std::string& text) const {
     if (list == nullptr) {
         throw NotSeen("no row \"" + text + "\" on " + describe());
     }
+    awaitSingleClick();
     clickOn(list, *place);
 }
 

@@ -47,12 +47,21 @@ public:
     /// Presses and releases the mouse on the control with this text, once it is there.
     void click(const std::string& text) const;
 
+    /// False while the control with this text answers to nothing.
+    bool isEnabled(const std::string& text) const;
+
+    /// What stands in the visible text field.
+    std::string field() const;
+
+    /// The visible tree, for `TreeView`.
+    HWND tree() const;
+
     /// The text of the nearest control to the right of a label, on the same row.
     std::string beside(const std::string& label) const;
 
     /// The rows of the visible list boxes, once there is one.
     std::vector<std::string> rows() const;
-    /// Clicks the row with this text in a list box, once it is there.
+    /// Clicks the row with this text in a list box, once it is there; scrolls to it when it is out of sight.
     void clickRow(const std::string& text) const;
 
     /// What the visible drop-down list shows as chosen.

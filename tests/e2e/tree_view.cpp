@@ -1,0 +1,75 @@
+#include "tree_view.h"
+
+namespace e2e {
+
+TreeView::TreeView(HWND window)
+    : window_(window) {
+    DWORD id = 0;
+    GetWindowThreadProcessId(window, &id);
+    process_ = OpenProcess(PROCESS_VM_OPERATION | PROCESS_VM_READ | PROCESS_VM_WRITE, FALSE, id);
+    there_ = static_cast<Page*>(VirtualAllocEx(process_, nullptr, sizeof(Page), MEM_COMMIT, PAGE_READWRITE));
+}
+
+TreeView::~TreeView() {
+    VirtualFreeEx(process_, there_, 0, MEM_RELEASE);
+    CloseHandle(process_);
+}
+
+HTREEITEM TreeView::next(WPARAM relation, HTREEITEM item) const {
+    return reinterpret_cast<HTREEITEM>(
+        SendMessageA(window_, TVM_GETNEXTITEM, relation, reinterpret_cast<LPARAM>(item)));
+}
+
+HTREEITEM TreeView::child(HTREEITEM parent, const std::string& text, Milliseconds limit) const {
+    HTREEITEM found = nullptr;
+    comesTrue(
+        [&] {
+            found = next(TVGN_CHILD, parent);
+            while (found != nullptr && !textOf(found).ends_with(text)) {
+                found = next(TVGN_NEXT, found);
+            }
+            return found != nullptr;
+        },
+        limit);
+    return found;
+}
+
+std::string TreeView::textOf(HTREEITEM item) const {
+    Page page{};
+    page.item.mask = TVIF_TEXT;
+    page.item.hItem = item;
+    page.item.pszText = there_->text;
+    page.item.cchTextMax = MAX_PATH;
+    WriteProcessMemory(process_, there_, &page, sizeof page, nullptr);
+    SendMessageA(window_, TVM_GETITEMW, 0, reinterpret_cast<LPARAM>(there_));
+    ReadProcessMemory(process_, there_, &page, sizeof page, nullptr);
+    char text[MAX_PATH] = {};
+    WideCharToMultiByte(CP_ACP, 0, page.text, -1, text, sizeof text, nullptr, nullptr);
+    return text;
+}
+
+std::vector<std::string> TreeView::textsUnder(HTREEITEM parent) const {
+    std::vector<std::string> texts;
+    for (HTREEITEM item = next(TVGN_CHILD, parent); item != nullptr; item = next(TVGN_NEXT, item)) {
+        texts.push_back(textOf(item));
+    }
+    return texts;
+}
+
+std::string TreeView::describe(HTREEITEM parent) const {
+    std::string all;
+    for (const std::string& text : textsUnder(parent)) {
+        all += " [" + text + "]";
+    }
+    return all;
+}
+
+void TreeView::open(HTREEITEM item) const {
+    SendMessageA(window_, TVM_EXPAND, TVE_EXPAND, reinterpret_cast<LPARAM>(item));
+}
+
+void TreeView::select(HTREEITEM item) const {
+    SendMessageA(window_, TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(item));
+}
+
+} // namespace e2e
