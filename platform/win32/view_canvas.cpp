@@ -210,14 +210,17 @@ void Canvas::text(const std::string& text, const RECT& rect, const TextLook& loo
     const int wanted = scale_.letters(look.tenthPoints);
     Fit chosen = fit(text, rect, look, wanted, false);
     const bool paragraph = heightOf(rect) >= 3 * chosen.height;
-    // The names of files that pass by must not change size one by one.
-    if (!chosen.fits && !isPath) {
-        for (int height = wanted - 1; !chosen.fits && height >= wanted * 9 / 10; --height) {
-            chosen = fit(text, rect, look, height, false);
+    const auto shrink = [&](int height, int smallest, bool severalLines) {
+        for (; !chosen.fits && height >= smallest; --height) {
+            chosen = fit(text, rect, look, height, severalLines);
         }
-        for (int height = wanted; !chosen.fits && height >= wanted * 4 / 5; --height) {
-            chosen = fit(text, rect, look, height, true);
-        }
+    };
+    if (text.find_first_of("\r\n") != std::string::npos) {
+        chosen.fits = false; // As one line, breaks would be drawn as boxes.
+        shrink(wanted, wanted * 4 / 5, true);
+    } else if (!isPath) { // The names of files that pass by must not change size one by one.
+        shrink(wanted - 1, wanted * 9 / 10, false);
+        shrink(wanted, wanted * 4 / 5, true);
     }
     const UINT align = look.align == Align::Center  ? DT_CENTER
                        : look.align == Align::Right ? DT_RIGHT

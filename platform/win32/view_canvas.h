@@ -70,7 +70,7 @@ public:
     /// Draws the text in the middle of the rectangle's height; a rectangle with room for three lines or more
     /// is filled from its top. Text that does not fit into one line is first set a little smaller, then
     /// broken into lines and, down to four fifths, set smaller again; at last it is shortened by dots. A path
-    /// is only shortened.
+    /// is only shortened. Text with line breaks of its own is set in lines from the start.
     void text(const std::string& text, const RECT& rect, const TextLook& look);
     /// Width of the text in one line.
     int textWidth(const std::string& text, const TextLook& look);
