@@ -30,10 +30,10 @@ void Logoff::bind() {
     screen_.onMouseMove = [this] { restAll(); };
     screen_.onKeyDown = [this](int keyCode) {
         if (keyCode == shiftKey) {
-            screen_.Label4.Caption = "Hibernate";
+            nameFirstButton("Hibernate");
         }
     };
-    screen_.onKeyUp = [this](int) { screen_.Label4.Caption = "Standby"; };
+    screen_.onKeyUp = [this](int) { nameFirstButton("Standby"); };
 
     bindButton(screen_.Image1, screen_.Image2,
                [this]() -> std::int16_t { return screen_.Label4.Caption() == "Standby" ? 1 : 0; });
@@ -52,6 +52,13 @@ void Logoff::bindButton(Picture& plain, Picture& lit, const std::function<std::i
     plain.onFocus = plain.onMouseMove;
     lit.onClick = [this, action] { choose(action()); };
     plain.onClick = lit.onClick; // By the keyboard, which does not pass over it.
+}
+
+/// On the label, which is the record of the SHIFT key, and on the pictures for those who hear them read.
+void Logoff::nameFirstButton(const char* name) {
+    screen_.Label4.Caption = name;
+    screen_.Image1.Caption = name;
+    screen_.Image2.Caption = name;
 }
 
 void Logoff::choose(std::int16_t action) {

@@ -22,6 +22,7 @@ public:
 private:
     void bind();
     void bindButton(Picture& plain, Picture& lit, const std::function<std::int16_t()>& action);
+    void nameFirstButton(const char* name);
     void choose(std::int16_t action);
     void restAll();
     void refuseSecondInstance();
