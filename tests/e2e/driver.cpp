@@ -117,14 +117,8 @@ void clickAt(HWND control, const RECT& place, const std::function<bool()>& ready
     mouse(MOUSEEVENTF_LEFTUP);
 }
 
-void clickOn(HWND control, const RECT& place) {
-    HWND const window = GetAncestor(control, GA_ROOT);
-    SetForegroundWindow(window);
-    clickAt(control, place, [window] { return GetForegroundWindow() == window; });
-}
-
 void clickOn(HWND control) {
-    clickOn(control, placeOf(control));
+    e2e::clickOn(control, placeOf(control));
 }
 
 bool isOfClass(HWND window, const char* name) {
@@ -195,6 +189,22 @@ bool comesTrue(const std::function<bool()>& holds, Milliseconds limit) {
     return true;
 }
 
+void clickOn(HWND control, const RECT& place) {
+    HWND const window = GetAncestor(control, GA_ROOT);
+    SetForegroundWindow(window);
+    clickAt(control, place, [window] { return GetForegroundWindow() == window; });
+}
+
+void pressKey(WORD key) {
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = key;
+    SendInput(1, &input, sizeof input);
+    Sleep(hand);
+    input.ki.dwFlags = KEYEVENTF_KEYUP;
+    SendInput(1, &input, sizeof input);
+}
+
 std::string plainBreaks(const std::string& text) {
     std::string plain;
     for (std::size_t i = 0; i < text.size(); ++i) {
@@ -216,18 +226,18 @@ bool Form::isVisible() const {
     return IsWindowVisible(window_) != 0;
 }
 
-HWND Form::find(const std::string& text) const {
+HWND Form::find(const std::string& text, std::size_t which) const {
     for (HWND child : visibleChildren(window_)) {
-        if (withoutMarks(shownText(child)) == text) {
+        if (withoutMarks(shownText(child)) == text && which-- == 0) {
             return child;
         }
     }
     return nullptr;
 }
 
-HWND Form::await(const std::string& text) const {
+HWND Form::await(const std::string& text, std::size_t which) const {
     HWND found = nullptr;
-    comesTrue([&] { return (found = find(text)) != nullptr; });
+    comesTrue([&] { return (found = find(text, which)) != nullptr; });
     if (found == nullptr) {
         throw NotSeen("no \"" + text + "\" on " + describe());
     }
@@ -242,8 +252,12 @@ void Form::awaitText(const std::string& text) const {
     await(text);
 }
 
-void Form::click(const std::string& text) const {
-    clickOn(await(text));
+void Form::click(const std::string& text, std::size_t which) const {
+    clickOn(await(text, which));
+}
+
+bool Form::isTicked(const std::string& text) const {
+    return send(await(text), BM_GETCHECK, 0, 0) == BST_CHECKED;
 }
 
 bool Form::isEnabled(const std::string& text) const {
@@ -251,12 +265,32 @@ bool Form::isEnabled(const std::string& text) const {
 }
 
 std::string Form::field() const {
-    for (HWND child : visibleChildren(window_)) {
-        if (isOfClass(child, "Edit")) {
-            return textOf(child);
-        }
+    const std::vector<std::string> all = fields();
+    if (all.empty()) {
+        throw NotSeen("no text field on " + describe());
     }
-    throw NotSeen("no text field on " + describe());
+    return all.front();
+}
+
+std::vector<HWND> Form::edits() const {
+    std::vector<HWND> all = visibleChildren(window_);
+    std::erase_if(all, [](HWND child) { return !isOfClass(child, "Edit"); });
+    return all;
+}
+
+std::vector<std::string> Form::fields() const {
+    std::vector<std::string> texts;
+    for (HWND edit : edits()) {
+        texts.push_back(textOf(edit));
+    }
+    return texts;
+}
+
+void Form::fill(std::size_t field, const std::string& text) const {
+    if (!comesTrue([&] { return edits().size() > field; })) {
+        throw NotSeen("no text field to write \"" + text + "\" into on " + describe());
+    }
+    send(edits()[field], WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()));
 }
 
 HWND Form::tree() const {

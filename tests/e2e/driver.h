@@ -30,6 +30,12 @@ bool comesTrue(const std::function<bool()>& holds, Milliseconds limit = patience
 /// Every line break as a single "\n", whichever way the system stores it.
 std::string plainBreaks(const std::string& text);
 
+/// Presses and releases the mouse in the middle of a part of a control, given in places of the screen.
+void clickOn(HWND control, const RECT& place);
+
+/// Presses and releases a key, which goes to where the keyboard is.
+void pressKey(WORD key);
+
 /// One top-level window of the program. Controls are found by the text that the user reads.
 class Form {
 public:
@@ -44,14 +50,22 @@ public:
     /// Waits for that.
     void awaitText(const std::string& text) const;
 
-    /// Presses and releases the mouse on the control with this text, once it is there.
-    void click(const std::string& text) const;
+    /// Presses and releases the mouse on the control with this text, once it is there. `which` counts from 0
+    /// through several with the same text, in the order of the keyboard.
+    void click(const std::string& text, std::size_t which = 0) const;
+
+    /// True when the check box or option button with this text is ticked.
+    bool isTicked(const std::string& text) const;
 
     /// False while the control with this text answers to nothing.
     bool isEnabled(const std::string& text) const;
 
     /// What stands in the visible text field.
     std::string field() const;
+    /// What stands in all visible text fields, in the order of the keyboard.
+    std::vector<std::string> fields() const;
+    /// Writes into one of them, once it is there.
+    void fill(std::size_t field, const std::string& text) const;
 
     /// The visible tree, for `TreeView`.
     HWND tree() const;
@@ -79,8 +93,9 @@ public:
     std::string describe() const;
 
 private:
-    HWND find(const std::string& text) const;
-    HWND await(const std::string& text) const;
+    HWND find(const std::string& text, std::size_t which = 0) const;
+    HWND await(const std::string& text, std::size_t which = 0) const;
+    std::vector<HWND> edits() const;
     HWND dropDown() const;
 
     HWND window_;

@@ -1,5 +1,7 @@
 #include "tree_view.h"
 
+#include <cstring>
+
 namespace e2e {
 
 TreeView::TreeView(HWND window)
@@ -41,7 +43,7 @@ std::string TreeView::textOf(HTREEITEM item) const {
     page.item.pszText = there_->text;
     page.item.cchTextMax = MAX_PATH;
     WriteProcessMemory(process_, there_, &page, sizeof page, nullptr);
-    SendMessageA(window_, TVM_GETITEMW, 0, reinterpret_cast<LPARAM>(there_));
+    SendMessageA(window_, TVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&there_->item));
     ReadProcessMemory(process_, there_, &page, sizeof page, nullptr);
     char text[MAX_PATH] = {};
     WideCharToMultiByte(CP_ACP, 0, page.text, -1, text, sizeof text, nullptr, nullptr);
@@ -62,6 +64,17 @@ std::string TreeView::describe(HTREEITEM parent) const {
         all += " [" + text + "]";
     }
     return all;
+}
+
+RECT TreeView::placeOf(HTREEITEM item) const {
+    // The tree takes the entry out of the place that it then fills.
+    Page page{};
+    std::memcpy(&page.place, &item, sizeof item);
+    WriteProcessMemory(process_, there_, &page, sizeof page, nullptr);
+    SendMessageA(window_, TVM_GETITEMRECT, TRUE, reinterpret_cast<LPARAM>(&there_->place));
+    ReadProcessMemory(process_, there_, &page, sizeof page, nullptr);
+    MapWindowPoints(window_, nullptr, reinterpret_cast<POINT*>(&page.place), 2);
+    return page.place;
 }
 
 void TreeView::open(HTREEITEM item) const {

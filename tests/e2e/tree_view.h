@@ -26,6 +26,9 @@ public:
     /// The same for messages about failures.
     std::string describe(HTREEITEM parent) const;
 
+    /// Where the entry's text stands on the screen.
+    RECT placeOf(HTREEITEM item) const;
+
     void open(HTREEITEM item) const;
     void select(HTREEITEM item) const;
 
@@ -33,6 +36,7 @@ private:
     /// A piece of the other process's memory, through which its tree answers.
     struct Page {
         TVITEMW item;
+        RECT place;
         wchar_t text[MAX_PATH];
     };
 
