@@ -7,12 +7,12 @@ namespace tarvelon {
 namespace {
 
 constexpr ItemsWindow::Messages listMessages{
-    LB_ADDSTRING, LB_MSGMAX,    LB_RESETCONTENT,  LB_ADDSTRING,
-    LB_SETCURSEL, LB_GETCURSEL, LB_SETITEMHEIGHT, LBN_SELCHANGE,
+    LB_ADDSTRING, LB_MSGMAX,      LB_RESETCONTENT, LB_ADDSTRING,     LB_SETCURSEL,
+    LB_GETCURSEL, LB_GETTOPINDEX, LB_SETTOPINDEX,  LB_SETITEMHEIGHT, LBN_SELCHANGE,
 };
 constexpr ItemsWindow::Messages comboMessages{
-    CB_GETEDITSEL, CB_MSGMAX,    CB_RESETCONTENT,  CB_ADDSTRING,
-    CB_SETCURSEL,  CB_GETCURSEL, CB_SETITEMHEIGHT, CBN_SELCHANGE,
+    CB_GETEDITSEL, CB_MSGMAX,      CB_RESETCONTENT, CB_ADDSTRING,     CB_SETCURSEL,
+    CB_GETCURSEL,  CB_GETTOPINDEX, CB_SETTOPINDEX,  CB_SETITEMHEIGHT, CBN_SELCHANGE,
 };
 
 } // namespace
@@ -57,7 +57,9 @@ void ItemsWindow::followRows() {
     if (holdsDrawing) {
         handleAsClass(WM_SETREDRAW, FALSE, 0);
     }
+    LRESULT topRow = 0;
     if (rows_ < 0) {
+        topRow = handleAsClass(messages_.getTop, 0, 0);
         handleAsClass(messages_.clear, 0, 0);
         rows_ = 0;
     }
@@ -67,6 +69,10 @@ void ItemsWindow::followRows() {
                       reinterpret_cast<LPARAM>(items_.items()[static_cast<std::size_t>(rows_)].c_str()));
     }
     handleAsClass(messages_.setSelected, static_cast<WPARAM>(items_.listIndex()), 0);
+    if (topRow > 0 && topRow < items_.count()) {
+        // Rows that change their text do not move.
+        handleAsClass(messages_.setTop, static_cast<WPARAM>(topRow), 0);
+    }
     rowsAdded(first);
     if (holdsDrawing) {
         handleAsClass(WM_SETREDRAW, TRUE, 0);

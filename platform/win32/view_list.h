@@ -17,6 +17,8 @@ public:
         UINT add;
         UINT setSelected;
         UINT getSelected;
+        UINT getTop;
+        UINT setTop;
         UINT setRowHeight;
         int selectionChanged;
     };
