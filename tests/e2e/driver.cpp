@@ -1,4 +1,5 @@
 #include "driver.h"
+#include "seen_windows.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -9,39 +10,6 @@ namespace {
 
 constexpr DWORD pollInterval = 20; // milliseconds
 constexpr DWORD hand = 60;         // milliseconds between the parts of a click
-constexpr UINT answerTime = 5'000; // milliseconds that a busy window may take for one message
-
-std::string classOf(HWND window) {
-    char name[64] = {};
-    GetClassNameA(window, name, sizeof name);
-    return name;
-}
-
-LRESULT send(HWND window, UINT message, WPARAM first, LPARAM second) {
-    DWORD_PTR result = 0;
-    SendMessageTimeoutA(window, message, first, second, SMTO_NORMAL, answerTime, &result);
-    return static_cast<LRESULT>(result);
-}
-
-std::string textOf(HWND window) {
-    char text[4096] = {};
-    send(window, WM_GETTEXT, sizeof text, reinterpret_cast<LPARAM>(text));
-    return text;
-}
-
-std::string narrow(const wchar_t* wide) {
-    char text[4096] = {};
-    WideCharToMultiByte(CP_ACP, 0, wide, -1, text, sizeof text, nullptr, nullptr);
-    return text;
-}
-
-/// The text as the system keeps it. Unlike `textOf`, it asks nothing of the program, which answers only
-/// between two files while it scans.
-std::string shownText(HWND window) {
-    wchar_t wide[1024] = {};
-    InternalGetWindowText(window, wide, 1024);
-    return narrow(wide);
-}
 
 /// Wide, since the narrow message comes back unconverted from another process.
 std::string rowText(HWND list, WPARAM row) {
@@ -49,30 +17,6 @@ std::string rowText(HWND list, WPARAM row) {
     SendMessageTimeoutW(list, LB_GETTEXT, row, reinterpret_cast<LPARAM>(wide), SMTO_NORMAL, answerTime,
                         nullptr);
     return narrow(wide);
-}
-
-/// The texts of buttons mark their access key with "&"; two of them show as one.
-std::string withoutMarks(const std::string& text) {
-    std::string shown;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        i += text[i] == '&' ? 1 : 0;
-        shown += i < text.size() ? text.substr(i, 1) : "";
-    }
-    return shown;
-}
-
-std::vector<HWND> visibleChildren(HWND parent) {
-    std::vector<HWND> children;
-    EnumChildWindows(
-        parent,
-        [](HWND child, LPARAM list) {
-            if (IsWindowVisible(child) != 0) {
-                reinterpret_cast<std::vector<HWND>*>(list)->push_back(child);
-            }
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&children));
-    return children;
 }
 
 RECT placeOf(HWND window) {
@@ -414,105 +358,6 @@ void Box::press(const std::string& button) const {
         }
     }
     throw NotSeen("no button \"" + button + "\" under \"" + text + "\"");
-}
-
-Program::Program(const std::string& file, const std::string& arguments) {
-    std::string commandLine = "\"" + file + "\"" + (arguments.empty() ? "" : " " + arguments);
-    STARTUPINFOA start{};
-    start.cb = sizeof start;
-    if (CreateProcessA(file.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
-                       &process_) == 0) {
-        throw NotSeen(file + " cannot be started");
-    }
-}
-
-Program::~Program() {
-    TerminateProcess(process_.hProcess, 1);
-    WaitForSingleObject(process_.hProcess, INFINITE);
-    CloseHandle(process_.hThread);
-    CloseHandle(process_.hProcess);
-}
-
-std::vector<HWND> Program::windows() const {
-    struct Search {
-        DWORD process;
-        std::vector<HWND> found;
-    } search{process_.dwProcessId, {}};
-    EnumWindows(
-        [](HWND window, LPARAM argument) {
-            auto& wanted = *reinterpret_cast<Search*>(argument);
-            DWORD owner = 0;
-            GetWindowThreadProcessId(window, &owner);
-            if (owner == wanted.process && IsWindowVisible(window) != 0) {
-                wanted.found.push_back(window);
-            }
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&search));
-    return search.found;
-}
-
-std::optional<HWND> Program::formNow(const std::string& captionPart) const {
-    for (HWND window : windows()) {
-        if (classOf(window) == "TarvelonForm" && shownText(window).find(captionPart) != std::string::npos) {
-            return window;
-        }
-    }
-    return std::nullopt;
-}
-
-bool Program::hasForm(const std::string& captionPart) const {
-    return formNow(captionPart).has_value();
-}
-
-Form Program::form(const std::string& captionPart) const {
-    std::optional<HWND> window;
-    if (!comesTrue([&] { return (window = formNow(captionPart)).has_value(); })) {
-        throw NotSeen("no window \"" + captionPart + "\"; " + describe());
-    }
-    if (IsIconic(*window) != 0) {
-        send(*window, WM_SYSCOMMAND, SC_RESTORE, 0);
-    }
-    return Form(*window);
-}
-
-Box Program::box() const {
-    HWND found = nullptr;
-    const bool came = comesTrue([&] {
-        const std::vector<HWND> all = windows();
-        const auto box =
-            std::find_if(all.begin(), all.end(), [](HWND window) { return classOf(window) == "#32770"; });
-        found = box == all.end() ? nullptr : *box;
-        return found != nullptr;
-    });
-    if (!came) {
-        throw NotSeen("no message box; " + describe());
-    }
-    Box box{found, textOf(found), "", {}};
-    for (HWND child : visibleChildren(found)) {
-        const std::string text = textOf(child);
-        if (classOf(child) == "Button") {
-            box.buttons.push_back(withoutMarks(text));
-        } else if (!text.empty()) {
-            box.text = plainBreaks(text);
-        }
-    }
-    return box;
-}
-
-bool Program::ends(Milliseconds limit) const {
-    return WaitForSingleObject(process_.hProcess, static_cast<DWORD>(limit.count())) == WAIT_OBJECT_0;
-}
-
-std::string Program::describe() const {
-    if (ends(Milliseconds(0))) {
-        return "the program has ended";
-    }
-    std::string all = "on the screen:";
-    for (HWND window : windows()) {
-        all += " " + Form(window).describe();
-    }
-    return all;
 }
 
 } // namespace e2e

@@ -1,0 +1,109 @@
+// The program under test as a process, and the windows it has.
+
+#include "driver.h"
+#include "seen_windows.h"
+
+#include <algorithm>
+
+namespace e2e {
+
+Program::Program(const std::string& file, const std::string& arguments) {
+    std::string commandLine = "\"" + file + "\"" + (arguments.empty() ? "" : " " + arguments);
+    STARTUPINFOA start{};
+    start.cb = sizeof start;
+    if (CreateProcessA(file.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
+                       &process_) == 0) {
+        throw NotSeen(file + " cannot be started");
+    }
+}
+
+Program::~Program() {
+    TerminateProcess(process_.hProcess, 1);
+    WaitForSingleObject(process_.hProcess, INFINITE);
+    CloseHandle(process_.hThread);
+    CloseHandle(process_.hProcess);
+}
+
+std::vector<HWND> Program::windows() const {
+    struct Search {
+        DWORD process;
+        std::vector<HWND> found;
+    } search{process_.dwProcessId, {}};
+    EnumWindows(
+        [](HWND window, LPARAM argument) {
+            auto& wanted = *reinterpret_cast<Search*>(argument);
+            DWORD owner = 0;
+            GetWindowThreadProcessId(window, &owner);
+            if (owner == wanted.process && IsWindowVisible(window) != 0) {
+                wanted.found.push_back(window);
+            }
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&search));
+    return search.found;
+}
+
+std::optional<HWND> Program::formNow(const std::string& captionPart) const {
+    for (HWND window : windows()) {
+        if (classOf(window) == "TarvelonForm" && shownText(window).find(captionPart) != std::string::npos) {
+            return window;
+        }
+    }
+    return std::nullopt;
+}
+
+bool Program::hasForm(const std::string& captionPart) const {
+    return formNow(captionPart).has_value();
+}
+
+Form Program::form(const std::string& captionPart) const {
+    std::optional<HWND> window;
+    if (!comesTrue([&] { return (window = formNow(captionPart)).has_value(); })) {
+        throw NotSeen("no window \"" + captionPart + "\"; " + describe());
+    }
+    if (IsIconic(*window) != 0) {
+        send(*window, WM_SYSCOMMAND, SC_RESTORE, 0);
+    }
+    return Form(*window);
+}
+
+Box Program::box() const {
+    HWND found = nullptr;
+    const bool came = comesTrue([&] {
+        const std::vector<HWND> all = windows();
+        const auto box =
+            std::find_if(all.begin(), all.end(), [](HWND window) { return classOf(window) == "#32770"; });
+        found = box == all.end() ? nullptr : *box;
+        return found != nullptr;
+    });
+    if (!came) {
+        throw NotSeen("no message box; " + describe());
+    }
+    Box box{found, textOf(found), "", {}};
+    for (HWND child : visibleChildren(found)) {
+        const std::string text = textOf(child);
+        if (classOf(child) == "Button") {
+            box.buttons.push_back(withoutMarks(text));
+        } else if (!text.empty()) {
+            box.text = plainBreaks(text);
+        }
+    }
+    return box;
+}
+
+bool Program::ends(Milliseconds limit) const {
+    return WaitForSingleObject(process_.hProcess, static_cast<DWORD>(limit.count())) == WAIT_OBJECT_0;
+}
+
+std::string Program::describe() const {
+    if (ends(Milliseconds(0))) {
+        return "the program has ended";
+    }
+    std::string all = "on the screen:";
+    for (HWND window : windows()) {
+        all += " " + Form(window).describe();
+    }
+    return all;
+}
+
+} // namespace e2e

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+namespace e2e {
+
+// Windows of another process, as they answer from outside.
+
+/// Milliseconds that a busy window may take for one message.
+inline constexpr UINT answerTime = 5'000;
+
+std::string narrow(const wchar_t* wide);
+
+std::string classOf(HWND window);
+
+/// The window's answer; 0 when it gives none in time.
+LRESULT send(HWND window, UINT message, WPARAM first, LPARAM second);
+
+/// The window's own text.
+std::string textOf(HWND window);
+
+/// The text as the system keeps it. Unlike `textOf`, it asks nothing of the program, which answers only
+/// between two files while it scans.
+std::string shownText(HWND window);
+
+/// The text as it shows: a button marks its access key with "&", and two of them show as one.
+std::string withoutMarks(const std::string& text);
+
+/// All below the window that can be seen.
+std::vector<HWND> visibleChildren(HWND parent);
+
+} // namespace e2e
