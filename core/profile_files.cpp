@@ -20,7 +20,7 @@ bool ProfileFiles::write(const std::string& path, const std::string& section, co
         if (!file || !refresh(path, *file)) {
             return false;
         }
-        const std::size_t oldLength = image_.text().size();
+        const std::size_t oldLength = image_.size();
         const std::size_t changed = image_.write(section, key, value);
         if (!writeFrom(*file, changed, oldLength)) {
             path_.clear();
@@ -60,11 +60,10 @@ bool ProfileFiles::refresh(const std::string& path, OpenFile& file) {
 }
 
 bool ProfileFiles::writeFrom(OpenFile& file, std::size_t position, std::size_t oldLength) {
-    const std::string_view tail = std::string_view(image_.text()).substr(position);
-    if (!file.writeAt(position, tail)) {
+    if (!file.writeAt(position, image_.from(position))) {
         return false;
     }
-    return image_.text().size() >= oldLength || file.setLength(image_.text().size());
+    return image_.size() >= oldLength || file.setLength(image_.size());
 }
 
 } // namespace tarvelon

@@ -42,124 +42,164 @@ std::optional<std::string_view> sectionHead(std::string_view line) {
     return trimBlanks(line.substr(1, close - 1));
 }
 
+/// A `key=value` line, as opposed to all others.
+bool isEntry(std::string_view trimmedLine) {
+    return trimmedLine.find('=') != std::string_view::npos && trimmedLine.front() != ';' &&
+           !sectionHead(trimmedLine);
+}
+
+/// What is written under an odd key, or as an odd value, may come out as several lines or as a section head.
+bool isOneLine(std::string_view line) {
+    return line.find('\n') >= line.size() - 1 && !sectionHead(trimBlanks(withoutLineEnd(line)));
+}
+
 } // namespace
 
 void ProfileImage::setText(std::string text) {
-    text_ = std::move(text);
+    text_.set(std::move(text));
     parsed_ = false;
 }
 
 std::optional<std::string> ProfileImage::read(std::string_view section, std::string_view key) {
     parse();
-    const auto found = lines_.find(lookupName(section, key));
-    if (found == lines_.end()) {
+    const auto found = keys_.find(lookupName(section, key));
+    if (found == keys_.end()) {
         return std::nullopt;
     }
     const std::string_view line =
-        withoutLineEnd(std::string_view(text_).substr(lineStart(found->second), lengths_[found->second]));
+        withoutLineEnd(text_.piece(lineStart(found->second), lineLength(found->second)));
     return std::string(withoutQuotes(trimBlanks(line.substr(line.find('=') + 1))));
 }
 
 std::size_t ProfileImage::write(std::string_view section, std::string_view key, std::string_view value) {
     parse();
-    const auto found = lines_.find(lookupName(section, key));
-    if (found != lines_.end()) {
-        const std::size_t number = found->second;
-        const std::size_t start = lineStart(number);
-        const std::string_view old = std::string_view(text_).substr(start, lengths_[number]);
-        const std::string_view body = withoutLineEnd(old);
-        const std::string ending(old.substr(body.size()));
-        const std::string line =
-            std::string(body.substr(0, body.find('='))).append("=").append(value).append(ending);
-        const std::size_t oldLength = old.size();
-        text_.replace(start, oldLength, line);
-        resizeLine(number, oldLength, line.size());
+    const auto found = keys_.find(lookupName(section, key));
+    if (found != keys_.end()) {
+        const std::size_t start = lineStart(found->second);
+        replaceValue(found->second, start, value);
         return start;
     }
 
     const std::string entry = std::string(key).append("=").append(value).append(lineEnd);
-    const auto home = sections_.find(lookupName(section, {}));
+    const std::string prefix = lookupName(section, {});
+    const auto home = sections_.find(prefix);
     if (home != sections_.end()) {
-        const std::size_t last = home->second.lastUsedLine;
-        return insertLines(lineStart(last) + lengths_[last], entry);
+        const std::size_t part = home->second;
+        const std::size_t position = partLengths_.before(part) + parts_[part].lines.total();
+        insertEntry(part, prefix, position, entry);
+        return position;
     }
-    return insertLines(
-        text_.size(), std::string("[").append(trimBlanks(section)).append("]").append(lineEnd).append(entry));
+    const std::size_t position = text_.size();
+    const bool openLine = position > 0 && from(position - 1) != "\n";
+    text_.replace(position, 0,
+                  std::string(openLine ? lineEnd : "")
+                      .append("[")
+                      .append(trimBlanks(section))
+                      .append("]")
+                      .append(lineEnd)
+                      .append(entry));
+    parsed_ = false;
+    return position;
 }
 
-/// Splits the text into lines and notes the first line of each key and the extent of each section. Of two
-/// sections with one name the first counts.
+void ProfileImage::replaceValue(Place place, std::size_t start, std::string_view value) {
+    const std::string_view old = text_.piece(start, lineLength(place));
+    const std::size_t oldLength = old.size();
+    const std::string_view body = withoutLineEnd(old);
+    const std::string line =
+        std::string(body.substr(0, body.find('='))).append("=").append(value).append(old.substr(body.size()));
+    text_.replace(start, oldLength, line);
+    parts_[place.part].lines.add(place.line, line.size() - oldLength);
+    partLengths_.add(place.part, line.size() - oldLength);
+    parsed_ = isOneLine(line);
+}
+
+/// Puts a new line behind a part's last one, and a line end first where that one lacks it.
+void ProfileImage::insertEntry(std::size_t part, const std::string& prefix, std::size_t position,
+                               const std::string& entry) {
+    const bool openLine = text_.piece(position - 1, 1) != "\n";
+    text_.replace(position, 0, openLine ? std::string(lineEnd).append(entry) : entry);
+    if (openLine || !isOneLine(entry)) {
+        parsed_ = false;
+        return;
+    }
+    PrefixSums& lines = parts_[part].lines;
+    if (const std::string_view line = trimBlanks(withoutLineEnd(entry)); isEntry(line)) {
+        noteKey(prefix, line, {part, lines.count()});
+    }
+    lines.append(entry.size());
+    partLengths_.add(part, entry.size());
+}
+
+/// Splits the text into parts and lines and notes the first line of each key. Of two sections with one name
+/// the first counts.
 void ProfileImage::parse() {
     if (parsed_) {
         return;
     }
-    lengths_.clear();
-    lines_.clear();
+    parts_.clear();
+    partLengths_ = {};
+    keys_.clear();
     sections_.clear();
-    Section* current = nullptr;
+    beginPart();
+    bool counts = false;
     std::string prefix;
-    for (std::size_t start = 0; start < text_.size();) {
-        const std::size_t feed = text_.find('\n', start);
-        const std::size_t end = feed == std::string::npos ? text_.size() : feed + 1;
-        const std::size_t number = lengths_.size();
-        lengths_.push_back(static_cast<std::uint32_t>(end - start));
-        const std::string_view line =
-            trimBlanks(withoutLineEnd(std::string_view(text_).substr(start, end - start)));
+    const std::string_view text = from(0);
+    for (std::size_t start = 0; start < text.size();) {
+        const std::size_t feed = text.find('\n', start);
+        const std::size_t end = feed == std::string_view::npos ? text.size() : feed + 1;
+        const std::size_t length = end - start;
+        const std::string_view line = trimBlanks(withoutLineEnd(text.substr(start, length)));
         start = end;
 
         if (const auto head = sectionHead(line)) {
+            beginPart();
             prefix = lookupName(*head, {});
-            const auto [place, isNew] = sections_.try_emplace(prefix, Section{number});
-            current = isNew ? &place->second : nullptr;
+            counts = sections_.try_emplace(prefix, parts_.size() - 1).second;
+        } else if (line.empty()) {
+            parts_.back().blankEnd += length;
+            partLengths_.add(parts_.size() - 1, length);
             continue;
         }
-        if (!current || line.empty()) {
-            continue;
-        }
-        current->lastUsedLine = number;
-        const std::size_t equals = line.find('=');
-        if (equals != std::string_view::npos && line.front() != ';') {
-            lines_.try_emplace(prefix + cases_->upper(trimBlanks(line.substr(0, equals))), number);
-        }
-    }
-
-    sums_.assign(lengths_.size() + 1, 0);
-    for (std::size_t i = 1; i < sums_.size(); ++i) {
-        sums_[i] += lengths_[i - 1];
-        const std::size_t parent = i + (i & (~i + 1));
-        if (parent < sums_.size()) {
-            sums_[parent] += sums_[i];
+        appendLine(length);
+        if (counts && isEntry(line)) {
+            noteKey(prefix, line, {parts_.size() - 1, parts_.back().lines.count() - 1});
         }
     }
     parsed_ = true;
+}
+
+void ProfileImage::beginPart() {
+    parts_.emplace_back();
+    partLengths_.append(0);
+}
+
+/// Blank lines in front of another line count as one with them all.
+void ProfileImage::appendLine(std::size_t length) {
+    Part& part = parts_.back();
+    if (part.blankEnd > 0) {
+        part.lines.append(part.blankEnd);
+        part.blankEnd = 0;
+    }
+    part.lines.append(length);
+    partLengths_.add(parts_.size() - 1, length);
+}
+
+void ProfileImage::noteKey(const std::string& prefix, std::string_view line, Place place) {
+    keys_.try_emplace(prefix + cases_->upper(trimBlanks(line.substr(0, line.find('=')))), place);
 }
 
 std::string ProfileImage::lookupName(std::string_view section, std::string_view key) const {
     return cases_->upper(trimBlanks(section)).append("\n").append(cases_->upper(trimBlanks(key)));
 }
 
-std::size_t ProfileImage::lineStart(std::size_t line) const {
-    std::size_t start = 0;
-    for (std::size_t i = line; i > 0; i &= i - 1) {
-        start += sums_[i];
-    }
-    return start;
+std::size_t ProfileImage::lineStart(Place place) const {
+    return partLengths_.before(place.part) + parts_[place.part].lines.before(place.line);
 }
 
-void ProfileImage::resizeLine(std::size_t line, std::size_t oldLength, std::size_t newLength) {
-    const auto difference = static_cast<std::uint32_t>(newLength) - static_cast<std::uint32_t>(oldLength);
-    lengths_[line] += difference; // Unsigned arithmetic wraps, so a shrinking line comes out right.
-    for (std::size_t i = line + 1; i < sums_.size(); i += i & (~i + 1)) {
-        sums_[i] += difference;
-    }
-}
-
-/// Puts whole lines in front of `position`, and a line end first where the text before lacks one.
-std::size_t ProfileImage::insertLines(std::size_t position, std::string_view lines) {
-    const bool openLine = position > 0 && text_[position - 1] != '\n';
-    text_.insert(position, (openLine ? std::string(lineEnd) : std::string()).append(lines));
-    parsed_ = false;
-    return position;
+std::size_t ProfileImage::lineLength(Place place) const {
+    const PrefixSums& lines = parts_[place.part].lines;
+    return lines.before(place.line + 1) - lines.before(place.line);
 }
 
 } // namespace tarvelon

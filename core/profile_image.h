@@ -1,9 +1,10 @@
 #pragma once
 
+#include "core/gap_text.h"
+#include "core/prefix_sums.h"
 #include "core/text.h"
 
 #include <cstddef>
-#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -20,8 +21,12 @@ public:
     explicit ProfileImage(const CaseRules& cases)
         : cases_(&cases) {}
 
-    const std::string& text() const { return text_; }
+    std::string text() const { return text_.whole(); }
     void setText(std::string text);
+
+    std::size_t size() const { return text_.size(); }
+    /// The text from `position` on. Good until the next call.
+    std::string_view from(std::size_t position) { return text_.piece(position, text_.size()); }
 
     /// Empty without such a key.
     std::optional<std::string> read(std::string_view section, std::string_view key);
@@ -32,23 +37,35 @@ public:
     std::size_t write(std::string_view section, std::string_view key, std::string_view value);
 
 private:
-    struct Section {
-        std::size_t lastUsedLine; ///< Its last line that is not blank, the head included.
+    /// A section head and what stands behind it up to the next one; what stands in front of the first head is
+    /// a part as well. Keys are added behind `lines`, so no line's number ever changes.
+    struct Part {
+        PrefixSums lines; ///< Lengths, line ends included, up to the last line that is not blank.
+        std::size_t blankEnd = 0;
+    };
+    struct Place {
+        std::size_t part;
+        std::size_t line;
     };
 
     void parse();
+    void beginPart();
+    void appendLine(std::size_t length);
+    void noteKey(const std::string& prefix, std::string_view line, Place place);
+    void replaceValue(Place place, std::size_t start, std::string_view value);
+    void insertEntry(std::size_t part, const std::string& prefix, std::size_t position,
+                     const std::string& entry);
     std::string lookupName(std::string_view section, std::string_view key) const;
-    std::size_t lineStart(std::size_t line) const;
-    void resizeLine(std::size_t line, std::size_t oldLength, std::size_t newLength);
-    std::size_t insertLines(std::size_t position, std::string_view lines);
+    std::size_t lineStart(Place place) const;
+    std::size_t lineLength(Place place) const;
 
     const CaseRules* cases_;
-    std::string text_;
+    GapText text_;
     bool parsed_ = false;
-    std::vector<std::uint32_t> lengths_; ///< Of each line, its line end included.
-    std::vector<std::uint32_t> sums_;    ///< Partial sums of the lengths (Fenwick tree).
-    std::unordered_map<std::string, std::size_t> lines_;
-    std::unordered_map<std::string, Section> sections_;
+    std::vector<Part> parts_;
+    PrefixSums partLengths_;
+    std::unordered_map<std::string, Place> keys_;
+    std::unordered_map<std::string, std::size_t> sections_; ///< Numbers of the parts that count.
 };
 
 } // namespace tarvelon
