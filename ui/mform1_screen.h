@@ -173,9 +173,9 @@ struct MForm1Screen : Screen {
                   at(112, 232, 472, 24)};
 
     // Compare Speeds: the report, and one of its three tests as a chart.
-    ListBox List1{advF, at(16, 264, 456, 162)};
-    Label chartHeading{advF, "Time by buffer:", at(480, 262, 104, 18), TextStyle::Hint};
-    BarChart speedChart{advF, "", 4, at(480, 280, 104, 146)};
+    ListBox List1{advF, at(16, 264, 468, 162)};
+    Label chartHeading{advF, "Time by buffer:", at(490, 262, 102, 18), TextStyle::Hint};
+    BarChart speedChart{advF, "", 4, at(490, 280, 94, 146)};
     FlatButton cSave2{advF, "Save", at(16, 440, 136, 32)};
     FlatButton cButton1{advF, "Cancel", at(160, 440, 136, 32)};
     FlatButton cSpeeds{advF, "Compare Speeds", at(408, 440, 176, 32)};

@@ -149,7 +149,7 @@ LRESULT ListBoxWindow::handle(UINT message, WPARAM wide, LPARAM low) {
 }
 
 void ListBoxWindow::applyToolTip() {
-    toolTip_.set(window(), items().ToolTip(), scale()(480));
+    toolTip_.set(items().ToolTip(), scale()(480));
 }
 
 void CheckListWindow::notified(int code) {

@@ -1,9 +1,10 @@
 // Shows the real program at work, for a machine without a display: its first full scan, then a changed and an
 // added file. What it says comes from the program's screen. A line "@picture NAME" asks the script that
-// started this for a picture of the screen; the tour goes on when the file NAME is there. usage: tour PROGRAM
+// started this for a picture of the screen. usage: tour PROGRAM
 // PICTURES-FOLDER
 
 #include "driver.h"
+#include "pictures.h"
 #include "workplace.h"
 
 #include <cstdio>
@@ -15,22 +16,17 @@ namespace {
 const char* const plantedFile = "tourletter.dll";
 const char* const addedFile = "tourvisitor.exe";
 
-void say(const std::string& sentence) {
-    std::printf("%s\n", sentence.c_str());
-    std::fflush(stdout);
-}
-
 class Tour {
 public:
-    explicit Tour(std::string pictures)
-        : pictures_(std::move(pictures)) {}
+    explicit Tour(const std::string& pictures)
+        : pictures_(pictures) {}
 
     void firstScan() {
         say("The program starts for the first time. It asks:");
         const Program program(folder_.program());
         const Box question = program.box();
         say("  \"" + question.text + "\"");
-        picture("1-question");
+        pictures_.take("1-question");
         say("The answer is Yes.");
         question.press("Yes");
         const auto start = std::chrono::steady_clock::now();
@@ -39,7 +35,7 @@ public:
         scan.click("Pause");
         scan.awaitText("Resume");
         say("The scan is held for a moment; its window reads \"" + scan.caption() + "\".");
-        picture("2-scan");
+        pictures_.take("2-scan");
         scan.click("Resume");
 
         const Form window = program.form("Welcome to Tarvelon");
@@ -47,7 +43,7 @@ public:
             std::chrono::duration_cast<std::chrono::seconds>(std::chrono::steady_clock::now() - start);
         say("The first full scan of " + systemDirectory() + " is over after " +
             std::to_string(taken.count()) + " seconds, the pause included. The main window opens.");
-        picture("3-main-window");
+        pictures_.take("3-main-window");
         window.close();
         program.ends();
         say("The baseline holds " + std::to_string(entryCount()) + " files.");
@@ -65,23 +61,17 @@ public:
         for (const char* label : {"Total Files Scanned:", "New Files:", "Failed Files:", "Passing Files:"}) {
             say("  " + std::string(label) + " " + results.beside(label));
         }
-        picture("4-results");
+        pictures_.take("4-results");
         results.click("Repair and Update Failed Files...");
         results.awaitText("Failed Files List");
         say("The list of new and failed files:");
         for (const std::string& row : results.rows()) {
             say("  " + row);
         }
-        picture("5-failed-files");
+        pictures_.take("5-failed-files");
     }
 
 private:
-    void picture(const std::string& name) const {
-        Sleep(300); // the last paint reaches the screen
-        say("@picture " + name + ".png");
-        comesTrue([&] { return readFile(pictures_ + name + ".png").has_value(); });
-    }
-
     std::size_t entryCount() const {
         const std::string text = folder_.data("Integrity.dat").value_or("");
         std::size_t count = 0;
@@ -98,7 +88,7 @@ private:
         return folder;
     }
 
-    const std::string pictures_;
+    const Pictures pictures_;
     const ProgramFolder folder_ = makeFolder();
     const PlantedFile planted_{systemDirectory() + plantedFile, "A letter that stays as it is.\r\n"};
 };

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+
+namespace e2e {
+
+/// Prints a line at once, for the script that started this program and for the person who reads along.
+void say(const std::string& line);
+
+/// Asks the script that started this program for pictures of the screen: a line "@picture NAME" each.
+class Pictures {
+public:
+    /// `folder`, with a backslash, is where the script puts them.
+    explicit Pictures(std::string folder)
+        : folder_(std::move(folder)) {}
+
+    /// Returns when the picture is there. The name goes without ".png".
+    void take(const std::string& name) const;
+
+private:
+    std::string folder_;
+};
+
+} // namespace e2e
