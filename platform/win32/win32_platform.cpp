@@ -9,9 +9,15 @@ namespace tarvelon {
 
 namespace {
 
-/// Libraries loaded later are not looked for in the current folder, which may be anybody's.
-void forgetCurrentFolderForLibraries() {
+/// Libraries loaded later are looked for in the system directory alone where the system can be told so, and
+/// else at least not in the current folder, which may be anybody's.
+void trustSystemDirectoryOnly() {
     const SystemLibrary kernel("kernel32.dll");
+    constexpr DWORD searchSystem32 = 0x800;
+    using SetDefaultDllDirectories = BOOL WINAPI(DWORD flags);
+    if (const auto setDefault = kernel.find<SetDefaultDllDirectories>("SetDefaultDllDirectories")) {
+        setDefault(searchSystem32);
+    }
     using SetDllDirectory = BOOL WINAPI(LPCSTR path);
     if (const auto setDllDirectory = kernel.find<SetDllDirectory>("SetDllDirectoryA")) {
         setDllDirectory("");
@@ -21,7 +27,7 @@ void forgetCurrentFolderForLibraries() {
 } // namespace
 
 Win32Platform::Win32Platform() {
-    forgetCurrentFolderForLibraries();
+    trustSystemDirectoryOnly();
     CoInitialize(nullptr);
 }
 

@@ -71,6 +71,10 @@ std::array<int, 3> Win32Processes::programVersion() {
 }
 
 bool Win32Processes::start(const std::string& commandLine, WindowStyle style) {
+    // A bare name is looked for in the current folder too, and what is started looks there for its libraries:
+    // it must not be a folder that the user has last opened or that a link has chosen.
+    const std::string program = programFile();
+    SetCurrentDirectoryA(program.substr(0, program.rfind('\\') + 1).c_str());
     STARTUPINFOA startup{};
     startup.cb = sizeof startup;
     startup.dwFlags = STARTF_USESHOWWINDOW;

@@ -130,6 +130,9 @@ public:
     /// True when the process has ended by itself within `limit`.
     bool ends(Milliseconds limit = patience) const;
 
+    /// The files that the process is made of: its program and the libraries loaded by now.
+    std::vector<std::string> modules() const;
+
     /// All visible windows of the process, for messages about failures.
     std::string describe() const;
 

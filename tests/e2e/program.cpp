@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+#include <tlhelp32.h>
+
 namespace e2e {
 
 Program::Program(const std::string& file, const std::string& arguments) {
@@ -22,6 +24,18 @@ Program::~Program() {
     WaitForSingleObject(process_.hProcess, INFINITE);
     CloseHandle(process_.hThread);
     CloseHandle(process_.hProcess);
+}
+
+std::vector<std::string> Program::modules() const {
+    const HANDLE list = CreateToolhelp32Snapshot(TH32CS_SNAPMODULE, process_.dwProcessId);
+    std::vector<std::string> files;
+    MODULEENTRY32 module{};
+    module.dwSize = sizeof module;
+    for (BOOL more = Module32First(list, &module); more != FALSE; more = Module32Next(list, &module)) {
+        files.push_back(module.szExePath);
+    }
+    CloseHandle(list);
+    return files;
 }
 
 std::vector<HWND> Program::windows() const {

@@ -1,0 +1,86 @@
+// What lies beside the program, or in the folder that happens to be current, is neither loaded nor started.
+
+#include "driver.h"
+#include "recorder.h"
+#include "workplace.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <vector>
+
+namespace e2e {
+namespace {
+
+using testing::IsEmpty;
+
+/// Another current folder for the programs that this process starts.
+class CurrentFolder {
+public:
+    explicit CurrentFolder(const std::string& path) {
+        GetCurrentDirectoryA(sizeof before_, before_);
+        SetCurrentDirectoryA(path.c_str());
+    }
+    CurrentFolder(const CurrentFolder&) = delete;
+    ~CurrentFolder() { SetCurrentDirectoryA(before_); }
+
+private:
+    char before_[MAX_PATH] = {};
+};
+
+TEST(Doors, NothingOfTheProgramsOwnOrTheCurrentFolderIsLoadedOrStarted) {
+    const ProgramFolder folder("doors");
+    folder.writeSettings({{"algo", "MD5"}});
+    folder.writeData("Integrity.dat", smallBaseline("DLL", ""));
+    folder.writeData("Integrity-md5.dat", smallBaseline("DLL", ""));
+    const std::string current = folder.path() + "current\\";
+    CreateDirectoryA(current.c_str(), nullptr);
+    // Loaded at run time, for the search and the digests.
+    std::vector<std::unique_ptr<PlantedFile>> planted;
+    for (const char* library : {"imagehlp.dll", "rsaenh.dll"}) {
+        for (const std::string& place : {folder.path(), current}) {
+            planted.push_back(std::make_unique<PlantedFile>(place + library,
+                                                            readFile(systemDirectory() + library).value()));
+        }
+    }
+    const RecordingScanner stranger(current + "stranger.exe");
+    const CurrentFolder here(current);
+
+    const Program program(folder.program());
+    const Form window = program.form("Welcome to Tarvelon");
+    window.click("Options");
+    window.click("Advanced Settings");
+    window.click("Compare Speeds");
+    EXPECT_TRUE(comesTrue([&] { return window.rows().size() == 18; })) << program.describe();
+    window.click("Cancel");
+    window.click("Settings Wizard");
+    const Form wizard = program.form("Setup Wizard");
+    wizard.click("Next >>>");
+    wizard.click("Help Me!");
+    const Form catalogue = program.form("Anti-Virus Shell Help");
+    catalogue.clickRow("AVG (All Operating Systems)");
+    catalogue.click("Search for this Selection...");
+    program.box().press("OK");
+    EXPECT_THAT(program.box().text, testing::HasSubstr("was not found!"));
+    program.box().press("OK");
+    catalogue.close();
+    wizard.fill(0, "stranger.exe");
+    wizard.click("Next >>>");
+    wizard.click("Test It!");
+    program.box().press("OK");
+    const Box refused = program.box();
+    EXPECT_THAT(refused.text, testing::HasSubstr("cannot be started")) << refused.text;
+    refused.press("OK");
+
+    EXPECT_THAT(stranger.recordsNow(), IsEmpty());
+    const std::vector<std::string> modules = program.modules();
+    EXPECT_THAT(modules, testing::Contains(testing::EndsWith("\\imagehlp.dll")));
+    EXPECT_THAT(modules, testing::Contains(testing::EndsWith("\\rsaenh.dll")));
+    for (const std::string& module : modules) {
+        EXPECT_TRUE(module == folder.program() || module.rfind(folder.path(), 0) != 0) << module;
+    }
+}
+
+} // namespace
+} // namespace e2e
