@@ -1,5 +1,6 @@
 #include "custom/icust.h"
 
+#include "core/failure.h"
 #include "core/globals.h"
 #include "core/settings_file.h"
 #include "core/utilities.h"
@@ -59,20 +60,38 @@ void ICust::bind() {
     screen_.onQueryClose = [this] { return queryClose(); };
     screen_.onMouseMove = [this] { norms(); };
     screen_.List1.onClick = [this] { List1_Click(); };
-    const auto atStartup = [this] { return Use{screen_.Check1, screen_.List2, screen_.List3}; };
-    const auto atShutDown = [this] { return Use{screen_.Check2, screen_.List4, screen_.List5}; };
-    screen_.Check1.onClick = [this, atStartup] { box_Click(atStartup()); };
-    screen_.List2.onClick = [this, atStartup] { types_Click(atStartup()); };
-    screen_.Check2.onClick = [this, atShutDown] { box_Click(atShutDown()); };
-    screen_.List4.onClick = [this, atShutDown] { types_Click(atShutDown()); };
+    screen_.Check1.onClick = [this] { box_Click(atStartup()); };
+    screen_.List2.onClick = [this] { types_Click(atStartup()); };
+    screen_.Check2.onClick = [this] { box_Click(atShutDown()); };
+    screen_.List4.onClick = [this] { types_Click(atShutDown()); };
     screen_.cButton2.onClick = [this] { cButton2_Click(); };
     screen_.Command2.onClick = [this] { Command2_Click(); };
     screen_.Command3.onClick = [this] { Command3_Click(); };
 }
 
+/// The window as it is when it opens for the first time.
 void ICust::begin() {
     custDirty = 0;
     startup();
+    screen_.Label1.Caption = "Currently Selected:";
+    for (const Use& use : {atStartup(), atShutDown()}) {
+        for (int i = 0; i < use.types.count(); ++i) {
+            use.types.setTicked(i, false);
+        }
+        use.box.setValue(false);
+        use.box.BackColor = std::nullopt;
+        use.box.ForeColor = colors::black;
+        use.box.Enabled = true;
+        use.types.Enabled = true;
+    }
+}
+
+ICust::Use ICust::atStartup() {
+    return {screen_.Check1, screen_.List2, screen_.List3};
+}
+
+ICust::Use ICust::atShutDown() {
+    return {screen_.Check2, screen_.List4, screen_.List5};
 }
 
 void ICust::startup() {
@@ -107,8 +126,8 @@ void ICust::List1_Click() {
         screen_.Check1.Enabled = !empty;
         screen_.Check2.Enabled = !empty;
     }
-    showUse({screen_.Check1, screen_.List2, screen_.List3}, row);
-    showUse({screen_.Check2, screen_.List4, screen_.List5}, row);
+    showUse(atStartup(), row);
+    showUse(atShutDown(), row);
     screen_.Label1.Caption = "Currently Selected: " + screen_.List1.item(row);
     screen_.List2.Enabled = screen_.Check1.value() != 0;
     screen_.List4.Enabled = screen_.Check2.value() != 0;
@@ -120,17 +139,24 @@ void ICust::showUse(const Use& use, int row) {
     for (int i = 0; i < static_cast<int>(positions.size()) && i < 6; ++i) {
         use.types.setTicked(i, positions[static_cast<std::size_t>(i)] == "1");
     }
-    if (positions.size() > 6) {
-        use.box.setValue(positions[6] == "1");
+    const bool before = use.box.value() != 0;
+    const bool ticked = positions.size() > 6 ? positions[6] == "1" : before;
+    if (ticked != before) {
+        use.box.setValue(ticked);
+        followBox(use);
     }
 }
 
 /// The types can be edited only while the folder's box is ticked; cleared, they keep their ticks.
-void ICust::box_Click(const Use& use) {
+void ICust::followBox(const Use& use) {
     const bool ticked = use.box.value() == 1;
     use.box.BackColor = ticked ? tickedGround : clearedGround;
     use.box.ForeColor = ticked ? colors::white : colors::black;
     use.types.Enabled = ticked;
+}
+
+void ICust::box_Click(const Use& use) {
+    followBox(use);
     types_Click(use);
 }
 
@@ -183,6 +209,7 @@ void ICust::cButton2_Click() {
     parts_.platform.dialogs.message({.text = "Folder Added."});
 }
 
+/// Takes effect at once, and is not stopped by a settings file that cannot be written.
 void ICust::Command2_Click() {
     custDirty = 1;
     const int row = screen_.List1.listIndex();
@@ -201,7 +228,7 @@ void ICust::Command2_Click() {
     SettingsFile& settings = parts_.settings;
     const std::string& file = globals_.app.settFile;
     const std::string slot = std::to_string(row + 1);
-    settings.checkSettFile();
+    passOver([&] { settings.checkSettFile(); });
     settings.writeEntry(file, "path", "NULL", slot);
     settings.writeEntry(file, "args", noTypes, slot);
     settings.writeEntry(file, "args2", noTypes, slot);
@@ -213,11 +240,12 @@ void ICust::Command2_Click() {
     }
 }
 
+/// Tells of success whatever became of the settings file.
 void ICust::Command3_Click() {
     custDirty = 0;
     SettingsFile& settings = parts_.settings;
     const std::string& file = globals_.app.settFile;
-    settings.checkSettFile();
+    passOver([&] { settings.checkSettFile(); });
     for (int row = 0; row < folderSlots; ++row) {
         const std::string slot = std::to_string(row + 1);
         settings.writeEntry(file, "path", isEmptyRow(row) ? "NULL" : folderOf(row), slot);
@@ -230,7 +258,7 @@ void ICust::Command3_Click() {
         }
     }
     parts_.platform.dialogs.message({.text = "Save Successful!"});
-    loadf();
+    passOver(loadf);
     screen_.hide();
 }
 
@@ -242,7 +270,7 @@ bool ICust::queryClose() {
             Command3_Click();
         }
     }
-    loadf();
+    passOver(loadf);
     begin(); // Closed by its frame, the window forgets what was not saved.
     return true;
 }

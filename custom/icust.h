@@ -49,8 +49,11 @@ private:
 
     void bind();
     void begin();
+    Use atStartup();
+    Use atShutDown();
     void List1_Click();
     void showUse(const Use& use, int row);
+    void followBox(const Use& use);
     void box_Click(const Use& use);
     void types_Click(const Use& use);
     void cButton2_Click();

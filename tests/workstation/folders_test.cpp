@@ -138,6 +138,8 @@ TEST_F(Folders, TypesAreEditedWhileTheirBoxIsTicked) {
     app->iCust.Check2.click();
     EXPECT_EQ(app->iCust.Check2.BackColor(), 0x0000ffu);
     EXPECT_FALSE(app->iCust.List4.Enabled());
+    app->iCust.List1.select(2);
+    EXPECT_EQ(app->iCust.Check1.BackColor(), 0x0000ffu) << "the box shows the slot that is selected";
     pc.dialogs.expect({.text = "Do you wish to Save your changes?", .answer = Answer::Yes});
     pc.dialogs.expect({.text = "Save Successful!"});
     app->iCust.close();
@@ -152,6 +154,13 @@ TEST_F(Folders, TypesAreEditedWhileTheirBoxIsTicked) {
         ticks += std::to_string(box.value());
     }
     EXPECT_EQ(ticks, "100010");
+
+    app->mForm1.addRem.click();
+    EXPECT_EQ(app->iCust.Label1.Caption(), "Currently Selected:") << "closed, it keeps no selection";
+    pc.files.lock(app->globals.app.settFile);
+    pc.dialogs.expect({.text = "Save Successful!"});
+    app->iCust.Command3.click();
+    EXPECT_FALSE(app->iCust.Visible()) << "a settings file out of reach is passed over";
 }
 
 TEST_F(Folders, ThePageStartsScansOfTheSystemFolder) {
