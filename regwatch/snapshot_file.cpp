@@ -14,7 +14,6 @@ void SnapshotFile::checkRegFile() {
     if (platform_.files.open(path, OpenMode::Read)) {
         return;
     }
-    globals_.regWatch.regNew = true;
     std::string text;
     for (const Location& location : locations) {
         text.append("[").append(location.section).append("]\r\n\r\n");
@@ -22,6 +21,7 @@ void SnapshotFile::checkRegFile() {
     if (!writeWholeFile(platform_.files, path, text)) {
         throw Failure("The registry snapshot cannot be made:\r\n" + path);
     }
+    globals_.regWatch.regNew = true;
     if (setReg) {
         setReg();
     }

@@ -125,10 +125,15 @@ TEST_F(RegistryWatch, UnreadableKeysAndLostSnapshotsAreNoFailure) {
     set(Registry::localMachine, runKey, "A", "a.exe");
     set(Registry::currentUser, runKey, "B", "b.exe");
     pc.registry.deny(Registry::localMachine, runKey, SimRegistry::setRight);
+    pc.files.lock(dataFolder + "Registry.dat");
     ASSERT_FALSE(start());
+    refresh();
+    const Rows allNew{R"(HKEY_CURRENT_USER|Loaded in \B (b.exe) New Entry!)"};
+    EXPECT_EQ(warnings(), allNew) << "a snapshot that could not be made";
+    pc.files.unlock(dataFolder + "Registry.dat");
     pc.files.put(dataFolder + "Registry.dat", "garbage");
     refresh();
-    EXPECT_EQ(warnings(), Rows{R"(HKEY_CURRENT_USER|Loaded in \B (b.exe) New Entry!)"});
+    EXPECT_EQ(warnings(), allNew);
     pc.files.denyWrites(dataFolder + "Registry.dat");
     pc.dialogs.expect({.text = "Unable to find the file: b.exe\r\nPlease scan manually."});
     app->mForm1.cScnUpd.click();
