@@ -1,6 +1,5 @@
 #include "regwatch/detection.h"
 
-#include "core/failure.h"
 #include "core/globals.h"
 #include "core/settings_file.h"
 #include "platform/messages.h"
@@ -43,43 +42,46 @@ void Detection::setReg() {
     }
     // Rows of the user's and the classes' keys carry the tail of the last warning of the local machine.
     std::string keyTail;
+    RegClass key(platform_.registry);
     int groupIndex = 0;
     Registry::Key group = 0;
     for (const Location& location : locations) {
         groupIndex = location.root == group ? groupIndex + 1 : 1;
         group = location.root;
-        walk(location, groupIndex, keyTail);
+        walk(location, groupIndex, key, keyTail);
     }
     showOutcome();
     globals_.regWatch.regNew = false;
 }
 
-void Detection::walk(const Location& location, int groupIndex, std::string& keyTail) {
-    Tree& tree = screen_.TreeView1;
-    const LocationRoot& root = rootOf(location);
-    tree.addChild(root.nodeKey, location.nodeKey, location.label);
-    RegClass key(platform_.registry);
+void Detection::walk(const Location& location, int groupIndex, RegClass& key, std::string& keyTail) {
+    screen_.TreeView1.addChild(rootOf(location).nodeKey, location.nodeKey, location.label);
     key.OpenRegistry(location.root, location.path);
-    for (std::string& name : key.GetAllValues().value_or(std::vector<std::string>())) {
+    for (const std::string& name : key.GetAllValues().value_or(std::vector<std::string>())) {
         const std::string value = key.GetValue(name);
-        if (value == normalCommand) {
-            continue;
-        }
-        std::string storedText = " (" + value + ")";
-        // Of two values with one text in one group's location the tree shows the first.
-        tree.addChild(location.nodeKey, "#" + std::to_string(groupIndex) + storedText, name + storedText);
-        Found found = Found::Nothing;
-        passOver([&] { found = checkRegEntry(name, storedText, location); });
-        if (found != Found::Nothing) {
-            if (location.root == Registry::localMachine) {
-                keyTail = bareName(location.path);
-            }
-            screen_.List5.add(std::string(root.name) + "|Loaded in " + keyTail + "\\" + name + storedText +
-                              (found == Found::New ? " New Entry!" : " Entry Modified!"));
+        if (value != normalCommand) {
+            showEntry(location, groupIndex, name, " (" + value + ")", keyTail);
         }
         platform_.messages.pump();
     }
     key.CloseRegistry();
+}
+
+/// Puts a value into the tree, and into the warnings if it is one.
+void Detection::showEntry(const Location& location, int groupIndex, std::string name, std::string storedText,
+                          std::string& keyTail) {
+    // Of two values with one text the tree shows the first, be it in another group's location of that number.
+    screen_.TreeView1.addChild(location.nodeKey, "#" + std::to_string(groupIndex) + storedText,
+                               name + storedText);
+    const Found found = checkRegEntry(name, storedText, location);
+    if (found == Found::Nothing) {
+        return;
+    }
+    if (location.root == Registry::localMachine) {
+        keyTail = bareName(location.path);
+    }
+    screen_.List5.add(std::string(rootOf(location).name) + "|Loaded in " + keyTail + "\\" + name +
+                      storedText + (found == Found::New ? " New Entry!" : " Entry Modified!"));
 }
 
 void Detection::showOutcome() {

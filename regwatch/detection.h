@@ -9,6 +9,7 @@ struct Globals;
 struct Location;
 struct MForm1Screen;
 struct Platform;
+class RegClass;
 class SettingsFile;
 
 /// Compares the watched locations with the snapshot: fills the tree with what they hold and the warnings with
@@ -28,7 +29,9 @@ public:
     Found checkRegEntry(std::string& name, std::string& storedText, const Location& location);
 
 private:
-    void walk(const Location& location, int groupIndex, std::string& keyTail);
+    void walk(const Location& location, int groupIndex, RegClass& key, std::string& keyTail);
+    void showEntry(const Location& location, int groupIndex, std::string name, std::string storedText,
+                   std::string& keyTail);
     void showOutcome();
 
     MForm1Screen& screen_;
