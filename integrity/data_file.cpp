@@ -9,6 +9,8 @@
 #include "platform/messages.h"
 #include "platform/platform.h"
 
+#include <utility>
+
 namespace tarvelon {
 
 namespace {
@@ -17,6 +19,30 @@ void demand(bool done, const char* what, const std::string& path) {
     if (!done) {
         throw Failure(what + ("\r\n" + path));
     }
+}
+
+/// Fills the blocks and their names: each section reaches from its "[" to the next "[" that begins a line.
+/// Blocks without a section are left empty. Gives the number of sections found, at most nine.
+std::size_t cut(const std::string& text, std::array<EntryBlock, sectionCount>& blocks,
+                std::array<std::string, sectionCount>& names) {
+    std::size_t found = 0;
+    std::size_t begin = text.find('[');
+    for (std::size_t n = 0; n < sectionCount; ++n) {
+        if (begin == std::string::npos) {
+            blocks[n].setText({});
+            names[n].clear();
+            continue;
+        }
+        const std::size_t next = text.find("\r\n[", begin + 1);
+        const std::size_t end = next == std::string::npos ? text.size() : next + lineEnd.size();
+        std::string block = text.substr(begin, end - begin);
+        const std::size_t close = block.find(']');
+        names[n] = close == std::string::npos ? std::string() : block.substr(1, close - 1);
+        blocks[n].setText(std::move(block));
+        begin = next == std::string::npos ? next : end;
+        ++found;
+    }
+    return found;
 }
 
 } // namespace
@@ -64,27 +90,11 @@ void DataFile::load(const std::string& path, Blocks& blocks, Names& names) {
     if (!text) {
         throw Failure("The data file cannot be read:\r\n" + path);
     }
-    for (std::size_t n = 0; n < sectionCount; ++n) {
-        blocks[n].setText({});
-        names[n].clear();
-    }
-
-    // Each section reaches from its "[" to the next "[" that begins a line.
-    std::size_t begin = text->find('[');
-    std::size_t found = 0;
-    while (found < sectionCount && begin != std::string::npos) {
-        const std::size_t next = text->find("\r\n[", begin + 1);
-        const std::size_t end = next == std::string::npos ? text->size() : next + lineEnd.size();
-        blocks[found++].setText(text->substr(begin, end - begin));
-        begin = next == std::string::npos ? next : end;
-        if (begin != std::string::npos) {
-            platform_.messages.pump();
-        }
-    }
-    for (std::size_t n = 0; n < found; ++n) {
-        const std::string& block = blocks[n].text();
-        const std::size_t close = block.find(']');
-        names[n] = close == std::string::npos ? std::string() : block.substr(1, close - 1);
+    const std::size_t found = cut(*text, blocks, names);
+    // Only behind the last block: a scan that runs in one of these pumps may load the file anew, and what it
+    // loaded must not be mixed with the text read before.
+    for (std::size_t n = 1; n < found; ++n) {
+        platform_.messages.pump();
     }
 }
 

@@ -28,7 +28,7 @@ public:
         buildCustomDat;
 
     /// Loads the system baseline. A missing file is made, empty, and gives nine empty blocks. Throws
-    /// `Failure` when the file cannot be read.
+    /// `Failure` when the file cannot be read. Window messages run once all is in place.
     void loadIntFile(const std::string& path);
 
     /// Loads a custom folder's baseline. A missing one is restored from its backup or built anew, each after

@@ -115,6 +115,16 @@ TEST_F(FirstRun, LeavingThePrimaryScanDeletesTheFileAndEnds) {
     EXPECT_EQ(app->intCheck.Label6.Caption(), "7") << "refused once, the scan went on";
 }
 
+TEST_F(FirstRun, AScanThatRunsWithinTheStartLeavesItsChecksumsInMemory) {
+    pc.files.put(systemFolder + "a.dll", "a");
+    pc.files.put(systemFolder + "b.drv", "b");
+    pc.dialogs.expect({.text = firstRunQuestion, .answer = Answer::Yes});
+    pc.messages.when([this] { return app->intCheck.Timer1.Enabled(); }, [this] { pc.clock.now += 1; });
+    ASSERT_FALSE(start("/r"));
+    EXPECT_EQ(app->intCheck.Label6.Caption(), "2") << "the first load of the baseline lets the scan run";
+    EXPECT_EQ(app->dataFile.getEntry("b.drv", "DRV"), crcText("b"));
+}
+
 TEST_F(FirstRun, EachAlgorithmHasABaselineOfItsOwn) {
     pc.files.put(systemFolder + "a.dll", "abc");
     pc.files.put(dataFolder + "Integrity.dat", "");
