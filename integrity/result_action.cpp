@@ -31,6 +31,16 @@ std::string withoutNewMark(std::string item) {
     return item;
 }
 
+/// What stands behind the last backslash. Input is let in at each one.
+std::string nameOf(const std::string& path, clsDoEvents& pump) {
+    std::size_t name = 0;
+    for (std::size_t slash = path.find('\\'); slash != std::string::npos; slash = path.find('\\', name)) {
+        name = slash + 1;
+        pump.GetInputState();
+    }
+    return path.substr(name);
+}
+
 /// Where to go on behind a text, counted from 1: one past its position, and 1 when it is not there.
 std::size_t startBehind(const std::string& text, const std::string& searched) {
     const std::size_t hit = text.find(searched);
@@ -164,7 +174,8 @@ void ResultAction::UpdateDatFile() {
         }
         globals_.scan.customFolder.clear();
         if (systemFileSeen) {
-            passOver([&] { acceptInSystem(item, value, section); });
+            const std::string name = nameOf(item, pump);
+            passOver([&] { parts_.settings.writeEntry(globals_.app.intFile, name, value + "*E", section); });
         }
         pump.GetInputState();
     }
@@ -206,11 +217,6 @@ void ResultAction::queueForCustom(const std::string& copy, const std::string& it
     if (slot && *slot >= 1 && *slot <= static_cast<int>(passFolderList.size())) {
         passFolderList[static_cast<std::size_t>(*slot - 1)] += item + entry;
     }
-}
-
-void ResultAction::acceptInSystem(const std::string& item, const std::string& value,
-                                  const std::string& section) {
-    parts_.settings.writeEntry(globals_.app.intFile, bareName(item), value + "*E", section);
 }
 
 void ResultAction::SpecialSave(int slot) {

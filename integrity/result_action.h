@@ -1,12 +1,13 @@
 #pragma once
 
+#include "core/globals.h"
+
 #include <array>
 #include <functional>
 #include <string>
 
 namespace tarvelon {
 
-struct Globals;
 struct IntCheckScreen;
 struct Platform;
 class Checksum;
@@ -57,14 +58,13 @@ private:
     void acceptFindings();
     std::string systemValue(const std::string& copy, const std::string& item) const;
     void queueForCustom(const std::string& copy, const std::string& item);
-    void acceptInSystem(const std::string& item, const std::string& value, const std::string& section);
 
     IntCheckScreen& screen_;
     ResultActionParts parts_;
     Globals& globals_;
 
     /// Pending entries of each slot: path, "(slot) ", checksum, comma. Empty between updates.
-    std::array<std::string, 20> passFolderList;
+    std::array<std::string, folderSlots> passFolderList;
 };
 
 } // namespace tarvelon
