@@ -92,7 +92,7 @@ struct ShutDownState {
     std::int16_t scanLogged = 0; ///< 1: some list of files was logged during the shut-down.
 };
 
-/// The state that all subsystems share; made once, in `main`.
+/// The state that all subsystems share; made once, in `Application`.
 struct Globals {
     CaseRules cases;
     AppState app;

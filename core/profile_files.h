@@ -9,6 +9,7 @@
 namespace tarvelon {
 
 class Files;
+class OpenFile;
 
 /// Reads and writes single entries of profile files on the disk. The text last used is kept, and used again
 /// as long as the file's length and time of last write show that nobody else has changed it, so that
@@ -37,7 +38,7 @@ private:
         bool operator==(const Stamp&) const = default;
     };
 
-    static std::optional<Stamp> stampOf(class OpenFile& file);
+    static std::optional<Stamp> stampOf(OpenFile& file);
     bool refresh(const std::string& path, OpenFile& file);
     bool writeFrom(OpenFile& file, std::size_t position, std::size_t oldLength);
 

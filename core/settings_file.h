@@ -31,8 +31,7 @@ public:
     /// Stores one entry. The settings file and the registry snapshot are written at once, and so is every
     /// file during the primary full scan: the result tells whether that worked. Otherwise the entry goes to
     /// the baseline in memory (that of the custom folder while `customFolder` is not empty), with no result;
-    /// `value` then has its
-    /// "*E" on. Throws `Failure` for a section that the baseline does not have.
+    /// `value` then has its "*E" on. Throws `Failure` for a section that the baseline does not have.
     std::optional<bool> writeEntry(const std::string& file, const std::string& key, const std::string& value,
                                    const std::string& section);
 

@@ -140,8 +140,7 @@ void MForm1::cButton4_Click() {
     }
     const Answer answer =
         platform_.dialogs.message({.text = "The Help file wasn't found or cannot be executed! Would you like "
-                                           "to browse Tarvelon help on the "
-                                           "web?",
+                                           "to browse Tarvelon help on the web?",
                                    .buttons = Buttons::YesNo});
     if (answer != Answer::Yes) {
         return;

@@ -38,7 +38,6 @@ private:
     void bindPages();
     void bindHover();
     void open(NavButton* entry, Frame& page);
-    void openSettings(Frame& page);
     void backToOptions(Frame& page);
 
     void cAbout_Click();

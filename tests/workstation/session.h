@@ -28,7 +28,7 @@ inline const std::string firstRunRefused =
 /// Upper-case hexadecimal CRC-32 without leading zeros, bit by bit.
 std::string crcText(const std::string& bytes);
 
-/// A settings file with all six types, and `tail` for positions 6 and 7 of the list.
+/// A settings file with this list of eight positions for scans at log-on, no scanner, and `more` at its end.
 std::string settingsWith(const std::string& settings, const std::string& more = "");
 
 /// A workstation, and the runs of the program on it, one at a time.

@@ -65,8 +65,8 @@ public:
     /// Window icon and buttons of the frame.
     bool canMinimize = true;
 
-    /// Set once by `main`: runs every handler, so that a failure in one is told to the user in one place.
-    /// Unset, handlers run bare.
+    /// Set once by `Application`: runs every handler, so that a failure in one is told to the user in one
+    /// place. Unset, handlers run bare.
     std::function<void(const Handler&)> dispatcher;
     ScreenListener* listener = nullptr;
 
