@@ -1,10 +1,11 @@
 // Runs the program's own scan over a folder of a simulated workstation and prints how long it took.
 //
-//   scan_folder DRIVE FOLDER first|compare [ROUNDS]
+//   scan_folder DRIVE FOLDER first|compare [ROUNDS [ADDED]]
 //
 // DRIVE is the host folder that stands for drive C, FOLDER the system directory on it, such as C:\files.
-// "first" makes the first full scan, "compare" a scan at log-on against the baseline that "first" left.
-// Prints one line: the milliseconds of each round, the files scanned, and the peak memory in KiB.
+// "first" makes the first full scan, "compare" a scan at log-on against the baseline that "first" left. Of
+// the folders C:\1\, C:\2\ and so on the first ADDED ones join the scan at log-on. Prints one line: the
+// milliseconds of each round, the files scanned, and the peak memory in KiB.
 
 #include "core/application.h"
 #include "platform/sim/workstation.h"
@@ -30,13 +31,18 @@ public:
 };
 
 /// One run of the program; gives the milliseconds of its scan.
-double scan(const std::string& drive, const std::string& folder, bool first, std::string& files) {
+double scan(const std::string& drive, const std::string& folder, bool first, int added, std::string& files) {
     SimWorkstation pc(drive);
     pc.folders.systemDirectory = folder;
     if (first) {
         pc.files.remove(dataFolder + "Integrity.dat");
     }
-    pc.files.put(dataFolder + "Tarvelon.dat", "[Tarvelon]\r\nsettings=1,1,1,1,1,1,0,0\r\n");
+    std::string settings = "[Tarvelon]\r\nsettings=1,1,1,1,1,1,0,0\r\n";
+    for (int slot = 1; slot <= added; ++slot) {
+        const std::string number = std::to_string(slot);
+        settings += "[" + number + "]\r\npath=C:\\" + number + "\\\r\nargs=1,1,1,1,1,1,1\r\n";
+    }
+    pc.files.put(dataFolder + "Tarvelon.dat", settings);
     pc.processes.arguments = first ? "" : "/r";
     Yes yes;
     Platform platform{pc.codePage, pc.files, pc.folders, pc.crypto,    pc.messages, yes,       pc.processes,
@@ -74,14 +80,15 @@ long peakMemory() {
 
 int main(int count, char** arguments) {
     if (count < 4) {
-        std::fprintf(stderr, "usage: scan_folder DRIVE FOLDER first|compare [ROUNDS]\n");
+        std::fprintf(stderr, "usage: scan_folder DRIVE FOLDER first|compare [ROUNDS [ADDED]]\n");
         return 2;
     }
     const bool first = std::string(arguments[3]) == "first";
     const int rounds = count > 4 ? std::atoi(arguments[4]) : 1;
+    const int added = count > 5 ? std::atoi(arguments[5]) : 0;
     std::string files;
     for (int round = 0; round < rounds; ++round) {
-        std::printf("%.3f ", scan(arguments[1], arguments[2], first, files));
+        std::printf("%.3f ", scan(arguments[1], arguments[2], first, added, files));
     }
     std::printf("files %s peak_kib %ld\n", files.c_str(), peakMemory());
 }
