@@ -38,7 +38,6 @@ public:
 private:
     void restoreOrRestart(const std::string& backup);
     void buildPrimary();
-    void writeBlank(const std::string& folder, const std::string& path);
 
     Globals& globals_;
     Platform& platform_;

@@ -6,7 +6,7 @@
 namespace tarvelon {
 
 enum class Buttons { Ok, OkCancel, YesNo };
-enum class Icon { None, Information, Question, Warning, Stop };
+enum class Icon { None, Warning, Stop };
 enum class Answer { Ok, Cancel, Yes, No };
 
 /// A question or a notice. An empty title stands for the application's title.

@@ -12,7 +12,6 @@ namespace tarvelon {
 /// What `Files::open` does with the file. In every mode other processes may go on using it.
 enum class OpenMode {
     Read,         ///< Must exist; only read.
-    ReadWrite,    ///< Must exist; read and written.
     ReadOrCreate, ///< Read and written; a missing file is made, empty.
     Create,       ///< Written; a missing file is made, an existing one is emptied.
 };

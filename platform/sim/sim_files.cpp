@@ -36,7 +36,6 @@ int openFlags(OpenMode mode) {
     switch (mode) {
     case OpenMode::Read:
         return O_RDONLY;
-    case OpenMode::ReadWrite:
     case OpenMode::ReadOrCreate:
         return O_RDWR;
     case OpenMode::Create:

@@ -40,7 +40,6 @@ public:
 
     HWND window() const { return window_; }
     Control& control() const { return control_; }
-    bool hidesChildren() const { return control_.kind() == ControlKind::Frame; }
 
     /// Messages that a child window sends to its parent about itself.
     virtual void notified(int) {}

@@ -25,10 +25,6 @@ UINT buttonFlags(Buttons buttons) {
 
 UINT iconFlags(Icon icon) {
     switch (icon) {
-    case Icon::Information:
-        return MB_ICONINFORMATION;
-    case Icon::Question:
-        return MB_ICONQUESTION;
     case Icon::Warning:
         return MB_ICONWARNING;
     case Icon::Stop:

@@ -16,8 +16,6 @@ OpenArguments argumentsFor(OpenMode mode) {
     switch (mode) {
     case OpenMode::Read:
         return {GENERIC_READ, OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN};
-    case OpenMode::ReadWrite:
-        return {GENERIC_READ | GENERIC_WRITE, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL};
     case OpenMode::ReadOrCreate:
         return {GENERIC_READ | GENERIC_WRITE, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL};
     case OpenMode::Create:

@@ -8,8 +8,7 @@ namespace {
 
 using testing::ElementsAre;
 
-constexpr OpenMode allModes[] = {OpenMode::Read, OpenMode::ReadWrite, OpenMode::ReadOrCreate,
-                                 OpenMode::Create};
+constexpr OpenMode allModes[] = {OpenMode::Read, OpenMode::ReadOrCreate, OpenMode::Create};
 
 // Longer than a tick of any clock that file times are taken from.
 void letTimePass() {
@@ -49,7 +48,6 @@ TEST_F(Contract, ThereIsOneListing) {
 
 TEST_F(Contract, OpenModesMakeAndKeepWhatTheySay) {
     EXPECT_FALSE(files.open(folder + "missing", OpenMode::Read));
-    EXPECT_FALSE(files.open(folder + "missing", OpenMode::ReadWrite));
     EXPECT_FALSE(files.length(folder + "missing"));
     EXPECT_TRUE(files.open(folder + "made", OpenMode::ReadOrCreate));
     EXPECT_EQ(files.length(folder + "made"), 0u);
@@ -57,7 +55,6 @@ TEST_F(Contract, OpenModesMakeAndKeepWhatTheySay) {
 
     ASSERT_TRUE(put(folder + "kept", "content"));
     EXPECT_TRUE(files.open(folder + "kept", OpenMode::ReadOrCreate));
-    EXPECT_TRUE(files.open(folder + "kept", OpenMode::ReadWrite));
     EXPECT_EQ(get(folder + "kept"), "content");
     EXPECT_FALSE(files.open(folder + "kept", OpenMode::Read)->writeAt(0, "x"));
     EXPECT_TRUE(files.open(folder + "kept", OpenMode::Create));
@@ -122,7 +119,7 @@ TEST_F(Contract, ReadOnlyFilesAreOnlyRead) {
         GTEST_SKIP() << "this user may write read-only files here";
     }
     EXPECT_FALSE(files.copy(folder + "from", folder + "kept"));
-    for (const OpenMode mode : {OpenMode::ReadWrite, OpenMode::ReadOrCreate, OpenMode::Create}) {
+    for (const OpenMode mode : {OpenMode::ReadOrCreate, OpenMode::Create}) {
         EXPECT_FALSE(files.open(folder + "kept", mode));
     }
     EXPECT_EQ(get(folder + "kept"), "content");
@@ -134,8 +131,8 @@ TEST_F(Contract, LastWriteMovesWithEachWriteAndNoRead) {
     ASSERT_TRUE(first);
     letTimePass();
     EXPECT_EQ(get(folder + "f"), "1");
-    EXPECT_EQ(files.open(folder + "f", OpenMode::ReadWrite)->lastWrite(), first);
-    EXPECT_TRUE(files.open(folder + "f", OpenMode::ReadWrite)->writeAt(0, "2"));
+    EXPECT_EQ(files.open(folder + "f", OpenMode::ReadOrCreate)->lastWrite(), first);
+    EXPECT_TRUE(files.open(folder + "f", OpenMode::ReadOrCreate)->writeAt(0, "2"));
     EXPECT_GT(files.open(folder + "f", OpenMode::Read)->lastWrite(), first);
 }
 
@@ -143,7 +140,7 @@ TEST_F(Contract, FilesAreSharedUnlessSomeoneLocksThem) {
     ASSERT_TRUE(put(folder + "f", "shared"));
     {
         const auto reader = files.open(folder + "f", OpenMode::Read);
-        const auto writer = files.open(folder + "f", OpenMode::ReadWrite);
+        const auto writer = files.open(folder + "f", OpenMode::ReadOrCreate);
         ASSERT_TRUE(reader && writer);
         EXPECT_TRUE(writer->writeAt(0, "SH"));
         EXPECT_EQ(get(folder + "f"), "SHared");
