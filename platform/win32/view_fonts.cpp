@@ -31,8 +31,8 @@ std::string messageFace() {
 std::string chooseFace() {
     const HDC screen = GetDC(nullptr);
     const char* const preferred[] = {"Segoe UI", "Tahoma"};
-    const auto chosen = std::find_if(std::begin(preferred), std::end(preferred),
-                                     [screen](const char* face) { return isInstalled(screen, face); });
+    const auto* const chosen = std::find_if(std::begin(preferred), std::end(preferred),
+                                            [screen](const char* face) { return isInstalled(screen, face); });
     ReleaseDC(nullptr, screen);
     return chosen == std::end(preferred) ? messageFace() : *chosen;
 }

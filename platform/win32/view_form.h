@@ -41,7 +41,7 @@ public:
     ViewTools& tools() const { return tools_; }
     const Scale& scale() const { return scale_; }
     /// A frame with navigation buttons in it is the navigation column.
-    bool isNavigation(const Frame& frame) const { return navigation_.count(&frame) != 0; }
+    bool isNavigation(const Frame& frame) const { return navigation_.contains(&frame); }
     ControlWindow* windowOf(const Control& control) const;
 
 private:

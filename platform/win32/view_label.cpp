@@ -12,7 +12,7 @@ int percentFrom(const std::string& text) {
     if (text.size() < 2 || text.back() != '%' || text.front() < '0' || text.front() > '9') {
         return -1;
     }
-    return std::min(std::atoi(text.c_str()), 100);
+    return std::min(static_cast<int>(std::strtol(text.c_str(), nullptr, 10)), 100);
 }
 
 } // namespace

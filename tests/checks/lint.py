@@ -1,15 +1,17 @@
 #!/usr/bin/env python3
-"""Runs clang-tidy over the product's sources: lint.py BUILD-FOLDER STAMP-FOLDER
+"""Runs clang-tidy over the product's sources: lint.py STAMP-FOLDER BUILD-FOLDER...
 
-A source that passed leaves a stamp keyed on everything that could change the outcome, and is not looked at again
-until one of those things changes.
+Each source is looked at as the first of the builds that has it compiles it. One that passed leaves a stamp keyed on
+everything that could change the outcome, and is not looked at again until one of those things changes.
 """
 
 import concurrent.futures
+import functools
 import hashlib
 import json
 import os
 import pathlib
+import re
 import subprocess
 import sys
 
@@ -30,28 +32,44 @@ def product_commands(root, build):
             yield path, command["command"]
 
 
+@functools.lru_cache
+def arguments_for(compiler):
+    """What clang has to be told to see what a compiler for another system sees."""
+    if "mingw" not in compiler:
+        return []
+    told = subprocess.run([compiler, "-E", "-v", "-x", "c++", "/dev/null"], check=True, capture_output=True, text=True)
+    folders = [line.strip() for line in told.stderr.splitlines() if line.startswith(" /") and "cc1plus" not in line]
+    # All but the compiler's own headers, which clang has its own of.
+    others = [folder for folder in folders if not re.search(r"/gcc/[^/]*/[^/]*/include(-fixed)?$", folder)]
+    system = [f"--extra-arg={word}" for folder in others for word in ("-isystem", folder)]
+    return ["--extra-arg=--target=x86_64-w64-mingw32", "--extra-arg=-Wno-ignored-attributes", *system]
+
+
 def main():
-    build, stamps = (pathlib.Path(argument).resolve() for argument in sys.argv[1:])
+    stamps, *builds = (pathlib.Path(argument).resolve() for argument in sys.argv[1:])
     root = pathlib.Path.cwd()
     stamps.mkdir(parents=True, exist_ok=True)
     headers = [path for path in sorted(root.rglob("*.h")) if path.relative_to(root).parts[0] != "build"]
     version = subprocess.run(["clang-tidy", "--version"], check=True, capture_output=True).stdout
     shared = digest(version, (root / ".clang-tidy").read_bytes(), *(path.read_bytes() for path in headers))
 
-    def lint(path, command):
+    def lint(path, build, command):
         stamp = stamps / digest(shared.encode(), command.encode(), path.read_bytes())
         if stamp.exists():
             return None
-        tidy = ["clang-tidy", "--quiet", "--extra-arg=-Wno-unknown-warning-option", "-p", build, path]
-        run = subprocess.run(tidy, capture_output=True, text=True)
+        tidy = ["clang-tidy", "--quiet", "--extra-arg=-Wno-unknown-warning-option", "-p", build]
+        run = subprocess.run([*tidy, *arguments_for(command.split()[0]), path], capture_output=True, text=True)
         if run.returncode == 0:
             stamp.touch()
             return None
         return run.stdout + (run.stderr if not run.stdout else "")
 
-    commands = dict(product_commands(root, build))
+    commands = {}
+    for build in builds:
+        for path, command in product_commands(root, build):
+            commands.setdefault(path, (path, build, command))
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
-        findings = [text for text in pool.map(lint, commands.keys(), commands.values()) if text is not None]
+        findings = [text for text in pool.map(lambda source: lint(*source), commands.values()) if text is not None]
     print("".join(findings), end="")
     print(f"{len(commands)} sources, {len(findings)} with findings")
     return 1 if findings or not commands else 0
