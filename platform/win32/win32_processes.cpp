@@ -1,5 +1,6 @@
 #include "platform/win32/win32_processes.h"
 
+#include "platform/command_line.h"
 #include "platform/win32/windows_api.h"
 
 #include <cstddef>
@@ -44,14 +45,7 @@ std::string Win32Processes::programFile() {
 }
 
 std::string Win32Processes::commandLine() {
-    const char* line = GetCommandLineA();
-    const bool quoted = *line == '"';
-    const char* nameEnd = quoted ? std::strchr(line + 1, '"') : std::strpbrk(line, " \t");
-    if (!nameEnd) {
-        return {};
-    }
-    const char* rest = quoted ? nameEnd + 1 : nameEnd;
-    return rest + std::strspn(rest, " \t");
+    return std::string(behindProgramName(GetCommandLineA()));
 }
 
 std::array<int, 3> Win32Processes::programVersion() {
