@@ -18,8 +18,11 @@ namespace {
 constexpr std::int32_t success = 0;
 
 std::string upper(const std::string& text) {
-    SimCodePage codePage;
-    return CaseRules(codePage).upper(text);
+    static const CaseRules cases = [] {
+        SimCodePage codePage;
+        return CaseRules(codePage);
+    }();
+    return cases.upper(text);
 }
 
 std::vector<std::string> namesIn(const std::string& path) {
