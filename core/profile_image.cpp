@@ -53,6 +53,12 @@ bool isOneLine(std::string_view line) {
     return line.find('\n') >= line.size() - 1 && !sectionHead(trimBlanks(withoutLineEnd(line)));
 }
 
+/// What a line is to be ended with before another follows; a file that was torn within a line end has half of
+/// it.
+std::string_view missingLineEnd(std::string_view lastCharacter) {
+    return lastCharacter == "\n" ? "" : lastCharacter == "\r" ? "\n" : lineEnd;
+}
+
 } // namespace
 
 void ProfileImage::setText(std::string text) {
@@ -90,9 +96,8 @@ std::size_t ProfileImage::write(std::string_view section, std::string_view key, 
         return position;
     }
     const std::size_t position = text_.size();
-    const bool openLine = position > 0 && from(position - 1) != "\n";
     text_.replace(position, 0,
-                  std::string(openLine ? lineEnd : "")
+                  std::string(position > 0 ? missingLineEnd(from(position - 1)) : "")
                       .append("[")
                       .append(trimBlanks(section))
                       .append("]")
@@ -117,9 +122,9 @@ void ProfileImage::replaceValue(Place place, std::size_t start, std::string_view
 /// Puts a new line behind a part's last one, and a line end first where that one lacks it.
 void ProfileImage::insertEntry(std::size_t part, const std::string& prefix, std::size_t position,
                                const std::string& entry) {
-    const bool openLine = text_.piece(position - 1, 1) != "\n";
-    text_.replace(position, 0, openLine ? std::string(lineEnd).append(entry) : entry);
-    if (openLine || !isOneLine(entry)) {
+    const std::string_view missing = missingLineEnd(text_.piece(position - 1, 1));
+    text_.replace(position, 0, std::string(missing).append(entry));
+    if (!missing.empty() || !isOneLine(entry)) {
         parsed_ = false;
         return;
     }

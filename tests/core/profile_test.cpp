@@ -68,6 +68,13 @@ TEST(ProfileImage, WritesTouchOneLine) {
     EXPECT_EQ(profile.text().substr(profile.text().find("[B]")),
               "[B]\r\n;note\r\nlast=22\r\nmore=3\r\n[New]\r\nk=v\r\n");
 
+    profile.setText("[A]\r\nk=1\r");
+    profile.write("A", "more", "2");
+    EXPECT_EQ(profile.text(), "[A]\r\nk=1\r\nmore=2\r\n") << "A torn line end is made whole";
+    profile.write("A", "k", "1\r\n[B]\r\nb=2");
+    EXPECT_EQ(profile.read("A", "k"), "1") << "A value of several lines reads as it will from the disk";
+    EXPECT_EQ(profile.read("B", "b"), "2");
+
     ProfileImage empty(cases);
     EXPECT_EQ(empty.write("S", "k", "v"), 0u);
     EXPECT_EQ(empty.text(), "[S]\r\nk=v\r\n");
