@@ -68,6 +68,8 @@ public:
 protected:
     Kind kind() const override { return {"BUTTON", BS_OWNERDRAW | WS_TABSTOP}; }
     void click() override { label_.click(); }
+    void down() override { label_.mouseDown(); }
+    void up() override { label_.mouseUp(); }
     void paint(Canvas& canvas) override;
 
 private:

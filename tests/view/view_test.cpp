@@ -169,6 +169,14 @@ TEST_F(View, TheMouseGivesLooks) {
     ask(screen.button, WM_LBUTTONUP, 0, inside);
     EXPECT_EQ(clicks, 1);
     EXPECT_EQ(screen.button.foreColor(), colors::black);
+
+    std::string course;
+    screen.action.onMouseDown = [&] { course += "down "; };
+    screen.action.onMouseUp = [&] { course += "up "; };
+    screen.action.onClick = [&] { course += "click"; };
+    ask(screen.action, WM_LBUTTONDOWN, MK_LBUTTON, inside);
+    ask(screen.action, WM_LBUTTONUP, 0, inside);
+    EXPECT_EQ(course, "down up click") << "A label hears of the press as well";
 }
 
 TEST_F(View, HiddenControlsStayWindows) {
