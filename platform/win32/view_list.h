@@ -19,7 +19,6 @@ public:
         UINT getSelected;
         UINT getTop;
         UINT setTop;
-        UINT setRowHeight;
         int selectionChanged;
     };
 
