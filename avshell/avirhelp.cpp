@@ -128,8 +128,7 @@ void AVirHelp::Command1_Click() {
                  "supports command line arguments, then it will work.\r"
                  "Tarvelon will now send you to the web site of ") +
              maker::name + ".\r\rSimply click on Tarvelon, and click on Anti-Virus support."});
-    constexpr std::intptr_t noProgram = 31;
-    if (platform_.shell.open(maker::webPage, "") == noProgram) {
+    if (platform_.shell.open(maker::webPage, "") == Shell::noProgram) {
         platform_.dialogs.message(
             {.text = std::string("Could not open the default web browser. The page is ") + maker::webPage});
     }

@@ -11,6 +11,7 @@ public:
     /// The system's codes that a caller may want to tell apart.
     static constexpr std::intptr_t fileNotFound = 2;
     static constexpr std::intptr_t noProgram = 31;
+    static constexpr std::intptr_t lastFailure = 32; ///< All codes above it mean success.
 
     virtual ~Shell() = default;
 

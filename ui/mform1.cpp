@@ -12,15 +12,6 @@
 
 namespace tarvelon {
 
-namespace {
-
-// Codes of `Shell::open`; more than 32 means success.
-constexpr std::intptr_t fileNotFound = 2;
-constexpr std::intptr_t noAssociation = 31;
-constexpr std::intptr_t lastFailure = 32;
-
-} // namespace
-
 MForm1::MForm1(MForm1Screen& screen, const AppState& app, Platform& platform)
     : screen_(screen)
     , app_(app)
@@ -135,7 +126,7 @@ void MForm1::cAbout_Click() {
 }
 
 void MForm1::cButton4_Click() {
-    if (platform_.shell.open("index.html", app_.appPath + "Help\\") != fileNotFound) {
+    if (platform_.shell.open("index.html", app_.appPath + "Help\\") != Shell::fileNotFound) {
         return;
     }
     const Answer answer =
@@ -147,7 +138,7 @@ void MForm1::cButton4_Click() {
     }
     platform_.dialogs.message({.text = "Click on the Tarvelon page, then choose 'Online Help'.\r\n\r\n"
                                        "The web page of Quillfen is being opened."});
-    if (platform_.shell.open(maker::webPage, "") <= lastFailure) {
+    if (platform_.shell.open(maker::webPage, "") <= Shell::lastFailure) {
         platform_.dialogs.message({.text = std::string("The link could not be executed: ") + maker::webPage});
     }
 }
@@ -159,7 +150,7 @@ void MForm1::siteClick() {
 void MForm1::visitMaker(const char* address) {
     const Answer answer = platform_.dialogs.message(
         {.text = "Would you like to visit the web site of Quillfen?", .buttons = Buttons::YesNo});
-    if (answer == Answer::Yes && platform_.shell.open(address, "") <= lastFailure) {
+    if (answer == Answer::Yes && platform_.shell.open(address, "") <= Shell::lastFailure) {
         platform_.dialogs.message(
             {.text = std::string("The web site could not be opened. Please visit it by hand: ") + address});
     }
@@ -170,7 +161,7 @@ void MForm1::Label37_Click() {
     const std::string subject = "Tarvelon(v" + std::to_string(version[0]) + "." + std::to_string(version[1]) +
                                 "." + std::to_string(version[2]) + ")";
     const std::string link = std::string("mailto:") + maker::supportAddress + "?subject=" + subject;
-    if (platform_.shell.open(link, "") == noAssociation) {
+    if (platform_.shell.open(link, "") == Shell::noProgram) {
         platform_.dialogs.message(
             {.text = std::string("Could not execute default mail client.\r\n") + maker::supportAddress});
     }
