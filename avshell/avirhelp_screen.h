@@ -9,6 +9,7 @@ namespace tarvelon {
 struct AVirHelpScreen : Screen {
     AVirHelpScreen()
         : Screen("Anti-Virus Shell Help", 560, 432) {
+        canMinimize = false;
         for (const KnownScanner& known : knownScanners) {
             List1.add(known.product);
         }

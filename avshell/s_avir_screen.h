@@ -8,6 +8,7 @@ namespace tarvelon {
 struct SAvirScreen : Screen {
     SAvirScreen()
         : Screen("Anti-Virus/Trojan Selection Screen", 560, 368) {
+        canMinimize = false;
         Text5.Caption = noScanner;
         Text1.Caption = noScanner;
     }

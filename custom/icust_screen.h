@@ -8,6 +8,7 @@ namespace tarvelon {
 struct ICustScreen : Screen {
     ICustScreen()
         : Screen("Add/Remove Custom Integrity Scan Folders", 720, 520) {
+        canMinimize = false;
         List3.Visible = false;
         List5.Visible = false;
     }

@@ -8,6 +8,7 @@ namespace tarvelon {
 struct LogoffScreen : Screen {
     LogoffScreen()
         : Screen("Secure Shut Down", 544, 280) {
+        canMinimize = false;
         for (Picture* lit : {&Image2, &Image4, &Image6}) {
             lit->Visible = false;
         }

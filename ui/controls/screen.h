@@ -62,7 +62,7 @@ public:
     /// What the close box does: asks `onQueryClose`, and hides the screen when that agrees.
     void close();
 
-    /// Window icon and buttons of the frame.
+    /// False for a dialog: its frame has no button for that, and Esc does what its close box does.
     bool canMinimize = true;
 
     /// Set once by `Application`: runs every handler, so that a failure in one is told to the user in one
