@@ -82,7 +82,7 @@ void Application::bindPages() {
     mainForm.hooks = {.loadSettings = [this] { settingsPages.loadSettings(); },
                       .showCustomFolders = [this] { iCust.show(); },
                       .showScanners = [this] { s_avir.show(); },
-                      .regPageOpened = [this] { regPage.Image7_Opened(); },
+                      .regPageOpened = [this] { regPage.opened(); },
                       .advancedPageOpened = [this] { advancedPage.opened(); }};
     mForm1.cCreateSS.onClick = [this] { ownShortcuts.cCreateSS_Click(); };
     mForm1.cSetW.onClick = [this] {

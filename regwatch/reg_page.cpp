@@ -60,7 +60,7 @@ void RegPage::bind() {
     screen_.TreeView1.onExpandOrCollapse = [this] { enableEntryButtons(false); };
 }
 
-void RegPage::Image7_Opened() {
+void RegPage::opened() {
     screen_.cScnUpd.Enabled = false;
     enableEntryButtons(false);
 }

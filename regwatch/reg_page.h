@@ -30,8 +30,8 @@ class RegPage {
 public:
     RegPage(MForm1Screen& screen, const RegPageParts& parts);
 
-    /// Opens the page as it was left.
-    void Image7_Opened();
+    /// The page comes to light: its lists are as they were left, and nothing can be acted on yet.
+    void opened();
 
     /// Hands the files behind all rows of the shown list to the scanners in one run, and accepts the registry
     /// as it stands. Also called by the shut-down, which asks and tells nothing.
