@@ -38,12 +38,17 @@ void Scanner::runScanner(const std::string& commandLine) const {
     }
 }
 
-std::string Scanner::item(std::string name) const {
-    if (globals_.settings.shortPaths) {
-        name = toShortPath(name);
-    }
-    const std::string& quote = globals_.settings.quoteChar;
-    return quote + name + quote + " ";
+std::string Scanner::quoted(const std::string& name) const {
+    return globals_.settings.quoteChar + name + globals_.settings.quoteChar;
+}
+
+std::string Scanner::shortened(const std::string& name) const {
+    return globals_.settings.shortPaths ? toShortPath(name) : name;
+}
+
+/// One name as it stands in a list.
+std::string Scanner::item(const std::string& name) const {
+    return quoted(shortened(name)) + " ";
 }
 
 bool Scanner::batch(int first, int last, const std::function<std::string(int)>& row,
@@ -89,13 +94,9 @@ bool Scanner::test(const std::string& exe) const {
              "files, then "
              "it is fully compatible with Tarvelon! If not, make sure you chose the correct EXE file in your "
              "anti-virus folder."});
-    runScanner(exe + " " + testItem(globals_.app.settFile) + " " + testItem(globals_.app.intFile));
+    runScanner(exe + " " + quoted(shortened(globals_.app.settFile)) + " " +
+               quoted(shortened(globals_.app.intFile)));
     return true;
-}
-
-std::string Scanner::testItem(const std::string& path) const {
-    const std::string& quote = globals_.settings.quoteChar;
-    return quote + (globals_.settings.shortPaths ? toShortPath(path) : path) + quote;
 }
 
 } // namespace tarvelon

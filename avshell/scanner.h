@@ -34,9 +34,11 @@ public:
     /// `avfocus` is ticked now, else minimised. Throws `Failure` when it cannot be started.
     void runScanner(const std::string& commandLine) const;
 
-    /// One name as it stands in a list: shortened if the user wants that, in quotes if the user wants that,
-    /// and a blank behind it.
-    std::string item(std::string name) const;
+    /// The name in its 8.3 form, if the user wants that.
+    std::string shortened(const std::string& name) const;
+
+    /// The name in quotes, if the user wants that.
+    std::string quoted(const std::string& name) const;
 
     /// Walks rows `first` to `last` and cuts them into lists of at most `passCount` rows. Empty rows count,
     /// but add nothing. Each list, which may be empty, goes to `flush`; false from it ends the walk. Gives
@@ -52,7 +54,7 @@ public:
     bool test(const std::string& exe) const;
 
 private:
-    std::string testItem(const std::string& path) const;
+    std::string item(const std::string& name) const;
 
     const MForm1Screen& mForm1_;
     const Globals& globals_;

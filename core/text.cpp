@@ -105,6 +105,14 @@ std::string CaseRules::replaceAll(std::string_view text, std::string_view what, 
     return result.append(text.substr(from));
 }
 
+std::string replaceExact(std::string text, std::string_view what, std::string_view with) {
+    for (std::size_t hit = text.find(what); hit != std::string::npos;
+         hit = text.find(what, hit + with.size())) {
+        text.replace(hit, what.size(), with);
+    }
+    return text;
+}
+
 std::string trim(std::string_view text) {
     const std::size_t first = text.find_first_not_of(' ');
     if (first == std::string_view::npos) {

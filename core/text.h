@@ -41,6 +41,9 @@ private:
 
 inline constexpr std::string_view lineEnd = "\r\n";
 
+/// Every occurrence replaced, upper and lower case being different, from left to right and without overlaps.
+std::string replaceExact(std::string text, std::string_view what, std::string_view with);
+
 /// Blanks only, at both ends; tabs and zeros stay.
 std::string trim(std::string_view text);
 

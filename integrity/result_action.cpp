@@ -24,11 +24,8 @@ namespace {
 constexpr std::string_view newMark = " *NEW*";
 constexpr const char* closeWindowCaption = "Close Integrity Window";
 
-std::string withoutNewMark(std::string item) {
-    for (std::size_t hit = item.find(newMark); hit != std::string::npos; hit = item.find(newMark, hit)) {
-        item.erase(hit, newMark.size());
-    }
-    return item;
+std::string withoutNewMark(const std::string& item) {
+    return replaceExact(item, newMark, "");
 }
 
 /// What stands behind the last backslash. Input is let in at each one.

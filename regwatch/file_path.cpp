@@ -1,20 +1,13 @@
 #include "regwatch/file_path.h"
 
+#include "core/text.h"
 #include "core/utilities.h"
 
 #include <array>
-#include <string_view>
 
 namespace tarvelon {
 
 namespace {
-
-void replaceEvery(std::string& text, std::string_view what, const std::string& with) {
-    for (std::size_t hit = text.find(what); hit != std::string::npos;
-         hit = text.find(what, hit + with.size())) {
-        text.replace(hit, what.size(), with);
-    }
-}
 
 std::string insideParentheses(const std::string& entry) {
     const std::size_t open = entry.find('(');
@@ -49,9 +42,7 @@ CutPath cutToFilePath(const std::string& entry, const Utilities& utilities) {
     if (text.find('\\') == std::string::npos) {
         return {text, searched(text, utilities)};
     }
-    std::string path = text;
-    replaceEvery(path, "%systemroot%", utilities.getWinDir());
-    replaceEvery(path, "\\\\", "\\");
+    std::string path = replaceExact(replaceExact(text, "%systemroot%", utilities.getWinDir()), "\\\\", "\\");
     if (path.find('.') == std::string::npos) {
         path += ".exe";
     }

@@ -32,13 +32,6 @@ std::string before(const std::string& text, char mark) {
     return text.substr(0, text.find(mark));
 }
 
-std::string without(std::string text, std::string_view what) {
-    for (std::size_t hit = text.find(what); hit != std::string::npos; hit = text.find(what, hit)) {
-        text.erase(hit, what.size());
-    }
-    return text;
-}
-
 } // namespace
 
 RegPage::RegPage(MForm1Screen& screen, const RegPageParts& parts)
@@ -185,10 +178,7 @@ void RegPage::Command11_Click() {
     }
     std::string path = *cut.path;
     if (path.find('"') == std::string::npos) {
-        if (globals_.settings.shortPaths) {
-            path = parts_.scanner.toShortPath(path);
-        }
-        path = globals_.settings.quoteChar + path + globals_.settings.quoteChar;
+        path = parts_.scanner.quoted(parts_.scanner.shortened(path));
     }
     runBoth(path);
 }
@@ -221,7 +211,7 @@ std::string RegPage::rowToScan(int row) {
     ListBox& source = pending ? screen_.List6 : screen_.List5;
     std::string text = source.item(row);
     if (pending) {
-        text = without(without(text, deletedMark), overwrittenMark);
+        text = replaceExact(replaceExact(text, deletedMark, ""), overwrittenMark, "");
     } else if (lastCharacters(text, rowEnd.size()) != rowEnd) {
         text += rowEnd;
     }
@@ -236,11 +226,9 @@ std::string RegPage::fileOfRow(const std::string& row) {
         parts_.platform.dialogs.message(
             {.text = "Unable to find the file: " + cut.text + "\r\nPlease scan manually."});
     }
-    std::string path = without(cut.path.value_or(std::string()), "\"");
-    if (globals_.settings.shortPaths) {
-        path = parts_.scanner.toShortPath(path);
-    }
-    return path.empty() ? path : globals_.settings.quoteChar + path + globals_.settings.quoteChar;
+    const std::string path =
+        parts_.scanner.shortened(replaceExact(cut.path.value_or(std::string()), "\"", ""));
+    return path.empty() ? path : parts_.scanner.quoted(path);
 }
 
 /// A scanner that cannot be started goes unnoticed here.

@@ -97,14 +97,9 @@ void Sequence::scanPendingRenames() {
 }
 
 /// The file as it stands on a command line; empty when it is gone.
-std::string Sequence::item(std::string file) const {
-    if (globals_.settings.shortPaths) {
-        file = parts_.scanner.toShortPath(file);
-    }
-    if (!parts_.utilities.fileThere(file)) {
-        return {};
-    }
-    return globals_.settings.quoteChar + file + globals_.settings.quoteChar + " ";
+std::string Sequence::item(const std::string& file) const {
+    const std::string name = parts_.scanner.shortened(file);
+    return parts_.utilities.fileThere(name) ? parts_.scanner.quoted(name) + " " : std::string();
 }
 
 /// The second scanner starts even when there is nothing to hand over. One that cannot be started goes

@@ -59,7 +59,7 @@ private:
     bool queryClose();
 
     void runScanners(const std::string& batch);
-    std::string item(std::string file) const;
+    std::string item(const std::string& file) const;
     void status(const std::string& text);
 
     LogoffScreen& logoff_;
