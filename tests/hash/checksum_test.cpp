@@ -2,12 +2,12 @@
 
 #include "core/globals.h"
 #include "platform/sim/workstation.h"
+#include "tests/support/bitwise_crc32.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdio>
 #include <filesystem>
 #include <iterator>
 
@@ -27,20 +27,6 @@ std::string patternOf(std::size_t length) {
         return static_cast<char>(value >> 16);
     });
     return bytes;
-}
-
-/// CRC-32 bit by bit, as the baselines hold it.
-std::string crcTextOf(const std::string& bytes) {
-    std::uint32_t state = 0xFFFFFFFF;
-    for (const char byte : bytes) {
-        state ^= static_cast<unsigned char>(byte);
-        for (int bit = 0; bit < 8; ++bit) {
-            state = (state >> 1) ^ ((state & 1) != 0 ? 0xEDB88320U : 0U);
-        }
-    }
-    char text[9];
-    std::snprintf(text, sizeof text, "%X", ~state);
-    return text;
 }
 
 /// Files that this process holds open.
@@ -81,7 +67,7 @@ TEST_F(ChecksumTest, ReadsByBuffersAndLooksForInputOnlyBetweenThem) {
                 EXPECT_EQ(machine.faults.calls(Operation::ReadFile) - reads, buffers) << length;
                 EXPECT_EQ(machine.messages.queueStatusCalls() - looks, buffers - 1) << length;
                 if (algorithm == "CRC32") {
-                    EXPECT_EQ(text, crcTextOf(bytes)) << length << " by " << buffer;
+                    EXPECT_EQ(text, crcText(bytes)) << length << " by " << buffer;
                 }
             }
         }
@@ -114,7 +100,7 @@ TEST_F(ChecksumTest, WritesHexadecimalWithoutLeadingZeros) {
 TEST_F(ChecksumTest, ReplacesABufferOfNothingForGood) {
     globals.settings.readBuffer = 0;
     const std::string bytes = patternOf(65537);
-    EXPECT_EQ(checksumOf(bytes), crcTextOf(bytes));
+    EXPECT_EQ(checksumOf(bytes), crcText(bytes));
     EXPECT_EQ(globals.settings.readBuffer, 65536);
     EXPECT_EQ(machine.faults.calls(Operation::ReadFile), 2);
 }
@@ -162,14 +148,14 @@ TEST_F(ChecksumTest, StaysRightWhenInputChangesThingsBetweenBuffers) {
         otherText = checksum.getChecksum("C:\\other.bin");
         globals.settings.algoName = "MD5";
     });
-    EXPECT_EQ(checksumOf(bytes), crcTextOf(bytes));
-    EXPECT_EQ(otherText, crcTextOf(other));
+    EXPECT_EQ(checksumOf(bytes), crcText(bytes));
+    EXPECT_EQ(otherText, crcText(other));
     EXPECT_EQ(machine.messages.pumps(), 1);
 
     globals.settings.algoName = "CRC32";
     machine.messages.atQueueStatus(1, [&] { machine.files.put(file, bytes.substr(0, 50)); });
     EXPECT_EQ(checksumOf(bytes),
-              crcTextOf(bytes.substr(0, 37) + bytes.substr(37, 13) + std::string(950, '\0')));
+              crcText(bytes.substr(0, 37) + bytes.substr(37, 13) + std::string(950, '\0')));
     EXPECT_TRUE(machine.messages.scriptDone());
 }
 

@@ -1,6 +1,7 @@
 #include "hash/crc16.h"
 #include "hash/crc32.h"
 #include "hash/crc32_kernels.h"
+#include "tests/support/bitwise_crc32.h"
 
 #include <gtest/gtest.h>
 
@@ -24,17 +25,6 @@ using Bytes = std::vector<unsigned char>;
 
 std::span<const unsigned char> bytesOf(std::string_view text) {
     return {reinterpret_cast<const unsigned char*>(text.data()), text.size()};
-}
-
-/// One bit after the other, straight from the definition.
-std::uint32_t bitByBit(std::uint32_t state, std::span<const unsigned char> bytes) {
-    for (const unsigned char byte : bytes) {
-        state ^= byte;
-        for (int bit = 0; bit < 8; ++bit) {
-            state = (state >> 1) ^ ((state & 1) != 0 ? 0xEDB88320U : 0U);
-        }
-    }
-    return state;
 }
 
 Bytes randomBytes(std::mt19937& random, std::size_t count) {

@@ -7,7 +7,6 @@
 namespace tarvelon {
 namespace {
 
-using Rows = std::vector<std::string>;
 using Window = Desktop::Window;
 
 constexpr std::uint32_t closeMessage = 16;
@@ -16,7 +15,6 @@ class AppWatch : public Session {
 protected:
     void SetUp() override {
         pc.files.put(dataFolder + "Integrity.dat", "");
-        pc.files.put(dataFolder + "Tarvelon.dat", settingsWith("0,0,0,0,0,0,0,0"));
         ASSERT_FALSE(start());
         page().Image9.click();
         ASSERT_TRUE(page().appF.isShown());
@@ -40,9 +38,7 @@ protected:
     }
 
     void answerClose(const std::string& window, Answer answer) {
-        pc.dialogs.expect({.text = "Are you sure you want to close " + window,
-                           .answer = answer,
-                           .buttons = Buttons::YesNo});
+        asks("Are you sure you want to close " + window, answer);
         page().cl.click();
     }
 };

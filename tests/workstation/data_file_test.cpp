@@ -33,7 +33,6 @@ protected:
 TEST_F(DataFiles, BlocksAreCutAtSectionHeads) {
     EXPECT_EQ(block(1), "[DLL]\r\nNULL*E\r\n");
     EXPECT_EQ(block(9), "[SCR]\r\nNULL*E\r\n");
-    EXPECT_EQ(app->settingsFile.findSection("scr"), 9u);
 
     for (const std::string& text : {std::string(), headerLines}) {
         load(text);
@@ -61,43 +60,14 @@ TEST_F(DataFiles, EntriesAreFoundInTheirSectionInAnyCase) {
     EXPECT_EQ(app->dataFile.getEntry("NULL*E", "DLL"), "");
 }
 
-TEST_F(DataFiles, WritingInMemoryAddsBeforeTheEndLineAndReplacesExactly) {
-    write("new.dll", "1*E");
-    write("New.dll", "2*E");
-    write("new.dll", "3*E");
-    EXPECT_EQ(block(1), "[DLL]\r\nnew.dll=3*E\r\nNew.dll=2*E\r\nNULL*E\r\n") << "case counts when writing";
-    write("new", "4*E");
-    EXPECT_EQ(block(1), "[DLL]\r\nnew.dll=3*E\r\nNew.dll=2*E\r\nNULL*E\r\n")
-        << "the beginning of a longer name";
-    EXPECT_EQ(app->dataFile.getEntry("NEW.DLL", "DLL"), "3");
-    EXPECT_THROW(write("a.txt", "1*E", "TXT"), Failure);
-
-    load(headerLines + "[DLL]\r\na.dll=1*E\r\n");
-    write("b.dll", "2*E");
-    EXPECT_EQ(block(1), "[DLL]\r\na.dll=1*E\r\n") << "nothing to add in front of";
-    EXPECT_EQ(file(dataFolder + "Integrity.dat"), headerLines + "[DLL]\r\na.dll=1*E\r\n");
-}
-
-TEST_F(DataFiles, SettingsAndSnapshotAreAlwaysWrittenThrough) {
-    EXPECT_EQ(app->settingsFile.writeEntry(R"(c:\other\REGISTRY.dat)", "k", "v", "s"), false)
-        << "no such folder";
-    pc.files.makeFolders(R"(C:\other\)");
-    EXPECT_EQ(app->settingsFile.writeEntry(R"(c:\other\REGISTRY.dat)", "k", " (v)", "s"), true);
-    EXPECT_EQ(file(R"(C:\other\registry.dat)"), "[s]\r\nk= (v)\r\n");
-    EXPECT_EQ(app->settingsFile.writeEntry(dataFolder + "Tarvelon.dat", "settings2", "1,1", "Tarvelon"),
-              true);
-    EXPECT_NE(file(dataFolder + "Tarvelon.dat").find("algo=crc32\r\nsettings2=1,1\r\n\r\n[1]\r\n"),
-              std::string::npos);
-}
-
 TEST_F(DataFiles, SavingKeepsTheOldFileAndLosesNothingWhenItFails) {
     const std::string before = headerLines + "\r\n" + nineSections();
     write("new.dll", "1*E");
     app->dataFile.saveIntFile();
-    EXPECT_EQ(file(dataFolder + "Integrity.dat"), headerLines + nineSections("new.dll=1*E\r\n"));
-    EXPECT_EQ(file(dataFolder + "integrity.bak"), before);
+    EXPECT_EQ(data("Integrity.dat"), headerLines + nineSections("new.dll=1*E\r\n"));
+    EXPECT_EQ(data("integrity.bak"), before);
 
-    const std::string saved = file(dataFolder + "Integrity.dat");
+    const std::string saved = data("Integrity.dat");
     pc.faults.failNth(Operation::CopyFile, 1);
     EXPECT_THROW(app->dataFile.saveIntFile(), Failure);
     EXPECT_EQ(file(dataFolder + "Integrity.dat"), saved);
@@ -110,23 +80,19 @@ TEST_F(DataFiles, ACustomFoldersMissingFileIsRestoredOrBuilt) {
     const std::string path = dataFolder + "7.dat";
     const std::string question = "The data file is missing! Would you like to use the backup?";
     pc.files.put(dataFolder + "7.bak", headerLines + nineSections("a.dll=1*E\r\n"));
-    pc.dialogs.expect(
-        {.text = question, .answer = Answer::Yes, .title = ".Dat file Missing!", .buttons = Buttons::YesNo});
+    asks(question, Answer::Yes, ".Dat file Missing!");
     app->dataFile.loadCustomDat(path);
     EXPECT_EQ(app->dataFile.getCustomEntry("a.dll", "DLL"), "1");
 
     pc.files.remove(path);
     pc.files.put(R"(C:\Tools\b.dll)", "b");
     app->settingsFile.writeEntry(dataFolder + "Tarvelon.dat", "path", R"(C:\Tools\)", "7");
-    pc.dialogs.expect({.text = question, .answer = Answer::No});
-    pc.dialogs.expect(
-        {.text = "This Custom Folder C:\\Tools\\ has not been fully scanned yet. The scan is required "
-                 "by the Integrity Checker.\r\n\r\nPerform scan now?",
-         .answer = Answer::No,
-         .buttons = Buttons::YesNo});
-    pc.dialogs.expect({.text =
-                           "You have chosen not to scan this Custom Folder.  You need to run the scan before "
-                           "using this Custom Folder Integrity Checker."});
+    asks(question, Answer::No, ".Dat file Missing!");
+    asks("This Custom Folder C:\\Tools\\ has not been fully scanned yet. The scan is required by the "
+         "Integrity Checker.\r\n\r\nPerform scan now?",
+         Answer::No);
+    tells("You have chosen not to scan this Custom Folder.  You need to run the scan before using this "
+          "Custom Folder Integrity Checker.");
     app->dataFile.loadCustomDat(path);
     EXPECT_EQ(file(path), "") << "the load itself leaves an empty file";
 

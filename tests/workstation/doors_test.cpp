@@ -17,11 +17,12 @@ protected:
         for (const std::string& victim : victims) {
             pc.files.put(victim, "precious");
         }
-        pc.files.put(dataFolder + "Tarvelon.dat",
-                     "[Tarvelon]\r\nsettings=1,1,1,1,1,1,1,1\r\nsettings2=1,1,1,1,1,1\r\n"
-                     "antivirus=C:\\av.exe|/s\r\nav2=C:\\av.exe|\r\nantivirus2=1,0,0\r\n"
-                     "[1]\r\npath=C:\\Home\\..\\Home\\\r\nargs=1,1,1,1,1,1,1\r\nargs2=1,1,1,1,1,1,1\r\n"
-                     "[..\\..\\Home]\r\npath=C:\\Home\\\r\n");
+        putSettings({.settings = "1,1,1,1,1,1,1,1\r\nsettings2=1,1,1,1,1,1",
+                     .antivirus = "C:\\av.exe|/s",
+                     .av2 = "C:\\av.exe|",
+                     .folders =
+                         "[1]\r\npath=C:\\Home\\..\\Home\\\r\nargs=1,1,1,1,1,1,1\r\nargs2=1,1,1,1,1,1,1\r\n"
+                         "[..\\..\\Home]\r\npath=C:\\Home\\\r\n"});
         pc.files.put(dataFolder + "1.dat", "");
         pc.files.put(
             R"(C:\WINDOWS\wininit.ini)",
@@ -77,8 +78,7 @@ TEST_F(HostileTexts, InReportsAndTheRegistryPageDeleteNothingElse) {
     for (int dates = 3; dates > 0; --dates) {
         const Tree::Node& root = window.TreeView2.nodes().front();
         window.TreeView2.clickNode(root);
-        pc.dialogs.expect(
-            {.text = "Delete All Logs on this (" + root.text + ") Date?", .answer = Answer::Yes});
+        asks("Delete All Logs on this (" + root.text + ") Date?", Answer::Yes);
         window.TreeView2.keyDown(46);
     }
     plantInRegistry();

@@ -10,18 +10,16 @@ class FirstRun : public Session {};
 
 TEST_F(FirstRun, RefusedTwiceLeavesAnOpenWindowAndNoBaseline) {
     for (int i = 0; i < 2; ++i) {
-        pc.dialogs.expect(
-            {.text = firstRunQuestion, .answer = Answer::No, .title = "", .buttons = Buttons::YesNo});
-        pc.dialogs.expect({.text = firstRunRefused, .buttons = Buttons::Ok});
+        asks(firstRunQuestion, Answer::No);
+        tells(firstRunRefused);
     }
     EXPECT_FALSE(start());
     EXPECT_TRUE(app->mForm1.Visible());
     EXPECT_FALSE(app->intCheck.Visible());
-    EXPECT_EQ(file(dataFolder + "Integrity.dat"), "(missing)");
-    EXPECT_EQ(file(dataFolder + "Tarvelon.dat").substr(0, 36), "[Tarvelon]\r\nsettings=0,0,0,0,0,0,0,0");
-    EXPECT_NE(file(dataFolder + "Tarvelon.dat").find("[20]\r\npath=NULL\r\nargs=0,0,0,0,0,0,0\r\n"),
-              std::string::npos);
-    EXPECT_EQ(file(dataFolder + "Registry.dat").substr(0, 18), "[LM/R]\r\n\r\n[LM/RO]\r");
+    EXPECT_EQ(data("Integrity.dat"), "(missing)");
+    EXPECT_EQ(data("Tarvelon.dat").substr(0, 36), "[Tarvelon]\r\nsettings=0,0,0,0,0,0,0,0");
+    EXPECT_THAT(data("Tarvelon.dat"), HasSubstr("[20]\r\npath=NULL\r\nargs=0,0,0,0,0,0,0\r\n"));
+    EXPECT_EQ(data("Registry.dat").substr(0, 18), "[LM/R]\r\n\r\n[LM/RO]\r");
     EXPECT_NE(pc.files.firstName(dataFolder + "Log\\"), "");
 }
 
@@ -40,11 +38,11 @@ TEST_F(FirstRun, AcceptedListsTheFolderThenFillsTheChecksumsIn) {
     pc.files.lock(systemFolder + "locked.drv");
 
     std::string blank;
-    pc.dialogs.expect({.text = firstRunQuestion, .answer = Answer::Yes});
+    asks(firstRunQuestion, Answer::Yes);
     EXPECT_FALSE(start());
     EXPECT_FALSE(app->mForm1.Visible());
     EXPECT_TRUE(app->intCheck.Visible());
-    EXPECT_EQ(file(dataFolder + "Integrity.dat"),
+    EXPECT_EQ(data("Integrity.dat"),
               header + "[DLL]\r\nA.DLL=NULL*E\r\nkernel32.dll=NULL*E\r\n\xc4\xe4.dll=NULL*E\r\nNULL*E\r\n"
                        "[DRV]\r\nlocked.drv=NULL*E\r\nNULL*E\r\n[386]\r\nvmm.386=NULL*E\r\nNULL*E\r\n"
                        "[SYS]\r\nempty.sys=NULL*E\r\nNULL*E\r\n[OCX]\r\nfolder.ocx=NULL*E\r\nNULL*E\r\n"
@@ -55,7 +53,7 @@ TEST_F(FirstRun, AcceptedListsTheFolderThenFillsTheChecksumsIn) {
     EXPECT_TRUE(app->mForm1.Visible());
     EXPECT_FALSE(app->intCheck.Visible());
     EXPECT_EQ(app->mForm1.Caption(), "Welcome to Tarvelon");
-    const std::string done = file(dataFolder + "Integrity.dat");
+    const std::string done = data("Integrity.dat");
     EXPECT_EQ(
         done.substr(0, done.find("[EXE]")),
         header + "[DLL]\r\nA.DLL=" + crcText("aaa") +
@@ -72,25 +70,22 @@ TEST_F(FirstRun, AcceptedListsTheFolderThenFillsTheChecksumsIn) {
 TEST_F(FirstRun, BackupIsOfferedAndRestoredOrDroppedForGood) {
     pc.files.put(systemFolder + "a.dll", "a");
     makeBaseline();
-    const std::string baseline = file(dataFolder + "Integrity.dat");
+    const std::string baseline = data("Integrity.dat");
     pc.files.put(dataFolder + "integrity.bak", baseline);
     pc.files.remove(dataFolder + "Integrity.dat");
     const std::string question =
         "Your Integrity.dat file cannot be found! But the backup file was located!\r\n"
         "Would you like to restore the backup?";
 
-    pc.dialogs.expect({.text = question,
-                       .answer = Answer::Yes,
-                       .title = "Missing Integrity.dat file",
-                       .buttons = Buttons::YesNo});
+    asks(question, Answer::Yes, "Missing Integrity.dat file");
     EXPECT_FALSE(start());
-    EXPECT_EQ(file(dataFolder + "Integrity.dat"), baseline);
+    EXPECT_EQ(data("Integrity.dat"), baseline);
 
     pc.files.remove(dataFolder + "Integrity.dat");
-    pc.dialogs.expect({.text = question, .answer = Answer::No});
-    pc.dialogs.expect({.text = "Tarvelon needs to be re-started", .buttons = Buttons::Ok});
+    asks(question, Answer::No, "Missing Integrity.dat file");
+    tells("Tarvelon needs to be re-started");
     EXPECT_TRUE(start());
-    EXPECT_EQ(file(dataFolder + "integrity.bak"), "(missing)");
+    EXPECT_EQ(data("integrity.bak"), "(missing)");
     ASSERT_EQ(pc.processes.started().size(), 1u);
     EXPECT_EQ(pc.processes.started()[0],
               (StartedProcess{"\"" + programFolder + "TarvelonLow.exe\"", WindowStyle::MinimizedFocus}));
@@ -102,40 +97,27 @@ TEST_F(FirstRun, LeavingThePrimaryScanDeletesTheFileAndEnds) {
     }
     const std::string question = "If you stop the scan now, you will need to re-start it later\r\n"
                                  "Are you sure you want to abandon the full system scan?";
-    pc.dialogs.expect({.text = firstRunQuestion, .answer = Answer::Yes});
+    asks(firstRunQuestion, Answer::Yes);
     start();
     pc.messages.when([this] { return app->intCheck.Label6.Caption() == "3"; },
                      [this] { app->intCheck.Image11.click(); });
     pc.messages.when([this] { return app->intCheck.Label6.Caption() == "7"; },
                      [this] { app->intCheck.close(); });
-    pc.dialogs.expect({.text = question, .answer = Answer::No, .title = "", .buttons = Buttons::YesNo});
-    pc.dialogs.expect({.text = question, .answer = Answer::Yes});
+    asks(question, Answer::No);
+    asks(question, Answer::Yes);
     EXPECT_TRUE(settle());
-    EXPECT_EQ(file(dataFolder + "Integrity.dat"), "(missing)");
+    EXPECT_EQ(data("Integrity.dat"), "(missing)");
     EXPECT_EQ(app->intCheck.Label6.Caption(), "7") << "refused once, the scan went on";
 }
 
 TEST_F(FirstRun, AScanThatRunsWithinTheStartLeavesItsChecksumsInMemory) {
     pc.files.put(systemFolder + "a.dll", "a");
     pc.files.put(systemFolder + "b.drv", "b");
-    pc.dialogs.expect({.text = firstRunQuestion, .answer = Answer::Yes});
+    asks(firstRunQuestion, Answer::Yes);
     pc.messages.when([this] { return app->intCheck.Timer1.Enabled(); }, [this] { pc.clock.now += 1; });
     ASSERT_FALSE(start("/r"));
     EXPECT_EQ(app->intCheck.Label6.Caption(), "2") << "the first load of the baseline lets the scan run";
     EXPECT_EQ(app->dataFile.getEntry("b.drv", "DRV"), crcText("b"));
-}
-
-TEST_F(FirstRun, EachAlgorithmHasABaselineOfItsOwn) {
-    pc.files.put(systemFolder + "a.dll", "abc");
-    pc.files.put(dataFolder + "Integrity.dat", "");
-    std::string settings = settingsWith("1,1,1,1,1,1,0,0");
-    settings.replace(settings.find("crc32"), 5, "MD5");
-    pc.files.put(dataFolder + "Tarvelon.dat", settings);
-    makeBaseline();
-    EXPECT_EQ(file(dataFolder + "Integrity.dat"), "");
-    EXPECT_NE(
-        file(dataFolder + "Integrity-md5.dat").find("a.dll=14418015260210791762141506312540225127114*E\r\n"),
-        std::string::npos);
 }
 
 } // namespace

@@ -37,34 +37,33 @@ protected:
 
 TEST_F(Folders, AFolderIsAddedScannedChangedFoundAcceptedAndRemoved) {
     showManager();
-    pc.dialogs.expect({.text = "Folder Added."});
+    tells("Folder Added.");
     addFolder(R"(C:\Tools)");
     EXPECT_EQ(app->iCust.List1.item(0), "1) C:\\Tools\\");
-    pc.dialogs.expect({.text = "Save Successful!"});
+    tells("Save Successful!");
     app->iCust.Command3.click();
     EXPECT_FALSE(app->iCust.Visible());
-    EXPECT_EQ(app->mForm1.Combo1.items(), (std::vector<std::string>{systemFolder, "C:\\Tools\\"}));
+    EXPECT_EQ(app->mForm1.Combo1.items(), (Rows{systemFolder, "C:\\Tools\\"}));
 
-    pc.dialogs.expect({.text = scanQuestion, .answer = Answer::Yes});
-    pc.dialogs.expect({.text = "Initial Custom Folder Scan Completed Successfully!"});
+    asks(scanQuestion, Answer::Yes);
+    tells("Initial Custom Folder Scan Completed Successfully!");
     app->mForm1.Combo1.select(1);
     EXPECT_FALSE(settle());
     EXPECT_FALSE(app->intCheck.Visible());
-    const std::string scanned = file(dataFolder + "1.dat");
+    const std::string scanned = data("1.dat");
     EXPECT_NE(scanned.find("t.dll=" + crcText("tool") + "*E"), std::string::npos);
 
     pc.files.put(R"(C:\Tools\t.exe)", "changed");
     app->mForm1.bFULL.click();
     app->mForm1.bSCAN.click();
     EXPECT_FALSE(settle());
-    EXPECT_EQ(app->intCheck.List1.items(), (std::vector<std::string>{"C:\\Tools\\t.exe"}));
+    EXPECT_EQ(app->intCheck.List1.items(), (Rows{"C:\\Tools\\t.exe"}));
     app->intCheck.Label2.click();
     pc.files.put(R"(C:\av.exe)", "");
     app->intCheck.Text1.Caption = R"(C:\av.exe)";
     app->intCheck.Label12.click();
-    EXPECT_NE(file(dataFolder + "1.dat").find("t.exe=" + crcText("changed") + "*E"), std::string::npos);
-    EXPECT_EQ(file(dataFolder + "1.bak").substr(scanned.find("[DLL]")),
-              scanned.substr(scanned.find("[DLL]")));
+    EXPECT_THAT(data("1.dat"), HasSubstr("t.exe=" + crcText("changed") + "*E"));
+    EXPECT_EQ(data("1.bak").substr(scanned.find("[DLL]")), scanned.substr(scanned.find("[DLL]")));
     app->intCheck.Label12.click();
     EXPECT_FALSE(app->intCheck.Visible());
     EXPECT_FALSE(pc.processes.ended()) << "a scan of the main window goes back to it";
@@ -88,29 +87,27 @@ TEST_F(Folders, AFolderIsAddedScannedChangedFoundAcceptedAndRemoved) {
          {".dat", ".bak", "-md4.dat", "-md4.bak", "-md5.dat", "-md5.bak", "-sha1.dat", "-sha1.bak"}) {
         EXPECT_EQ(file(dataFolder + "1" + ending), "(missing)") << ending;
     }
-    EXPECT_EQ(file(dataFolder + "11.dat"), "another slot's");
+    EXPECT_EQ(data("11.dat"), "another slot's");
 }
 
 TEST_F(Folders, AddingIsRefusedForTheDefaultADoubleAndATwentyFirst) {
     showManager();
-    pc.dialogs.expect({.text =
-                           "This is the default folder that Tarvelon scans. It cannot be added to the Custom "
-                           "Integrity Checker"});
+    tells(
+        "This is the default folder that Tarvelon scans. It cannot be added to the Custom Integrity Checker");
     addFolder(R"(c:\windows\SYSTEM32)");
     for (int i = 1; i <= 20; ++i) {
-        pc.dialogs.expect({.text = "Folder Added."});
+        tells("Folder Added.");
         addFolder("C:\\F" + std::to_string(i));
     }
     EXPECT_EQ(app->iCust.List1.item(19), "20) C:\\F20\\");
-    pc.dialogs.expect({.text = "This folder is already being scanned."});
+    tells("This folder is already being scanned.");
     addFolder(R"(c:\f20)");
     addFolder(R"(C:\F21)");
     EXPECT_EQ(app->iCust.List1.count(), 20);
     pc.dialogs.expectFolder({.title = "Please Choose a Folder to Add", .choice = std::nullopt});
     app->iCust.cButton2.click();
 
-    pc.dialogs.expect(
-        {.text = "Do you wish to Save your changes?", .answer = Answer::No, .buttons = Buttons::YesNo});
+    asks("Do you wish to Save your changes?", Answer::No);
     app->iCust.close();
     EXPECT_EQ(setting(1, "path"), "NULL");
     app->mForm1.addRem.click();
@@ -119,10 +116,10 @@ TEST_F(Folders, AddingIsRefusedForTheDefaultADoubleAndATwentyFirst) {
 
 TEST_F(Folders, TypesAreEditedWhileTheirBoxIsTicked) {
     showManager();
-    pc.dialogs.expect({.text = "Please select a folder to edit its properties!"});
+    tells("Please select a folder to edit its properties!");
     app->iCust.Check1.click();
     EXPECT_EQ(app->iCust.Check1.BackColor(), 0x800000u);
-    pc.dialogs.expect({.text = "Folder Added."});
+    tells("Folder Added.");
     addFolder(R"(C:\Tools)");
     app->iCust.List1.select(1);
     EXPECT_FALSE(app->iCust.Check1.Enabled()) << "a free slot has no use";
@@ -140,8 +137,8 @@ TEST_F(Folders, TypesAreEditedWhileTheirBoxIsTicked) {
     EXPECT_FALSE(app->iCust.List4.Enabled());
     app->iCust.List1.select(2);
     EXPECT_EQ(app->iCust.Check1.BackColor(), 0x0000ffu) << "the box shows the slot that is selected";
-    pc.dialogs.expect({.text = "Do you wish to Save your changes?", .answer = Answer::Yes});
-    pc.dialogs.expect({.text = "Save Successful!"});
+    asks("Do you wish to Save your changes?", Answer::Yes);
+    tells("Save Successful!");
     app->iCust.close();
     EXPECT_EQ(setting(1, "args"), "1,0,0,0,1,0,1");
     EXPECT_EQ(setting(1, "args2"), "0,0,0,0,0,1,0");
@@ -158,7 +155,7 @@ TEST_F(Folders, TypesAreEditedWhileTheirBoxIsTicked) {
     app->mForm1.addRem.click();
     EXPECT_EQ(app->iCust.Label1.Caption(), "Currently Selected:") << "closed, it keeps no selection";
     pc.files.lock(app->globals.app.settFile);
-    pc.dialogs.expect({.text = "Save Successful!"});
+    tells("Save Successful!");
     app->iCust.Command3.click();
     EXPECT_FALSE(app->iCust.Visible()) << "a settings file out of reach is passed over";
 }
@@ -166,7 +163,7 @@ TEST_F(Folders, TypesAreEditedWhileTheirBoxIsTicked) {
 TEST_F(Folders, ThePageStartsScansOfTheSystemFolder) {
     app->mForm1.Image5.click();
     EXPECT_TRUE(app->mForm1.intF.isShown());
-    pc.dialogs.expect({.text = "Please select the files to scan."});
+    tells("Please select the files to scan.");
     app->mForm1.bSCAN.click();
     pc.files.put(systemFolder + "b.exe", "b");
     app->mForm1.bEXE.click();
@@ -176,17 +173,15 @@ TEST_F(Folders, ThePageStartsScansOfTheSystemFolder) {
     EXPECT_TRUE(app->intCheck.Visible());
     EXPECT_FALSE(settle());
     EXPECT_EQ(app->intCheck.l_dll2.Caption(), "DLL Scan --- Not Scanning");
-    EXPECT_EQ(app->intCheck.List1.items(), (std::vector<std::string>{systemFolder + "b.exe *NEW*"}));
+    EXPECT_EQ(app->intCheck.List1.items(), (Rows{systemFolder + "b.exe *NEW*"}));
 
     // Starting again with findings on the screen asks for them, and a No leaves them there.
-    pc.dialogs.expect({.text = "Some files failed the integrity check!  Are you sure you want to exit?",
-                       .answer = Answer::Yes});
+    asks(leaveFindings, Answer::Yes, "Warning");
     app->mForm1.bSCAN.click();
     EXPECT_FALSE(settle());
     EXPECT_EQ(app->intCheck.Label6.Caption(), "1");
 
-    pc.dialogs.expect({.text = "Some files failed the integrity check!  Are you sure you want to exit?",
-                       .answer = Answer::Yes});
+    asks(leaveFindings, Answer::Yes, "Warning");
     app->intCheck.close();
     EXPECT_FALSE(app->intCheck.Visible());
 }
@@ -194,18 +189,14 @@ TEST_F(Folders, ThePageStartsScansOfTheSystemFolder) {
 TEST_F(Folders, EnteringWithoutABaselineOffersToStartOver) {
     pc.files.remove(dataFolder + "Integrity.dat");
     pc.files.put(dataFolder + "integrity.bak", "old");
-    const std::string question =
-        "You have not yet completed the full system scan.  This is required before using "
-        "the Integrity Checker.  Perform scan now?";
-    pc.dialogs.expect(
-        {.text = question, .answer = Answer::No, .title = "Missing File", .buttons = Buttons::YesNo});
+    asks(fullScanQuestion, Answer::No, "Missing File");
     app->mForm1.Image5.click();
     EXPECT_FALSE(app->mForm1.intF.Visible());
     EXPECT_FALSE(app->mForm1.Frame2.Visible()) << "the bare frame";
-    pc.dialogs.expect({.text = question, .answer = Answer::Yes});
-    pc.dialogs.expect({.text = "Tarvelon needs to be re-started"});
+    asks(fullScanQuestion, Answer::Yes, "Missing File");
+    tells("Tarvelon needs to be re-started");
     EXPECT_TRUE(ends([this] { app->mForm1.Image5.click(); }));
-    EXPECT_EQ(file(dataFolder + "integrity.bak"), "(missing)");
+    EXPECT_EQ(data("integrity.bak"), "(missing)");
     EXPECT_EQ(pc.processes.started().size(), 1u);
 }
 

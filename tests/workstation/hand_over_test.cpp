@@ -20,22 +20,11 @@ protected:
         pc.files.put(systemFolder + "a.dll", "a");
     }
 
-    /// Settings with scanners and `antivirus2`; all types at log-on, `tail` for automatic scan and logging.
-    void configure(const std::string& tail, const std::string& shell = "1,0,0",
-                   const std::string& passCount = "500", const std::string& second = "",
-                   const std::string& more = "") {
-        pc.files.put(dataFolder + "Tarvelon.dat",
-                     "[Tarvelon]\r\nsettings=1,1,1,1,1,1," + tail + "\r\nadvanced=65536," + passCount +
-                         ",0\r\nantivirus=C:\\av\\scan.exe| /s \r\nav2=" + second +
-                         "\r\nantivirus2=" + shell + "\r\nalgo=crc32\r\n\r\n" + more);
-    }
-
-    std::vector<std::string> lines() const {
-        std::vector<std::string> all;
-        for (const StartedProcess& process : pc.processes.started()) {
-            all.push_back(process.commandLine);
-        }
-        return all;
+    /// All types at log-on, `tail` for automatic scan and reports, and with a first scanner.
+    void configure(const std::string& tail, SettingsText more = {}) {
+        more.settings = "1,1,1,1,1,1," + tail;
+        more.antivirus = "C:\\av\\scan.exe| /s ";
+        putSettings(more);
     }
 
     /// Changed and new files, and a log-on run up to its results.
@@ -52,8 +41,8 @@ protected:
 
 TEST_F(HandOver, ByHandScannersReportAndBaselineFollowOneClick) {
     makeBaseline();
-    const std::string before = file(dataFolder + "Integrity.dat");
-    configure("0,1", "1,0,1", "500", "C:\\av\\two.exe|");
+    const std::string before = data("Integrity.dat");
+    configure("0,1", {.av2 = "C:\\av\\two.exe|", .antivirus2 = "1,0,1"});
     findBoth();
     app->intCheck.Label12.click();
     const std::string both = "\"" + systemFolder + "a.dll\" \"" + systemFolder + "long name.exe\" ";
@@ -64,8 +53,8 @@ TEST_F(HandOver, ByHandScannersReportAndBaselineFollowOneClick) {
     EXPECT_EQ(app->intCheck.Label13.Caption(), "Integrity File Updated");
     EXPECT_EQ(app->intCheck.Label12.Caption(), "Close Integrity Window");
     EXPECT_EQ(app->intCheck.Caption(), "Integrity File(s) Updated");
-    EXPECT_EQ(file(dataFolder + "integrity.bak"), before);
-    const std::string updated = file(dataFolder + "Integrity.dat");
+    EXPECT_EQ(data("integrity.bak"), before);
+    const std::string updated = data("Integrity.dat");
     EXPECT_NE(updated.find("\r\na.dll=" + crcText("changed") + "*E\r\nNULL*E\r\n[DRV]"), std::string::npos);
     EXPECT_NE(updated.find("[EXE]\r\nlong name.exe=" + crcText("new") + "*E\r\nNULL*E\r\n"),
               std::string::npos)
@@ -85,51 +74,49 @@ TEST_F(HandOver, BatchesFollowPassCountAndNamesTheOptions) {
     for (int i = 0; i < 5; ++i) {
         pc.files.put(systemFolder + "f" + std::to_string(i) + ".dll", "2");
     }
-    configure("0,0", "0,1,0", "2");
+    configure("0,0", {.passCount = "2", .antivirus2 = "0,1,0"});
     ASSERT_FALSE(start("/r"));
     ASSERT_FALSE(settle());
     pc.files.remove(systemFolder + "f4.dll"); // Gone by now: its short name is empty.
     app->intCheck.Label12.click();
     const std::string f = systemFolder + "f";
-    EXPECT_EQ(lines(), (std::vector<std::string>{"C:\\av\\scan.exe /s " + f + "0.dll " + f + "1.dll ",
-                                                 "C:\\av\\scan.exe /s " + f + "2.dll " + f + "3.dll ",
-                                                 "C:\\av\\scan.exe /s  "}));
+    EXPECT_EQ(lines(), (Rows{"C:\\av\\scan.exe /s " + f + "0.dll " + f + "1.dll ",
+                             "C:\\av\\scan.exe /s " + f + "2.dll " + f + "3.dll ", "C:\\av\\scan.exe /s  "}));
     EXPECT_EQ(pc.processes.started()[0].style, WindowStyle::MinimizedFocus);
     EXPECT_EQ(file(report), "(missing)") << "Auto-Logging is off";
 }
 
 TEST_F(HandOver, AScannerThatCannotStartLeavesEverythingToTryAgain) {
     makeBaseline();
-    const std::string before = file(dataFolder + "Integrity.dat");
-    configure("0,1", "1,0,0", "500", "C:\\av\\two.exe|/x");
+    const std::string before = data("Integrity.dat");
+    configure("0,1", {.av2 = "C:\\av\\two.exe|/x"});
     findBoth();
     pc.processes.canStart = [](const std::string& line) { return line.find("two.exe") == std::string::npos; };
-    pc.dialogs.expect({.text =
-                           "Your Anti-Virus program could not be executed!!!\rPlease verify the path of the "
-                           "software:\rC:\\av\\scan.exe"});
+    tells("Your Anti-Virus program could not be executed!!!\rPlease verify the path of the "
+          "software:\rC:\\av\\scan.exe");
     app->intCheck.Label12.click();
     EXPECT_EQ(app->intCheck.List1.count(), 2);
-    EXPECT_EQ(file(dataFolder + "Integrity.dat"), before);
+    EXPECT_EQ(data("Integrity.dat"), before);
     EXPECT_EQ(file(report), "(missing)");
     pc.processes.canStart = nullptr;
     app->intCheck.Label12.click();
     EXPECT_EQ(app->intCheck.List1.count(), 0);
-    EXPECT_NE(file(dataFolder + "Integrity.dat"), before);
+    EXPECT_NE(data("Integrity.dat"), before);
 }
 
 TEST_F(HandOver, WithoutAScannerTheFirstBatchIsLoggedAndAllIsAccepted) {
     makeBaseline();
-    configure("0,0", "1,0,0", "1");
+    configure("0,0", {.passCount = "1"});
     pc.files.remove(R"(C:\av\scan.exe)");
     findBoth();
-    pc.dialogs.expect({.text = noScannerNotice, .buttons = Buttons::Ok});
+    tells(noScannerNotice);
     app->intCheck.Label12.click();
     EXPECT_TRUE(lines().empty());
     EXPECT_EQ(file(report),
               "Integrity Checker - These files were logged because you didn't setup an Anti-Virus "
               "Scanner," +
                   systemFolder + "a.dll\r\n");
-    EXPECT_NE(file(dataFolder + "Integrity.dat").find("long name.exe=" + crcText("new")), std::string::npos);
+    EXPECT_THAT(data("Integrity.dat"), HasSubstr("long name.exe=" + crcText("new")));
 }
 
 TEST_F(HandOver, AutomaticRunsReachTheirEnds) {
@@ -145,7 +132,7 @@ TEST_F(HandOver, AutomaticRunsReachTheirEnds) {
         EXPECT_TRUE(settle()) << typed << " with findings";
         ASSERT_EQ(lines().size(), startedBefore + 1);
         EXPECT_EQ(lines().back(), "C:\\av\\scan.exe /s \"" + systemFolder + "a.dll\" ");
-        EXPECT_NE(file(dataFolder + "Integrity.dat").find("a.dll=" + crcText(typed)), std::string::npos);
+        EXPECT_THAT(data("Integrity.dat"), HasSubstr("a.dll=" + crcText(typed)));
         EXPECT_NE(file(report), "(missing)");
         pc.files.remove(report);
     }
@@ -159,19 +146,15 @@ TEST_F(HandOver, AutomaticRunsReachTheirEnds) {
 
 TEST_F(HandOver, AMixedListLeavesTheLastSystemChecksumBehind) {
     pc.files.put(R"(C:\Tools\t.dll)", "tool");
-    configure("1,0", "1,0,0", "500", "",
-              "[2]\r\npath=C:\\Tools\\\r\nargs=1,1,1,1,1,1,1\r\nargs2=0,0,0,0,0,0,0\r\n");
+    configure("1,0", {.folders = "[2]\r\npath=C:\\Tools\\\r\nargs=1,1,1,1,1,1,1\r\nargs2=0,0,0,0,0,0,0\r\n"});
     makeBaseline();
     pc.files.put(systemFolder + "a.dll", "changed");
     ASSERT_FALSE(start("/r"));
     EXPECT_TRUE(settle());
-    EXPECT_NE(file(dataFolder + "2.dat").find("[DLL]\r\nt.dll=" + crcText("tool") + "*E\r\nNULL*E\r\n"),
-              std::string::npos);
-    EXPECT_NE(file(dataFolder + "2.bak").find("t.dll=NULL*E"), std::string::npos);
-    EXPECT_NE(
-        file(dataFolder + "Integrity.dat")
-            .find("a.dll=" + crcText("changed") + "*E\r\nt.dll=" + crcText("changed") + "*E\r\nNULL*E\r\n"),
-        std::string::npos)
+    EXPECT_THAT(data("2.dat"), HasSubstr("[DLL]\r\nt.dll=" + crcText("tool") + "*E\r\nNULL*E\r\n"));
+    EXPECT_THAT(data("2.bak"), HasSubstr("t.dll=NULL*E"));
+    EXPECT_THAT(data("Integrity.dat"), HasSubstr("a.dll=" + crcText("changed") +
+                                                 "*E\r\nt.dll=" + crcText("changed") + "*E\r\nNULL*E\r\n"))
         << "a custom folder's file behind a system file leaves a line in the system baseline";
 }
 
@@ -183,14 +166,14 @@ TEST_F(HandOver, OddPathsAreAcceptedOrPassedOver) {
         pc.files.put(folders[i] + "two.dots.exe", "2");
         slots += "[" + std::to_string(i + 1) + "]\r\npath=" + folders[i] + "\r\nargs=1,1,1,1,1,1,1\r\n";
     }
-    configure("1,0", "1,0,0", "500", "", slots);
+    configure("1,0", {.folders = slots});
     makeBaseline();
     ASSERT_FALSE(start("/r"));
     EXPECT_TRUE(settle());
-    EXPECT_NE(file(dataFolder + "1.dat").find("two.dots.exe=" + crcText("2") + "*E"), std::string::npos);
-    EXPECT_NE(file(dataFolder + "1.dat").find("a,b.dll=" + crcText("1") + "*E"), std::string::npos);
-    EXPECT_EQ(file(dataFolder + "2.dat").find(crcText("2")), std::string::npos) << "the slot is not found";
-    EXPECT_NE(file(dataFolder + "3.dat").find("two.dots.exe=" + crcText("2") + "*E"), std::string::npos);
+    EXPECT_THAT(data("1.dat"), HasSubstr("two.dots.exe=" + crcText("2") + "*E"));
+    EXPECT_THAT(data("1.dat"), HasSubstr("a,b.dll=" + crcText("1") + "*E"));
+    EXPECT_EQ(data("2.dat").find(crcText("2")), std::string::npos) << "the slot is not found";
+    EXPECT_THAT(data("3.dat"), HasSubstr("two.dots.exe=" + crcText("2") + "*E"));
 }
 
 TEST_F(HandOver, AFailingUpdateNeverCostsTheBaseline) {
@@ -217,9 +200,8 @@ TEST_F(HandOver, AReportThatCannotBeWrittenStopsTheUpdate) {
     findBoth();
     pc.files.lock(report);
     pc.files.put(report, "older");
-    pc.dialogs.expect({.text =
-                           "Your Anti-Virus program could not be executed!!!\rPlease verify the path of the "
-                           "software:\rC:\\av\\scan.exe"});
+    tells("Your Anti-Virus program could not be executed!!!\rPlease verify the path of the "
+          "software:\rC:\\av\\scan.exe");
     app->intCheck.Label12.click();
     EXPECT_EQ(app->intCheck.List1.count(), 2);
 }

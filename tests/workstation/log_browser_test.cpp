@@ -10,8 +10,7 @@ protected:
     void SetUp() override {
         pc.files.put(dataFolder + "Integrity.dat", "");
         pc.files.put(R"(C:\av.exe)", "");
-        pc.files.put(dataFolder + "Tarvelon.dat",
-                     "[Tarvelon]\r\nadvanced=65536,2,0\r\nantivirus=C:\\av.exe|/s\r\nantivirus2=1,0,0\r\n");
+        putSettings({.passCount = "2", .antivirus = "C:\\av.exe|/s"});
         report("03-05-2006(3_04_07PM)", "Heading,C:\\A.DLL,C:\\B.DLL,C:\\C.DLL\r\n");
         report("03-05-2006(9_00_00AM)", "Only the heading\r\n");
         report("03-06-2006(3_04_07PM)", "Heading, x ,,never shown\r\n");
@@ -55,7 +54,7 @@ TEST_F(Reports, TheTreeShowsDatesAndTimesAlsoEqualOnes) {
     click("03-05-2006");
     EXPECT_FALSE(app->mForm1.cViewReport.Enabled());
     click("01-02-2006|15:04:07");
-    pc.dialogs.expect({.text = "Error - This report does not exist and could not be opened."});
+    tells("Error - This report does not exist and could not be opened.");
     app->mForm1.cViewReport.click(); // The tree's date is padded, the file's is not.
     EXPECT_TRUE(app->mForm1.Label26.Visible());
 }
@@ -65,39 +64,34 @@ TEST_F(Reports, AReportIsShownAndItsFilesScannedAgain) {
     app->mForm1.cViewReport.click();
     EXPECT_TRUE(app->mForm1.repF.isShown());
     EXPECT_FALSE(app->mForm1.Label26.Visible());
-    EXPECT_EQ(app->mForm1.List4.items(),
-              (std::vector<std::string>{"Heading", "C:\\A.DLL", "C:\\B.DLL", "C:\\C.DLL"}));
-    pc.dialogs.expect({.text = "Anti-Virus program executed successfully!"});
+    EXPECT_EQ(app->mForm1.List4.items(), (Rows{"Heading", "C:\\A.DLL", "C:\\B.DLL", "C:\\C.DLL"}));
+    tells("Anti-Virus program executed successfully!");
     app->mForm1.cScnLog.click();
     ASSERT_EQ(pc.processes.started().size(), 2u);
     EXPECT_EQ(pc.processes.started()[0].commandLine, "C:\\av.exe /s \"C:\\A.DLL\" \"C:\\B.DLL\" ");
     EXPECT_EQ(pc.processes.started()[1].commandLine, "C:\\av.exe /s \"C:\\C.DLL\" ");
     pc.processes.canStart = [](const std::string&) { return false; };
-    pc.dialogs.expect({.text =
-                           "Your Anti-Virus program could not be executed!!!\rPlease verify the path of the "
-                           "software:\rC:\\av.exe"});
+    tells("Your Anti-Virus program could not be executed!!!\rPlease verify the path of the "
+          "software:\rC:\\av.exe");
     app->mForm1.cScnLog.click();
 
     app->mForm1.cX.click();
     EXPECT_TRUE(app->mForm1.setFq.isShown());
     click("03-05-2006|9:00:00 AM");
     app->mForm1.TreeView2.doubleClick();
-    pc.dialogs.expect({.text = "Anti-Virus program executed successfully!"});
+    tells("Anti-Virus program executed successfully!");
     app->mForm1.cScnLog.click();
     EXPECT_EQ(app->mForm1.List4.count(), 1) << "nothing to scan, and said to have succeeded all the same";
     app->mForm1.cX.click();
     click("03-06-2006|3:04:07 PM");
     app->mForm1.cViewReport.click();
-    EXPECT_EQ(app->mForm1.List4.items(), (std::vector<std::string>{"Heading", "x"}))
-        << "an empty field ends the list";
+    EXPECT_EQ(app->mForm1.List4.items(), (Rows{"Heading", "x"})) << "an empty field ends the list";
 }
 
 TEST_F(Reports, DeletingSinglyByDateAndAll) {
     click("03-05-2006|3:04:07 PM");
     app->mForm1.cViewReport.click();
-    pc.dialogs.expect({.text = "Are you sure you want to delete this Report?",
-                       .answer = Answer::Yes,
-                       .buttons = Buttons::YesNo});
+    asks("Are you sure you want to delete this Report?", Answer::Yes);
     app->mForm1.cDelLog.click();
     EXPECT_FALSE(there("03-05-2006(3_04_07PM)"));
     EXPECT_EQ(tree(), "03-05-2006\n  9:00:00 AM\n03-06-2006\n  3:04:07 PM\n");
@@ -107,24 +101,20 @@ TEST_F(Reports, DeletingSinglyByDateAndAll) {
     app->mForm1.TreeView2.keyDown(65);
     EXPECT_NE(app->mForm1.TreeView2.find("03-06-2006|4:00:00 PM"), nullptr) << "every key rebuilds the tree";
     click("03-05-2006|9:00:00 AM");
-    pc.dialogs.expect({.text = "Delete Log Entry?", .answer = Answer::No, .buttons = Buttons::YesNo});
+    asks("Delete Log Entry?", Answer::No);
     app->mForm1.TreeView2.keyDown(46);
     EXPECT_TRUE(there("03-05-2006(9_00_00AM)"));
     click("03-06-2006");
-    pc.dialogs.expect({.text = "Delete All Logs on this (03-06-2006) Date?",
-                       .answer = Answer::Yes,
-                       .buttons = Buttons::YesNo});
+    asks("Delete All Logs on this (03-06-2006) Date?", Answer::Yes);
     app->mForm1.TreeView2.keyDown(46);
     EXPECT_EQ(tree(), "03-05-2006\n  9:00:00 AM\n");
 
     pc.files.put(dataFolder + "Log\\keep.txt", "");
-    pc.dialogs.expect({.text = "Are you sure you want to delete all the logs?",
-                       .answer = Answer::Yes,
-                       .buttons = Buttons::YesNo});
+    asks("Are you sure you want to delete all the logs?", Answer::Yes);
     app->mForm1.cButton3.click();
     EXPECT_EQ(tree(), "");
     EXPECT_FALSE(there("03-05-2006(9_00_00AM)"));
-    EXPECT_EQ(file(dataFolder + "Log\\keep.txt"), "");
+    EXPECT_EQ(data("Log\\keep.txt"), "");
 }
 
 } // namespace

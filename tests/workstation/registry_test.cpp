@@ -4,6 +4,7 @@
 #include "regwatch/file_path.h"
 #include "tests/workstation/session.h"
 
+#include <map>
 #include <random>
 
 namespace tarvelon {
@@ -19,10 +20,7 @@ class RegistryWatch : public Session {
 protected:
     void SetUp() override {
         pc.files.put(dataFolder + "Integrity.dat", "");
-        pc.files.put(
-            dataFolder + "Tarvelon.dat",
-            "[Tarvelon]\r\nsettings=0,0,0,0,0,0,0,1\r\nantivirus=C:\\av.exe|/s\r\nav2=C:\\two.exe| \r\n"
-            "antivirus2=1,0,0\r\nalgo=crc32\r\n");
+        putSettings({.settings = "0,0,0,0,0,0,0,1", .antivirus = "C:\\av.exe|/s", .av2 = "C:\\two.exe| "});
         pc.files.put(R"(C:\av.exe)", "");
         pc.files.put(systemFolder + "found.exe", "");
     }
@@ -47,16 +45,6 @@ protected:
         ASSERT_NE(node, nullptr) << key;
         app->mForm1.TreeView1.clickNode(*node);
     }
-
-    std::vector<std::string> lines() const {
-        std::vector<std::string> all;
-        for (const StartedProcess& process : pc.processes.started()) {
-            all.push_back(process.commandLine);
-        }
-        return all;
-    }
-
-    using Rows = std::vector<std::string>;
 };
 
 TEST_F(RegistryWatch, TheFirstStartRecordsSilently) {
@@ -69,20 +57,53 @@ TEST_F(RegistryWatch, TheFirstStartRecordsSilently) {
                          {SimRegistry::ExpandableText, "%windir%\\x.exe\0"s});
     ASSERT_FALSE(start());
     EXPECT_EQ(warnings(), Rows{noWarnings});
-    const std::string snapshot = file(dataFolder + "Registry.dat");
+    const std::string snapshot = data("Registry.dat");
     EXPECT_EQ(snapshot.substr(0, snapshot.find("[LM/ROX]")),
               "[LM/R]\r\nUpdater= (C:\\Tools\\updater.exe /min)\r\nA-B= (x)\r\n\r\n"
               "[LM/RO]\r\nExpand= (%windir%\\x.exe\r\n\r\n");
-    EXPECT_NE(snapshot.find(
-                  "[CU/R]\r\nMail Check= (\"C:\\Program Files\\Mail\\check.exe\" -q)\r\n\r\n[CU/RO]\r\n\r\n"),
-              std::string::npos);
+    EXPECT_THAT(
+        snapshot,
+        HasSubstr(
+            "[CU/R]\r\nMail Check= (\"C:\\Program Files\\Mail\\check.exe\" -q)\r\n\r\n[CU/RO]\r\n\r\n"));
     // The name of a default value is its own text, leading blank and all.
-    EXPECT_NE(snapshot.find("[CR/SE]\r\n (launcher.exe \"%1\" %*)= (launcher.exe \"%1\" %*)\r\n"),
-              std::string::npos);
-    EXPECT_NE(snapshot.find("[CR/SC]\r\n\r\n"), std::string::npos) << "the normal command is no entry";
+    EXPECT_THAT(snapshot, HasSubstr("[CR/SE]\r\n (launcher.exe \"%1\" %*)= (launcher.exe \"%1\" %*)\r\n"));
+    EXPECT_THAT(snapshot, HasSubstr("[CR/SC]\r\n\r\n")) << "the normal command is no entry";
     refresh();
     EXPECT_EQ(warnings(), Rows{noWarnings});
     EXPECT_FALSE(app->mForm1.cScnUpd.Enabled());
+}
+
+TEST_F(RegistryWatch, EachLocationHasItsSection) {
+    const std::string version = R"(Software\Microsoft\Windows\CurrentVersion\)";
+    const std::string command = R"(file\shell\open\command)";
+    const std::map<std::string, std::string> started = {{"R", "Run"},
+                                                        {"RO", "RunOnce"},
+                                                        {"ROX", "RunOnceEx"},
+                                                        {"RS", "RunServices"},
+                                                        {"RSO", "RunServicesOnce"}};
+    const std::map<std::string, std::string> spawned = {
+        {"SE", "exe"}, {"SC", "com"}, {"SB", "bat"}, {"SH", "hta"}, {"SP", "pif"}};
+    for (const auto& [name, key] : started) {
+        set(Registry::localMachine, version + key, name, "lm");
+        set(Registry::currentUser, version + key, name, "cu");
+    }
+    for (const auto& [name, type] : spawned) {
+        set(Registry::classesRoot, type + command, name, "cr");
+    }
+    ASSERT_FALSE(start());
+    std::string expected;
+    for (const std::string section :
+         {"LM/R", "LM/RO", "LM/ROX", "LM/RS", "LM/RSO", "LM/SE", "LM/SC", "LM/SB", "LM/SH", "LM/SP", "CU/R",
+          "CU/RO", "CR/SE", "CR/SC", "CR/SB", "CR/SH", "CR/SP"}) {
+        const std::string name = section.substr(3);
+        const bool ofClasses = name[0] == 'S'; // The machine's classes are the classes root.
+        expected += "[" + section + "]\r\n" + name +
+                    (ofClasses           ? "= (cr)"
+                     : section[0] == 'L' ? "= (lm)"
+                                         : "= (cu)") +
+                    "\r\n\r\n";
+    }
+    EXPECT_EQ(data("Registry.dat"), expected);
 }
 
 TEST_F(RegistryWatch, NewAndModifiedEntriesWarnInTheirOrder) {
@@ -135,9 +156,9 @@ TEST_F(RegistryWatch, UnreadableKeysAndLostSnapshotsAreNoFailure) {
     refresh();
     EXPECT_EQ(warnings(), allNew);
     pc.files.denyWrites(dataFolder + "Registry.dat");
-    pc.dialogs.expect({.text = "Unable to find the file: b.exe\r\nPlease scan manually."});
+    tells("Unable to find the file: b.exe\r\nPlease scan manually.");
     app->mForm1.cScnUpd.click();
-    EXPECT_EQ(file(dataFolder + "Registry.dat"), "garbage");
+    EXPECT_EQ(data("Registry.dat"), "garbage");
     refresh();
     EXPECT_EQ(warnings().size(), 1u);
 }
@@ -180,25 +201,40 @@ TEST_F(RegistryWatch, DeletingAsksAndFollowsTheSelection) {
     set(Registry::classesRoot, R"(batfile\shell\open\command)", "", "other %1");
     ASSERT_FALSE(start());
     refresh();
-    const std::string question =
-        "WARNING!\r\nYou are about to Delete the key: Foo\r\nFrom: HKEY_LOCAL_MACHINE\\" + runKey +
-        "\r\nDoing this may have unpredictable results!\r\n\r\nContinue?";
+    const auto warning = [](const std::string& name, const std::string& from) {
+        return "WARNING!\r\nYou are about to Delete the key: " + name + "\r\nFrom: " + from +
+               "\r\nDoing this may have unpredictable results!\r\n\r\nContinue?";
+    };
+    const std::string question = warning("Foo", "HKEY_LOCAL_MACHINE\\" + runKey);
     selectNode(R"(#1 (C:\foo.exe))");
-    pc.dialogs.expect({.text = question, .answer = Answer::No, .title = "", .buttons = Buttons::YesNo});
+    asks(question, Answer::No);
     app->mForm1.Command3.click();
     EXPECT_TRUE(pc.registry.value(Registry::localMachine, runKey, "Foo"));
-    pc.dialogs.expect({.text = question, .answer = Answer::Yes});
+    asks(question, Answer::Yes);
     app->mForm1.Command3.click();
     EXPECT_FALSE(pc.registry.value(Registry::localMachine, runKey, "Foo"));
     EXPECT_EQ(app->mForm1.TreeView1.find(R"(#1 (C:\foo.exe))"), nullptr);
     EXPECT_EQ(app->mForm1.Text4.Caption(), "");
 
+    // A row of the user's keys names no key of its own; one of the machine's does.
+    set(Registry::currentUser, runKey, "Missed", "m.exe");
+    set(Registry::localMachine, runOnceKey, "Listed", "l.exe");
+    refresh();
+    app->mForm1.List5.select(2);
+    asks(warning("Missed", R"(HKEY_CURRENT_USER\Software\Microsoft\Windows\CurrentVersion\RunOnce)"),
+         Answer::Yes);
+    app->mForm1.Command3.click();
+    EXPECT_TRUE(pc.registry.value(Registry::currentUser, runKey, "Missed"));
+    app->mForm1.List5.select(1);
+    asks(warning("Listed", "HKEY_LOCAL_MACHINE\\" + runOnceKey), Answer::Yes);
+    app->mForm1.Command3.click();
+    EXPECT_FALSE(pc.registry.value(Registry::localMachine, runOnceKey, "Listed"));
+
     selectNode("#3 (other %1)");
     const std::string caution =
         "This key will not be deleted.\r\nYou must change the value manually. Would you like to "
         "open the Registry for Editing now?";
-    pc.dialogs.expect(
-        {.text = caution, .answer = Answer::Yes, .title = "Caution", .buttons = Buttons::YesNo});
+    asks(caution, Answer::Yes, "Caution");
     app->mForm1.Command3.click();
     EXPECT_EQ(pc.processes.started().back(), (StartedProcess{"regedit.exe", WindowStyle::MinimizedFocus}));
     EXPECT_TRUE(pc.registry.value(Registry::classesRoot, R"(batfile\shell\open\command)", ""));
@@ -219,17 +255,16 @@ TEST_F(RegistryWatch, OneFileOrAllGoToTheScannersAndAllIsAccepted) {
     form.Command11.click();
     EXPECT_EQ(lines().at(2), R"(C:\av.exe /s "C:\a b\x.exe")");
     form.List5.select(3);
-    pc.dialogs.expect({.text = "Cannot find file, please scan manually"});
+    tells("Cannot find file, please scan manually");
     form.Command11.click();
 
-    pc.dialogs.expect({.text = "Unable to find the file: gone.exe\r\nPlease scan manually."});
+    tells("Unable to find the file: gone.exe\r\nPlease scan manually.");
     form.cScnUpd.click();
     EXPECT_EQ(lines().at(4), "C:\\av.exe /s  " + found + R"( "C:\a b\x.exe" )");
     EXPECT_EQ(warnings(), Rows{noWarnings});
-    EXPECT_NE(file(dataFolder + "Registry.dat").find("Gone= (gone.exe)"), std::string::npos);
-    EXPECT_EQ(file(dataFolder + "Log\\03-05-2006(3_04_07PM).log"),
-              "Registry Action - Scan and Update Multiple Entries," + systemFolder +
-                  "found.exe,C:\\a,b\\x.exe\r\n");
+    EXPECT_THAT(data("Registry.dat"), HasSubstr("Gone= (gone.exe)"));
+    EXPECT_EQ(data("Log\\03-05-2006(3_04_07PM).log"), "Registry Action - Scan and Update Multiple Entries," +
+                                                          systemFolder + "found.exe,C:\\a,b\\x.exe\r\n");
 }
 
 TEST_F(RegistryWatch, PendingOperationsAreShownAndScanned) {
@@ -238,7 +273,7 @@ TEST_F(RegistryWatch, PendingOperationsAreShownAndScanned) {
     form.Image7.click();
     const std::string heading =
         "These files are to be Deleted or Overwritten on the next Reboot (Wininit.ini and Registry).";
-    pc.dialogs.expect({.text = "No files will be modified or deleted on Restart!"});
+    tells("No files will be modified or deleted on Restart!");
     form.cMod.click();
     EXPECT_EQ(form.List6.items(), Rows{heading});
     EXPECT_TRUE(form.List6.isShown());
@@ -256,12 +291,12 @@ TEST_F(RegistryWatch, PendingOperationsAreShownAndScanned) {
                     "b=c {To be Overwritten}", "C:\\a.tmp", "C:\\b.tmp", "C:\\c.dll"}));
     form.List6.select(2);
     EXPECT_EQ(form.Text4.Caption(), "C:\\B.DLL {To be Overwritten}");
-    pc.dialogs.expect({.text = "Unable to find the file: b=c\r\nPlease scan manually."});
+    tells("Unable to find the file: b=c\r\nPlease scan manually.");
     EXPECT_EQ(form.Command11.Caption(), "Scan all Files for Viruses");
     form.Command11.click();
     EXPECT_EQ(lines().at(0),
               "C:\\av.exe /s  \"C:\\T\\X.TMP\" \"C:\\B.DLL\"  \"C:\\a.tmp\" \"C:\\b.tmp\" \"C:\\c.dll\"");
-    EXPECT_EQ(file(dataFolder + "Log\\03-05-2006(3_04_07PM).log").substr(0, 60),
+    EXPECT_EQ(data("Log\\03-05-2006(3_04_07PM).log").substr(0, 60),
               "Precautionary Scan - These files were to be renamed/deleted/");
 
     pc.registry.setValue(Registry::localMachine, sessionManager, "PendingFileRenameOperations",

@@ -6,9 +6,21 @@ namespace {
 class Scan : public Session {
 protected:
     /// A baseline over the files put so far, and a log-on run with all types.
-    void baselineAndSettings(const std::string& more = "", const std::string& types = "1,1,1,1,1,1,0,0") {
-        pc.files.put(dataFolder + "Tarvelon.dat", settingsWith(types, more));
+    void baselineAndSettings(const std::string& more = "", const std::string& types = allTypes) {
+        putSettings({.settings = types, .folders = more});
         makeBaseline();
+    }
+
+    void putNumbered(int count) {
+        for (int i = 0; i < count; ++i) {
+            pc.files.put(systemFolder + std::to_string(i) + ".dll", "x");
+        }
+    }
+
+    /// A scan of the main window, so that leaving it does not end the program.
+    void askForPageScan() {
+        ScanRun& run = app->globals.scan;
+        run.pageScan = run.noAutoAction = run.scanDLL = true;
     }
 
     const IntCheckScreen& screen() const { return app->intCheck; }
@@ -30,10 +42,11 @@ TEST_F(Scan, SortsIntoPassingNewAndFailed) {
     pc.files.remove(systemFolder + "gone.ocx");
 
     ASSERT_FALSE(start("/r"));
+    EXPECT_FALSE(app->mForm1.Visible());
+    EXPECT_TRUE(screen().Minimized());
     ASSERT_FALSE(settle());
     EXPECT_EQ(figures(), "5/1/1/3") << "a file that has gone is not treated at all";
-    ASSERT_EQ(screen().List1.items(),
-              (std::vector<std::string>{systemFolder + "bad.exe", systemFolder + "new.com *NEW*"}));
+    ASSERT_EQ(screen().List1.items(), (Rows{systemFolder + "bad.exe", systemFolder + "new.com *NEW*"}));
     EXPECT_EQ(app->globals.scan.failList, systemFolder + "bad.exe " + crcText("after") + "," + systemFolder +
                                               "new.com " + crcText("new") + ",");
     EXPECT_EQ(screen().Caption(), "100% AutoCheck");
@@ -47,11 +60,10 @@ TEST_F(Scan, SortsIntoPassingNewAndFailed) {
     app->intCheck.Label2.click();
     EXPECT_TRUE(screen().Frame3.isShown());
     EXPECT_EQ(screen().Label13.Caption(), "Failed Files List");
-    const std::string warning = "Some files failed the integrity check!  Are you sure you want to exit?";
-    pc.dialogs.expect({.text = warning, .answer = Answer::No, .title = "Warning", .buttons = Buttons::YesNo});
+    asks(leaveFindings, Answer::No, "Warning");
     EXPECT_FALSE(ends([this] { app->intCheck.close(); }));
     EXPECT_TRUE(screen().Visible());
-    pc.dialogs.expect({.text = warning, .answer = Answer::Yes});
+    asks(leaveFindings, Answer::Yes, "Warning");
     EXPECT_TRUE(ends([this] { app->intCheck.Image11.click(); }));
 }
 
@@ -102,21 +114,16 @@ TEST_F(Scan, CustomFoldersJoinBehindTheSystemFolder) {
     EXPECT_EQ(figures(), "3/2/0/1") << "folders without a baseline get a blank one, and their files are new";
     EXPECT_EQ(app->globals.scan.customFailList,
               "C:\\Tools\\t.dll(3) " + crcText("tool") + ",C:\\Other\\o.exe(12) " + crcText("other") + ",");
-    EXPECT_NE(file(dataFolder + "3.dat").find("[EXE]\r\nt.exe=NULL*E\r\n"), std::string::npos);
-    pc.dialogs.expect({.text = "Some files failed the integrity check!  Are you sure you want to exit?",
-                       .answer = Answer::Yes});
+    EXPECT_THAT(data("3.dat"), HasSubstr("[EXE]\r\nt.exe=NULL*E\r\n"));
+    asks(leaveFindings, Answer::Yes, "Warning");
     EXPECT_TRUE(ends([this] { app->intCheck.close(); }));
 }
 
 TEST_F(Scan, PauseHoldsBetweenFilesAndCancelEndsThePause) {
-    for (int i = 0; i < 9; ++i) {
-        pc.files.put(systemFolder + std::to_string(i) + ".dll", "x");
-    }
+    putNumbered(9);
     baselineAndSettings();
     ASSERT_FALSE(start());
-    // A scan of the main window, so that leaving it does not end the program.
-    ScanRun& run = app->globals.scan;
-    run.pageScan = run.noAutoAction = run.scanDLL = true;
+    askForPageScan();
     app->scan.LoadUp();
     pc.messages.when([this] { return screen().Label6.Caption() == "4"; },
                      [this] { app->intCheck.Image9.click(); });
@@ -138,14 +145,11 @@ TEST_F(Scan, PauseHoldsBetweenFilesAndCancelEndsThePause) {
 }
 
 TEST_F(Scan, ASecondStartDuringAScanRunsInsideTheFirst) {
-    for (int i = 0; i < 6; ++i) {
-        pc.files.put(systemFolder + std::to_string(i) + ".dll", "x");
-    }
+    putNumbered(6);
     baselineAndSettings();
     ASSERT_FALSE(start());
-    ScanRun& run = app->globals.scan;
     const auto begin = [&] {
-        run.pageScan = run.noAutoAction = run.scanDLL = true;
+        askForPageScan();
         app->scan.Command1_Click();
         app->scan.LoadUp();
     };

@@ -20,7 +20,7 @@ protected:
 
     void choose(FlatButton& button, const std::string& path) {
         pc.dialogs.expectOpenFile({.title = box, .choice = path});
-        pc.dialogs.expect({.text = "Don't forget to Save!"});
+        tells("Don't forget to Save!");
         button.click();
     }
 
@@ -44,7 +44,7 @@ TEST_F(Scanners, ChoosingBringsDefaultArgumentsByTheFirstScannersName) {
     choose(form.cChoose, R"(C:\Tools\other.exe)");
     EXPECT_EQ(form.Text6.Caption(), " ");
 
-    pc.dialogs.expect({.text = "Save Success!"});
+    tells("Save Success!");
     form.cButton3.click();
     EXPECT_FALSE(form.Visible());
     EXPECT_EQ(stored("ANTIVIRUS"), "C:\\Tools\\other.exe| ");
@@ -54,13 +54,11 @@ TEST_F(Scanners, ChoosingBringsDefaultArgumentsByTheFirstScannersName) {
 TEST_F(Scanners, ASaveStoresAMissingFirstAsPlaceholderAndASecondAsNothing) {
     app->s_avir.Text5.typed(R"(C:\gone.exe)");
     app->s_avir.Text1.typed(R"(C:\gone.exe)");
-    pc.dialogs.expect(
-        {.text = "You didn't choose an anti-virus software exe.  We recommend that you get one to take full "
-                 "advantage of Tarvelon"});
-    pc.dialogs.expect({.text = "Save Success!"});
+    tells("You didn't choose an anti-virus software exe.  We recommend that you get one to take full "
+          "advantage of Tarvelon");
+    tells("Save Success!");
     app->s_avir.cButton3.click();
-    EXPECT_NE(file(dataFolder + "Tarvelon.dat").find("antivirus=Anti-Virus Software| \r\nav2=|\r\n"),
-              std::string::npos);
+    EXPECT_THAT(data("Tarvelon.dat"), HasSubstr("antivirus=Anti-Virus Software| \r\nav2=|\r\n"));
     ASSERT_FALSE(start());
     EXPECT_EQ(app->s_avir.Text5.Caption(), "Anti-Virus Software");
     EXPECT_EQ(app->s_avir.Text1.Caption(), "Anti-Virus Software")
@@ -78,23 +76,21 @@ TEST_F(Scanners, TheCatalogueSearchesTestsAndHandsOver) {
     help.Command4.click();
 
     help.List1.select(15);
-    pc.dialogs.expect({.text = notice});
-    pc.dialogs.expect(
-        {.text = "The default executable for this program was not found! Make sure you selected the "
-                 "correct anti-virus program, and the correct operating system."});
+    tells(notice);
+    tells("The default executable for this program was not found! Make sure you selected the correct "
+          "anti-virus program, and the correct operating system.");
     help.Command4.click();
     EXPECT_EQ(help.Text2.Caption(), "");
 
     help.List1.select(13);
-    pc.dialogs.expect({.text = notice});
-    pc.dialogs.expect({.text = "Success!"});
+    tells(notice);
+    tells("Success!");
     help.Command4.click();
     EXPECT_EQ(help.Text2.Caption(), R"(C:\Tools\navw32.exe)") << "outside the Program Files folder";
     EXPECT_FALSE(help.Command3.Enabled());
-    pc.dialogs.expect(
-        {.text = "Tarvelon will now attempt to scan two files. If the Virus-Scanner you selected scans both "
-                 "files, then it is fully compatible with Tarvelon! If not, make sure you chose the correct "
-                 "EXE file in your anti-virus folder."});
+    tells("Tarvelon will now attempt to scan two files. If the Virus-Scanner you selected scans both files, "
+          "then it is fully compatible with Tarvelon! If not, make sure you chose the correct EXE file in "
+          "your anti-virus folder.");
     help.Command2.click();
     EXPECT_EQ(pc.processes.started().back().commandLine,
               "C:\\Tools\\navw32.exe \"" + dataFolder + "Tarvelon.dat\" \"" + dataFolder + "Integrity.dat\"");
@@ -109,7 +105,7 @@ TEST_F(Scanners, TheCatalogueSearchesTestsAndHandsOver) {
     EXPECT_EQ(app->s_avir.Text5.Caption(), R"(C:\Tools\navw32.exe)");
     EXPECT_EQ(app->s_avir.Text6.Caption(), "/HEUR:3");
     pc.files.remove(R"(C:\Tools\navw32.exe)");
-    pc.dialogs.expect({.text = "You must choose a virus scanner before you proceed!"});
+    tells("You must choose a virus scanner before you proceed!");
     help.Command2.click();
 }
 

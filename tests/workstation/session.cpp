@@ -1,26 +1,6 @@
 #include "tests/workstation/session.h"
 
-#include <cstdio>
-
 namespace tarvelon {
-
-std::string crcText(const std::string& bytes) {
-    std::uint32_t state = 0xffffffff;
-    for (const char byte : bytes) {
-        state ^= static_cast<unsigned char>(byte);
-        for (int bit = 0; bit < 8; ++bit) {
-            state = (state >> 1) ^ ((state & 1) != 0 ? 0xedb88320u : 0u);
-        }
-    }
-    char text[9];
-    std::snprintf(text, sizeof text, "%X", ~state);
-    return text;
-}
-
-std::string settingsWith(const std::string& settings, const std::string& more) {
-    return "[Tarvelon]\r\nsettings=" + settings +
-           "\r\nadvanced=65536,500,0\r\nantivirus=\r\nav2=\r\nantivirus2=1,0,0\r\nalgo=crc32\r\n\r\n" + more;
-}
 
 void Session::TearDown() {
     EXPECT_EQ(pc.dialogs.problems(), "");
@@ -51,10 +31,33 @@ bool Session::ends(const std::function<void()>& action) {
 }
 
 void Session::makeBaseline() {
-    pc.dialogs.expect({.text = firstRunQuestion, .answer = Answer::Yes});
+    asks(firstRunQuestion, Answer::Yes);
     ASSERT_FALSE(start());
     ASSERT_FALSE(settle());
     ASSERT_TRUE(app->mForm1.Visible());
+}
+
+void Session::putSettings(const SettingsText& text) {
+    pc.files.put(dataFolder + "Tarvelon.dat",
+                 "[Tarvelon]\r\nsettings=" + text.settings + "\r\nadvanced=65536," + text.passCount +
+                     ",0\r\nantivirus=" + text.antivirus + "\r\nav2=" + text.av2 +
+                     "\r\nantivirus2=" + text.antivirus2 + "\r\nalgo=crc32\r\n\r\n" + text.folders);
+}
+
+void Session::tells(const std::string& text, const std::string& title) {
+    pc.dialogs.expect({.text = text, .title = title, .buttons = Buttons::Ok});
+}
+
+void Session::asks(const std::string& text, Answer answer, const std::string& title) {
+    pc.dialogs.expect({.text = text, .answer = answer, .title = title, .buttons = Buttons::YesNo});
+}
+
+Rows Session::lines() const {
+    Rows all;
+    for (const StartedProcess& process : pc.processes.started()) {
+        all.push_back(process.commandLine);
+    }
+    return all;
 }
 
 } // namespace tarvelon

@@ -2,15 +2,20 @@
 
 #include "core/application.h"
 #include "platform/sim/workstation.h"
+#include "tests/support/bitwise_crc32.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace tarvelon {
+
+using Rows = std::vector<std::string>;
+using testing::HasSubstr;
 
 inline const std::string programFolder = R"(C:\Program Files\Tarvelon\)";
 inline const std::string dataFolder = programFolder + R"(Data\)";
@@ -25,11 +30,24 @@ inline const std::string firstRunRefused =
     "You have chosen not to do a full scan at this time.  You need to run the full scan before using the "
     "Integrity Checker.";
 
-/// Upper-case hexadecimal CRC-32 without leading zeros, bit by bit.
-std::string crcText(const std::string& bytes);
+inline const std::string allTypes = "1,1,1,1,1,1,0,0"; ///< Without automatic scan and reports.
 
-/// A settings file with this list of eight positions for scans at log-on, no scanner, and `more` at its end.
-std::string settingsWith(const std::string& settings, const std::string& more = "");
+inline const std::string leaveFindings =
+    "Some files failed the integrity check!  Are you sure you want to exit?";
+inline const std::string fullScanQuestion =
+    "You have not yet completed the full system scan.  This is required "
+    "before using the Integrity Checker.  Perform scan now?";
+
+/// What a settings file holds.
+struct SettingsText {
+    std::string settings =
+        "0,0,0,0,0,0,0,0"; ///< For scans at log-on; with "\r\nsettings2=..." for shut-down.
+    std::string passCount = "500";
+    std::string antivirus = "";
+    std::string av2 = "";
+    std::string antivirus2 = "1,0,0"; ///< Quotes, short names, focus.
+    std::string folders = "";         ///< The sections of the custom folders.
+};
 
 /// A workstation, and the runs of the program on it, one at a time.
 class Session : public testing::Test {
@@ -48,7 +66,19 @@ protected:
     /// Makes the first full scan of what stands in the system folder, in a run of its own.
     void makeBaseline();
 
+    void putSettings(const SettingsText& text);
+
+    /// Awaits a box with an OK.
+    void tells(const std::string& text, const std::string& title = "");
+
+    /// Awaits a question with Yes and No.
+    void asks(const std::string& text, Answer answer, const std::string& title = "");
+
+    /// The command lines of the programs that were started.
+    Rows lines() const;
+
     std::string file(const std::string& path) const { return pc.files.get(path).value_or("(missing)"); }
+    std::string data(const std::string& name) const { return file(dataFolder + name); }
 
     SimWorkstation pc;
     std::unique_ptr<Application> app;

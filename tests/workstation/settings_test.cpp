@@ -3,13 +3,10 @@
 #include "tests/workstation/session.h"
 #include "ui/shortcuts.h"
 
-#include <gmock/gmock.h>
-
 namespace tarvelon {
 namespace {
 
 using testing::ElementsAre;
-using testing::HasSubstr;
 using testing::IsEmpty;
 
 const std::string startupLink =
@@ -40,12 +37,12 @@ protected:
     }
 
     void save() {
-        pc.dialogs.expect({.text = "Settings Saved Successfully", .buttons = Buttons::Ok});
+        tells("Settings Saved Successfully");
         app->mForm1.cSave.click();
     }
 
     void saveAdvanced() {
-        pc.dialogs.expect({.text = "Save Success!", .buttons = Buttons::Ok});
+        tells("Save Success!");
         app->mForm1.cSave2.click();
     }
 
@@ -56,9 +53,9 @@ protected:
              .answer = onDesktop,
              .buttons = Buttons::YesNo});
         if (!notice.empty()) {
-            pc.dialogs.expect({.text = notice});
+            tells(notice);
         }
-        pc.dialogs.expect({.text = "Success!"});
+        tells("Success!");
         app->mForm1.cCreateSS.click();
     }
 
@@ -99,14 +96,14 @@ TEST_F(SettingsRun, SaveWritesBothListsAndTheShortcutIsTheAutoLoadSetting) {
     pc.files.remove(dataFolder + "Tarvelon.dat"); // Made again in front of the write.
     save();
     EXPECT_TRUE(form.qSett.isShown());
-    EXPECT_THAT(file(dataFolder + "Tarvelon.dat"), HasSubstr("[Tarvelon]\r\n"
-                                                             "settings=1,1,1,0,1,1,0,1\r\n"
-                                                             "advanced=65536,500,0\r\n"
-                                                             "antivirus=\r\n"
-                                                             "av2=\r\n"
-                                                             "antivirus2=1,0,0\r\n"
-                                                             "algo=crc32\r\n"
-                                                             "settings2=1,1,1,0,1,1\r\n"));
+    EXPECT_THAT(data("Tarvelon.dat"), HasSubstr("[Tarvelon]\r\n"
+                                                "settings=1,1,1,0,1,1,0,1\r\n"
+                                                "advanced=65536,500,0\r\n"
+                                                "antivirus=\r\n"
+                                                "av2=\r\n"
+                                                "antivirus2=1,0,0\r\n"
+                                                "algo=crc32\r\n"
+                                                "settings2=1,1,1,0,1,1\r\n"));
     EXPECT_FALSE(app->globals.settings.autoScanFailed);
     EXPECT_NE(file(startupLink), "(missing)");
 
@@ -246,7 +243,7 @@ TEST_F(SettingsRun, TheAdvancedPageShowsWhatIsInForceAndSavesWhatIsPicked) {
     form.Check11.click();
     form.avfocus.click();
     saveAdvanced();
-    const std::string saved = file(dataFolder + "Tarvelon.dat");
+    const std::string saved = data("Tarvelon.dat");
     EXPECT_THAT(saved, HasSubstr("\r\nadvanced=131072,99999,1\r\n"));
     EXPECT_THAT(saved, HasSubstr("\r\nantivirus2=1,1,1\r\nalgo=SHA1\r\n"));
     EXPECT_FALSE(app->globals.settings.shortPaths) << "follows at the next loading";
@@ -264,7 +261,7 @@ TEST_F(SettingsRun, TheAdvancedPageShowsWhatIsInForceAndSavesWhatIsPicked) {
     openAdvanced();
     EXPECT_EQ(chosen(form.bufferOptions) + chosen(form.passOptions) + chosen(form.algorithmOptions), "");
     saveAdvanced();
-    EXPECT_THAT(file(dataFolder + "Tarvelon.dat"), HasSubstr("advanced=70000,7,0\r\nalgo=rot13\r\n"))
+    EXPECT_THAT(data("Tarvelon.dat"), HasSubstr("advanced=70000,7,0\r\nalgo=rot13\r\n"))
         << "other values last until an option is picked";
 }
 
@@ -273,11 +270,8 @@ TEST_F(SettingsRun, AnotherAlgorithmNeedsAFullScanOfItsOwn) {
     app->mForm1.Option12.click();
     saveAdvanced();
     EXPECT_EQ(app->globals.app.intFile, dataFolder + "Integrity-md5.dat");
-    EXPECT_EQ(file(dataFolder + "Integrity.dat"), "");
-    pc.dialogs.expect({.text = "You have not yet completed the full system scan.  This is required before "
-                               "using the Integrity Checker.  Perform scan now?",
-                       .answer = Answer::No,
-                       .title = "Missing File"});
+    EXPECT_EQ(data("Integrity.dat"), "");
+    asks(fullScanQuestion, Answer::No, "Missing File");
     app->mForm1.Image5.click();
     EXPECT_FALSE(app->mForm1.intF.Visible());
 

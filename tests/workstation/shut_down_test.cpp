@@ -21,23 +21,15 @@ protected:
     }
 
     void configure(const std::string& second = "", const std::string& passCount = "500") {
-        pc.files.put(dataFolder + "Tarvelon.dat",
-                     "[Tarvelon]\r\nsettings=1,1,1,1,1,1,0,0\r\nsettings2=1,1,1,1,1,1\r\nadvanced=65536," +
-                         passCount + ",0\r\nantivirus=C:\\av.exe|/s\r\nav2=" + second +
-                         "\r\nantivirus2=1,0,0\r\n");
+        putSettings({.settings = "1,1,1,1,1,1,0,1\r\nsettings2=1,1,1,1,1,1",
+                     .passCount = passCount,
+                     .antivirus = "C:\\av.exe|/s",
+                     .av2 = second});
     }
 
     void pendingRename(const std::string& bytes) {
         pc.registry.setValue(Registry::localMachine, sessionManager, "PendingFileRenameOperations",
                              {SimRegistry::TextList, bytes});
-    }
-
-    std::vector<std::string> lines() const {
-        std::vector<std::string> all;
-        for (const StartedProcess& process : pc.processes.started()) {
-            all.push_back(process.commandLine);
-        }
-        return all;
     }
 
     std::string status() const { return app->sProg.Label2.Caption(); }
@@ -57,8 +49,8 @@ TEST_F(ShutDownRun, CleanTheMachineGoesDownAtOnce) {
     EXPECT_EQ(status(), "Status: All scans completed.  No suspicious files found!");
     EXPECT_FALSE(app->intCheck.Visible());
     EXPECT_TRUE(lines().empty());
-    EXPECT_EQ(pc.power.calls(), (std::vector<std::string>{"adjustPrivilege SeShutdownPrivilege 2147483651",
-                                                          "exitWindows 25 4294967295"}));
+    EXPECT_EQ(pc.power.calls(),
+              (Rows{"adjustPrivilege SeShutdownPrivilege 2147483651", "exitWindows 25 4294967295"}));
 }
 
 TEST_F(ShutDownRun, FindingsAreHandedOverInOrderAndTwoMinutesAreGiven) {
@@ -74,19 +66,19 @@ TEST_F(ShutDownRun, FindingsAreHandedOverInOrderAndTwoMinutesAreGiven) {
     app->frmLogoff.Image6.click();
     EXPECT_FALSE(settle());
     const std::string dll = "\"" + systemFolder + "a.dll\"";
-    EXPECT_EQ(lines(), (std::vector<std::string>{
-                           "C:\\av.exe /s \"C:\\W.TMP\" ", "C:\\two.exe x \"C:\\W.TMP\" ",
-                           "C:\\av.exe /s \"C:\\P1.TMP\" \"C:\\P2.TMP\" ",
-                           "C:\\two.exe x \"C:\\P1.TMP\" \"C:\\P2.TMP\" ", "C:\\av.exe /s \"C:\\P3.TMP\" ",
-                           "C:\\two.exe x \"C:\\P3.TMP\" ", "C:\\av.exe /s " + dll + " ",
-                           "C:\\two.exe x " + dll + " ", "C:\\av.exe /s  " + dll, "C:\\two.exe x  " + dll}));
+    EXPECT_EQ(
+        lines(),
+        (Rows{"C:\\av.exe /s \"C:\\W.TMP\" ", "C:\\two.exe x \"C:\\W.TMP\" ",
+              "C:\\av.exe /s \"C:\\P1.TMP\" \"C:\\P2.TMP\" ", "C:\\two.exe x \"C:\\P1.TMP\" \"C:\\P2.TMP\" ",
+              "C:\\av.exe /s \"C:\\P3.TMP\" ", "C:\\two.exe x \"C:\\P3.TMP\" ", "C:\\av.exe /s " + dll + " ",
+              "C:\\two.exe x " + dll + " ", "C:\\av.exe /s  " + dll, "C:\\two.exe x  " + dll}));
     EXPECT_EQ(status(), "Status: Some files were scanned...Shutting Down in 2 minutes");
     EXPECT_TRUE(app->sProg.Command1.isShown());
-    EXPECT_NE(file(dataFolder + "Integrity.dat").find("a.dll=" + crcText("changed")), std::string::npos);
-    EXPECT_NE(file(dataFolder + "Registry.dat").find("New= ("), std::string::npos);
+    EXPECT_THAT(data("Integrity.dat"), HasSubstr("a.dll=" + crcText("changed")));
+    EXPECT_THAT(data("Registry.dat"), HasSubstr("New= ("));
     EXPECT_TRUE(pc.power.calls().empty());
 
-    pc.dialogs.expect({.text = "Cancel Shutdown?", .answer = Answer::No, .buttons = Buttons::YesNo});
+    asks("Cancel Shutdown?", Answer::No);
     app->sProg.close();
     EXPECT_TRUE(app->sProg.Visible());
     const auto ticks = [this] { return app->sProg.ProgressBar1.value(); };
@@ -108,7 +100,7 @@ TEST_F(ShutDownRun, TheCountDownCanBeCutShortOrCancelled) {
     EXPECT_FALSE(settle());
     app->sProg.Command1.click();
     EXPECT_EQ(pc.power.calls().back(), "setSystemPowerState 0 1");
-    pc.dialogs.expect({.text = "Cancel Shutdown?", .answer = Answer::Yes});
+    asks("Cancel Shutdown?", Answer::Yes);
     EXPECT_TRUE(ends([this] { app->sProg.close(); }));
 }
 
@@ -133,7 +125,7 @@ TEST_F(ShutDownRun, TheDialogFollowsShiftAndTheMouse) {
     EXPECT_EQ(app->globals.app.shutAction, 0);
     EXPECT_TRUE(ends([&] { form.Label1.click(); }));
     pc.processes.otherInstance = true;
-    pc.dialogs.expect({.text = "You must close Tarvelon before using the Shut Down Feature."});
+    tells("You must close Tarvelon before using the Shut Down Feature.");
     EXPECT_TRUE(start("/s"));
 }
 
@@ -165,6 +157,9 @@ TEST_F(ShutDownRun, AScheduledRunTakesTheFirstStepsAndEnds) {
     pc.files.put(R"(C:\P1.TMP)", "");
     ASSERT_FALSE(start("/a"));
     EXPECT_EQ(lines().at(0), "C:\\av.exe /s \"C:\\P1.TMP\" ");
+    EXPECT_EQ(data("Log\\03-05-2006(3_04_07PM).log"),
+              "The following Files were scanned as a precaution (being renamed or deleted from the "
+              "Registry),C:\\P1.TMP\r\n");
     EXPECT_TRUE(app->sProg.Visible());
     EXPECT_EQ(app->sProg.ProgressBar1.value(), 100);
     EXPECT_TRUE(settle());

@@ -3,8 +3,6 @@
 #include "tests/workstation/session.h"
 #include "ui/speed_comparison.h"
 
-#include <gmock/gmock.h>
-
 namespace tarvelon {
 namespace {
 
@@ -132,7 +130,7 @@ TEST_F(Speeds, AMissingProgramIsToldAndLeavesThePageUsable) {
     form.List1.add("an old report");
     app->globals.settings.readBuffer = 131072;
     pc.files.remove(program);
-    pc.dialogs.expect({.text = "Cannot read " + program});
+    tells("Cannot read " + program);
     form.cSpeeds.click();
     EXPECT_EQ(form.cSpeeds.Caption(), "Compare Speeds");
     EXPECT_TRUE(form.cSpeeds.Enabled());

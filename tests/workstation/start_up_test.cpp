@@ -13,10 +13,10 @@ TEST_F(StartUpRun, SwitchesWithoutABaselineAreRefused) {
         {"/a", "Cannot run Scheduled Scan.  " + unfinished + "Closing."}};
     for (const auto& [typed, message] : switches) {
         for (int i = 0; i < 2; ++i) {
-            pc.dialogs.expect({.text = firstRunQuestion, .answer = Answer::No});
-            pc.dialogs.expect({.text = firstRunRefused});
+            asks(firstRunQuestion, Answer::No);
+            tells(firstRunRefused);
         }
-        pc.dialogs.expect({.text = message, .title = "", .buttons = Buttons::Ok});
+        tells(message);
         EXPECT_TRUE(start(typed)) << typed;
     }
 }
@@ -28,17 +28,6 @@ TEST_F(StartUpRun, UnknownSwitchesOpenTheMainWindow) {
         EXPECT_TRUE(app->mForm1.Visible()) << typed;
         EXPECT_FALSE(app->intCheck.Visible()) << typed;
     }
-}
-
-TEST_F(StartUpRun, LogOnRunEndsUnseenWhenAllIsClean) {
-    pc.files.put(systemFolder + "a.dll", "a");
-    pc.files.put(dataFolder + "Tarvelon.dat", settingsWith("1,1,1,1,1,1,0,0"));
-    makeBaseline();
-    ASSERT_FALSE(start("/r"));
-    EXPECT_FALSE(app->mForm1.Visible());
-    EXPECT_TRUE(app->intCheck.Minimized());
-    EXPECT_TRUE(settle());
-    EXPECT_EQ(app->intCheck.Label7.Caption(), "1");
 }
 
 TEST_F(StartUpRun, SettingsReachControlsAndGlobals) {
@@ -93,7 +82,7 @@ TEST_F(StartUpRun, DamagedSettingsNeverStopTheStart) {
         EXPECT_TRUE(app->mForm1.Visible());
         EXPECT_EQ(app->globals.settings.readBuffer, 65536);
         EXPECT_EQ(app->globals.settings.algoName, "") << "an unusable value ends the reading in front of it";
-        EXPECT_EQ(file(dataFolder + "Tarvelon.dat"), text) << "nothing of the user's is overwritten";
+        EXPECT_EQ(data("Tarvelon.dat"), text) << "nothing of the user's is overwritten";
     }
     pc.files.lock(dataFolder + "Tarvelon.dat");
     EXPECT_FALSE(start("/r"));

@@ -11,7 +11,7 @@ protected:
     void SetUp() override {
         pc.files.put(dataFolder + "Integrity.dat", "");
         pc.files.put(R"(C:\pavcl.exe)", "");
-        pc.files.put(dataFolder + "Tarvelon.dat", settingsWith("0,1,0,0,0,1,0,1"));
+        putSettings({.settings = "0,1,0,0,0,1,0,1"});
         ASSERT_FALSE(start());
         app->mForm1.Image11.click();
         app->mForm1.cSetW.click();
@@ -45,7 +45,7 @@ TEST_F(WizardRun, NinePagesFromWelcomeToDone) {
     next();
     next();
     EXPECT_EQ(shown(), "Test It!;");
-    pc.dialogs.expect({.text = noScanner});
+    tells(noScanner);
     next();
     EXPECT_EQ(shown(), "Enable Auto-Load (Highly Recommended);");
     next();
@@ -74,9 +74,7 @@ TEST_F(WizardRun, NinePagesFromWelcomeToDone) {
     EXPECT_EQ(
         form().desc.Caption(),
         "Just click on the Save button to save the settings!\r\rThis setup took: 2 minutes to complete.");
-    pc.dialogs.expect({.text = "Are you sure you want to disregard all changes and exit the setup wizard?",
-                       .answer = Answer::Yes,
-                       .buttons = Buttons::YesNo});
+    asks("Are you sure you want to disregard all changes and exit the setup wizard?", Answer::Yes);
     form().Label3.click();
     EXPECT_FALSE(form().Visible());
 }
@@ -89,9 +87,9 @@ TEST_F(WizardRun, SavingWritesTheSettingsAndTheShortcut) {
     form().aload.setValue(true);
     form().Check1.setValue(true);
     form().Check6.setValue(true);
-    pc.dialogs.expect({.text = "Settings Saved Successfully!"});
+    tells("Settings Saved Successfully!");
     form().Command2.click();
-    EXPECT_NE(file(dataFolder + "Tarvelon.dat").find("settings=1,1,0,0,0,1,1,1\r\n"), std::string::npos);
+    EXPECT_THAT(data("Tarvelon.dat"), HasSubstr("settings=1,1,0,0,0,1,1,1\r\n"));
     EXPECT_EQ(app->settingsFile.getSetting("ANTIVIRUS"), "C:\\pavcl.exe|/NSB /NOM /AUT");
     EXPECT_TRUE(app->globals.settings.autoScanFailed);
     app->settingsPages.loadSettings();
@@ -100,8 +98,8 @@ TEST_F(WizardRun, SavingWritesTheSettingsAndTheShortcut) {
     app->mForm1.cSetW.click();
     form().aload.setValue(false);
     form().vpath.typed("");
-    pc.dialogs.expect({.text = noScanner});
-    pc.dialogs.expect({.text = "Settings Saved Successfully!"});
+    tells(noScanner);
+    tells("Settings Saved Successfully!");
     form().Command2.click();
     app->settingsPages.loadSettings();
     EXPECT_EQ(app->mForm1.Check1.value(), 0);
