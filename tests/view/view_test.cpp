@@ -34,7 +34,6 @@ struct SampleScreen : Screen {
     Tree tree{page, at(264, 32, 120, 60)};
     Picture lit{*this, at(300, 262, 64, 64), "restart-lit", "Restart"};
     Picture plain{*this, at(300, 262, 64, 64), "restart", "Restart"};
-    Timer timer{*this, 10};
 };
 
 class View : public testing::Test {
@@ -348,18 +347,6 @@ TEST_F(View, ProgressCanBeRead) {
     pumpFor(60);
     EXPECT_EQ(ask(screen.bar, PBM_GETRANGE, FALSE), 400);
     EXPECT_EQ(ask(screen.bar, PBM_GETPOS), 300);
-}
-
-TEST_F(View, TimersTickWhileEnabled) {
-    int ticks = 0;
-    screen.timer.onTick = [&] {
-        if (++ticks == 2) {
-            screen.timer.Enabled = false;
-        }
-    };
-    screen.timer.Enabled = true;
-    pumpFor(200);
-    EXPECT_EQ(ticks, 2);
 }
 
 TEST_F(View, ClosingIsUpToTheScreen) {
