@@ -6,6 +6,7 @@
 #include <windows.h>
 
 #include <shlobj.h>
+#include <shlwapi.h>
 #include <wincrypt.h>
 
 namespace tarvelon {
@@ -33,19 +34,6 @@ void removeTree(const std::string& folder) {
     } while (FindNextFileA(listing, &found));
     FindClose(listing);
     RemoveDirectoryA(folder.c_str());
-}
-
-void removeKey(HKEY parent, const std::string& path) {
-    HKEY key;
-    if (RegOpenKeyExA(parent, path.c_str(), 0, KEY_ALL_ACCESS, &key) != ERROR_SUCCESS) {
-        return;
-    }
-    char name[256];
-    while (RegEnumKeyA(key, 0, name, sizeof name) == ERROR_SUCCESS) {
-        removeKey(key, name);
-    }
-    RegCloseKey(key);
-    RegDeleteKeyA(parent, path.c_str());
 }
 
 HKEY createKey(const std::string& path) {
@@ -84,7 +72,7 @@ public:
             DestroyWindow(window);
         }
         removeTree(folder_);
-        removeKey(HKEY_CURRENT_USER, scratchKey);
+        SHDeleteKeyA(HKEY_CURRENT_USER, scratchKey);
     }
 
     Platform platform() override { return win32_.platform(); }
@@ -107,7 +95,7 @@ public:
         return std::shared_ptr<void>(file, CloseHandle);
     }
     std::string emptyKey() override {
-        removeKey(HKEY_CURRENT_USER, scratchKey);
+        SHDeleteKeyA(HKEY_CURRENT_USER, scratchKey);
         makeKey(scratchKey);
         return scratchKey;
     }
