@@ -111,8 +111,9 @@ void ProfileImage::replaceValue(Place place, std::size_t start, std::string_view
     const std::string_view old = text_.piece(start, lineLength(place));
     const std::size_t oldLength = old.size();
     const std::string_view body = withoutLineEnd(old);
+    const std::string_view ending = old.ends_with('\n') ? old.substr(body.size()) : lineEnd;
     const std::string line =
-        std::string(body.substr(0, body.find('='))).append("=").append(value).append(old.substr(body.size()));
+        std::string(body.substr(0, body.find('='))).append("=").append(value).append(ending);
     text_.replace(start, oldLength, line);
     parts_[place.part].lines.add(place.line, line.size() - oldLength);
     partLengths_.add(place.part, line.size() - oldLength);

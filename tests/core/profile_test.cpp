@@ -68,6 +68,11 @@ TEST(ProfileImage, WritesTouchOneLine) {
     EXPECT_EQ(profile.text().substr(profile.text().find("[B]")),
               "[B]\r\n;note\r\nlast=22\r\nmore=3\r\n[New]\r\nk=v\r\n");
 
+    for (const char* torn : {"[A]\r\nk=1", "[A]\r\nk=1\r"}) {
+        profile.setText(torn);
+        profile.write("A", "k", "2");
+        EXPECT_EQ(profile.text(), "[A]\r\nk=2\r\n") << "A line that is written is a whole one";
+    }
     profile.setText("[A]\r\nk=1\r");
     profile.write("A", "more", "2");
     EXPECT_EQ(profile.text(), "[A]\r\nk=1\r\nmore=2\r\n") << "A torn line end is made whole";
