@@ -1,7 +1,7 @@
 // A custom folder from its choice in the system's dialog to its removal.
 
 #include "driver.h"
-#include "folder_dialog.h"
+#include "system_dialogs.h"
 #include "workplace.h"
 
 #include <gmock/gmock.h>
@@ -21,13 +21,6 @@ class CustomFolder : public testing::Test {
 protected:
     CustomFolder() { folder_.writeData("Integrity.dat", systemBaseline()); }
 
-    /// Answers a box, which must have this text.
-    static void answer(const Program& program, const std::string& text, const std::string& button) {
-        const Box box = program.box();
-        EXPECT_EQ(box.text, text);
-        box.press(button);
-    }
-
     static Form openManager(const Program& program) {
         const Form window = program.form("Welcome to Tarvelon");
         window.click("Integrity Scan");
@@ -37,7 +30,7 @@ protected:
 
     static void save(const Program& program, const Form& manager) {
         manager.click("Save and Exit");
-        answer(program, "Save Successful!", "OK");
+        program.answer("Save Successful!");
         EXPECT_TRUE(comesTrue([&] { return !manager.isVisible(); })) << program.describe();
     }
 
@@ -63,10 +56,10 @@ TEST_F(CustomFolder, IsAddedScannedChangedAcceptedAndRemoved) {
     EXPECT_EQ(manager.rows().front(), emptySlot);
     manager.click("Add Folder...");
     FolderDialog(program).pick(path_);
-    answer(program, "Folder Added.", "OK");
+    program.answer("Folder Added.");
     manager.click("Add Folder...");
     FolderDialog(program).pick(path_);
-    answer(program, "This folder is already being scanned.", "OK");
+    program.answer("This folder is already being scanned.");
     manager.clickRow("1) " + path_);
     manager.awaitText("Currently Selected: 1) " + path_);
     manager.click("Scan this Folder at Startup (AutoLoad)");
@@ -81,17 +74,15 @@ TEST_F(CustomFolder, IsAddedScannedChangedAcceptedAndRemoved) {
                                  " has not been fully scanned yet. The scan is required by the Integrity "
                                  "Checker.\n\nPerform scan now?";
     window.choose(path_);
-    answer(program, question, "No");
-    answer(
-        program,
+    program.answer(question, "No");
+    program.answer(
         "You have chosen not to scan this Custom Folder.  You need to run the scan before using this Custom "
-        "Folder Integrity Checker.",
-        "OK");
+        "Folder Integrity Checker.");
     EXPECT_EQ(window.chosen(), systemDirectory());
     EXPECT_FALSE(folder_.hasData("1.dat"));
     window.choose(path_);
-    answer(program, question, "Yes");
-    answer(program, "Initial Custom Folder Scan Completed Successfully!", "OK");
+    program.answer(question, "Yes");
+    program.answer("Initial Custom Folder Scan Completed Successfully!");
     EXPECT_FALSE(program.hasForm("AutoCheck"));
     const std::string known = "letter.dll=" + crcText("a letter") + "*E\r\n";
     const std::string first = folder_.data("1.dat").value_or("");
@@ -127,12 +118,9 @@ TEST_F(CustomFolder, IsAddedScannedChangedAcceptedAndRemoved) {
     manager = openManager(program);
     manager.clickRow("1) " + path_);
     manager.click("Remove Folder");
-    const Box caution = program.box();
-    EXPECT_EQ(caution.title, "Caution!");
-    EXPECT_EQ(caution.text,
-              "Are you sure you want to remove this folder? Doing so will lose all Integrity Checker "
-              "data for this folder!");
-    caution.press("OK");
+    program.answer("Are you sure you want to remove this folder? Doing so will lose all Integrity Checker "
+                   "data for this folder!",
+                   "OK", "Caution!");
     EXPECT_TRUE(comesTrue([&] { return manager.rows().front() == emptySlot; }));
     EXPECT_EQ(setting("path"), "NULL");
     for (const char* ending :
@@ -158,15 +146,13 @@ TEST_F(CustomFolder, ChangesNotSavedAreAskedForWhenTheManagerIsClosed) {
     FolderDialog(program).press("Cancel");
     manager.click("Add Folder...");
     FolderDialog(program).pick(systemDirectory());
-    answer(
-        program,
-        "This is the default folder that Tarvelon scans. It cannot be added to the Custom Integrity Checker",
-        "OK");
+    program.answer(
+        "This is the default folder that Tarvelon scans. It cannot be added to the Custom Integrity Checker");
     manager.click("Add Folder...");
     FolderDialog(program).pick(folder_.path());
-    answer(program, "Folder Added.", "OK");
+    program.answer("Folder Added.");
     manager.close();
-    answer(program, question, "No");
+    program.answer(question, "No");
     EXPECT_TRUE(comesTrue([&] { return !manager.isVisible(); })) << program.describe();
     EXPECT_EQ(setting("path"), "NULL");
 

@@ -25,10 +25,15 @@ RECT placeOf(HWND window) {
     return place;
 }
 
-void mouse(DWORD event) {
+INPUT mouseInput(DWORD event) {
     INPUT input{};
     input.type = INPUT_MOUSE;
     input.mi.dwFlags = event;
+    return input;
+}
+
+void mouse(DWORD event) {
+    INPUT input = mouseInput(event);
     SendInput(1, &input, sizeof input);
 }
 
@@ -41,21 +46,28 @@ void awaitSingleClick() {
     last = GetTickCount() + 2 * hand;
 }
 
-/// A real click, through the system's input queue. The control must lie open under the mouse.
-void clickAt(HWND control, const RECT& place, const std::function<bool()>& ready) {
+/// Brings the mouse over the control, which must lie open under it, and stay so for as long as a hand takes.
+void pointAt(HWND control, const RECT& place, const std::function<bool()>& ready) {
     HWND const window = GetAncestor(control, GA_ROOT);
     const POINT centre{(place.left + place.right) / 2, (place.top + place.bottom) / 2};
-    const bool open = comesTrue(
-        [&] {
-            SetCursorPos(centre.x, centre.y);
-            return ready() && GetAncestor(WindowFromPoint(centre), GA_ROOT) == window;
-        },
-        Milliseconds(answerTime));
-    if (!open) {
+    const auto isOpen = [&] {
+        SetCursorPos(centre.x, centre.y);
+        return ready() && GetAncestor(WindowFromPoint(centre), GA_ROOT) == window;
+    };
+    const auto staysOpen = [&] {
+        const bool open = isOpen();
+        Sleep(hand);
+        return open && isOpen();
+    };
+    if (!comesTrue(staysOpen, Milliseconds(answerTime))) {
         throw NotSeen("\"" + textOf(control) + "\" is covered by \"" + textOf(WindowFromPoint(centre)) +
                       "\"");
     }
-    Sleep(hand);
+}
+
+/// A real click, through the system's input queue.
+void clickAt(HWND control, const RECT& place, const std::function<bool()>& ready) {
+    pointAt(control, place, ready);
     mouse(MOUSEEVENTF_LEFTDOWN);
     Sleep(hand);
     mouse(MOUSEEVENTF_LEFTUP);
@@ -120,6 +132,13 @@ HWND openList(HWND dropDown) {
     return nullptr;
 }
 
+/// Asks for the control's window to come to the front, and tells whether it has come.
+std::function<bool()> inFront(HWND control) {
+    HWND const window = GetAncestor(control, GA_ROOT);
+    SetForegroundWindow(window);
+    return [window] { return GetForegroundWindow() == window; };
+}
+
 } // namespace
 
 bool comesTrue(const std::function<bool()>& holds, Milliseconds limit) {
@@ -134,9 +153,16 @@ bool comesTrue(const std::function<bool()>& holds, Milliseconds limit) {
 }
 
 void clickOn(HWND control, const RECT& place) {
-    HWND const window = GetAncestor(control, GA_ROOT);
-    SetForegroundWindow(window);
-    clickAt(control, place, [window] { return GetForegroundWindow() == window; });
+    clickAt(control, place, inFront(control));
+}
+
+void doubleClickOn(HWND control, const RECT& place) {
+    pointAt(control, place, inFront(control));
+    const INPUT press = mouseInput(MOUSEEVENTF_LEFTDOWN);
+    const INPUT release = mouseInput(MOUSEEVENTF_LEFTUP);
+    // In one go: between two goes a busy machine might take longer than a double click may.
+    INPUT all[] = {press, release, press, release};
+    SendInput(4, all, sizeof press);
 }
 
 void pressKey(WORD key) {

@@ -33,6 +33,9 @@ std::string plainBreaks(const std::string& text);
 /// Presses and releases the mouse in the middle of a part of a control, given in places of the screen.
 void clickOn(HWND control, const RECT& place);
 
+/// The same twice, as a double click.
+void doubleClickOn(HWND control, const RECT& place);
+
 /// Presses and releases a key, which goes to where the keyboard is.
 void pressKey(WORD key);
 
@@ -126,6 +129,9 @@ public:
 
     /// Waits for a message box.
     Box box() const;
+    /// Waits for one with this text and title, and presses a button of it.
+    void answer(const std::string& text, const std::string& button = "OK",
+                const std::string& title = "TarvelonLow") const;
 
     /// True when the process has ended by itself within `limit`.
     bool ends(Milliseconds limit = patience) const;

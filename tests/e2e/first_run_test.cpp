@@ -25,9 +25,7 @@ void refuse(const Program& program) {
     EXPECT_EQ(question.buttons, (std::vector<std::string>{"Yes", "No"}));
     question.press("No");
 
-    const Box notice = program.box();
-    EXPECT_EQ(notice.text, refusalNotice);
-    notice.press("OK");
+    program.answer(refusalNotice);
 }
 
 TEST(FirstRun, RefusedTwiceOpensTheMainWindowAndLeavesNoBaseline) {
@@ -90,10 +88,7 @@ TEST(FirstRun, EverySwitchNeedsABaseline) {
         const Program program(folder.program(), argument);
         refuse(program);
         refuse(program);
-        const Box box = program.box();
-        EXPECT_EQ(box.text, message);
-        EXPECT_EQ(box.title, "TarvelonLow");
-        box.press("OK");
+        program.answer(message);
         EXPECT_TRUE(program.ends());
     }
 }
@@ -145,9 +140,7 @@ TEST_F(RunningFirstScan, PausesGoesOnAndIsAbandonedForGood) {
     const char* const question = "If you stop the scan now, you will need to re-start it later\n"
                                  "Are you sure you want to abandon the full system scan?";
     scan.click("Cancel");
-    const Box first = program_.box();
-    EXPECT_EQ(first.text, question);
-    first.press("No");
+    program_.answer(question, "No");
     EXPECT_TRUE(scan.isVisible());
     EXPECT_TRUE(folder_.hasData("Integrity.dat"));
 

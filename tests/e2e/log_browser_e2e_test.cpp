@@ -37,12 +37,6 @@ protected:
 
     std::vector<std::string> files() const { return namesIn(folder_.path() + "Data\\Log\\"); }
 
-    void answer(const std::string& text, const std::string& button) const {
-        const Box box = program_->box();
-        EXPECT_EQ(box.text, text);
-        box.press(button);
-    }
-
     void start() {
         program_ = std::make_unique<Program>(folder_.program());
         window_ = std::make_unique<Form>(program_->form("Welcome to Tarvelon"));
@@ -65,18 +59,22 @@ protected:
         return comesTrue([&] { return reports().size() == count; });
     }
 
-    /// Clicks a date, or a time below it.
-    void clickNode(const std::string& date, const std::string& time = "") const {
+    /// A date, or a time below it.
+    HTREEITEM node(const std::string& date, const std::string& time = "") const {
         HTREEITEM item = tree_->root();
         while (item != nullptr && tree_->textOf(item) != date) {
             item = tree_->next(TVGN_NEXT, item);
         }
-        ASSERT_NE(item, nullptr) << date;
-        if (!time.empty()) {
+        if (item != nullptr && !time.empty()) {
             tree_->open(item);
             item = tree_->child(item, time, patience);
-            ASSERT_NE(item, nullptr) << time;
         }
+        EXPECT_NE(item, nullptr) << date << " " << time;
+        return item;
+    }
+
+    void clickNode(const std::string& date, const std::string& time = "") const {
+        HTREEITEM const item = node(date, time);
         clickOn(window_->tree(), tree_->placeOf(item));
         EXPECT_TRUE(comesTrue([&] { return tree_->next(TVGN_CARET, nullptr) == item; }));
     }
@@ -105,20 +103,39 @@ TEST_F(LogBrowser, AReportIsViewedScannedAgainAndDeleted) {
     EXPECT_THAT(window_->rows(), ElementsAre("A heading", "C:\\one.dll", "C:\\two.ocx"));
 
     window_->click("Scan Files For Viruses");
-    answer("Anti-Virus program executed successfully!", "OK");
+    program_->answer("Anti-Virus program executed successfully!");
     const std::string list = " \"C:\\one.dll\" \"C:\\two.ocx\" ";
     EXPECT_THAT(first_.records(1), ElementsAre("2 " + first_.path() + " /all" + list));
     EXPECT_THAT(second_.records(1), ElementsAre("2 " + second_.path() + " /deep" + list));
 
     const std::string question = "Are you sure you want to delete this Report?";
     window_->click("Delete this Report");
-    answer(question, "No");
+    program_->answer(question, "No");
     EXPECT_TRUE(window_->shows("Delete this Report"));
     window_->click("Delete this Report");
-    answer(question, "Yes");
+    program_->answer(question, "Yes");
     window_->awaitText("Load Logs");
     EXPECT_TRUE(comesTrue([&] { return reports()["05-01-2003"].size() == 1; }));
     EXPECT_THAT(files(), UnorderedElementsAre(secondReport, laterReport, "notes.txt"));
+}
+
+TEST_F(LogBrowser, ADoubleClickOpensAReportUnlessItHasGoneAndEveryKeyLooksAgain) {
+    start();
+    ASSERT_TRUE(dates(2));
+    doubleClickOn(window_->tree(), tree_->placeOf(node("12-24-2003", "3:04:07 PM")));
+    window_->awaitText("Scan Files For Viruses");
+    EXPECT_THAT(window_->rows(), ElementsAre("A heading", "C:\\one.dll", "C:\\two.ocx"));
+    window_->click("Close");
+    window_->awaitText("Load Logs");
+
+    DeleteFileA((folder_.path() + "Data\\Log\\" + firstReport).c_str());
+    doubleClickOn(window_->tree(), tree_->placeOf(node("05-01-2003", "3:04:07 PM")));
+    program_->answer("Error - This report does not exist and could not be opened.");
+    EXPECT_TRUE(window_->shows("Load Logs"));
+    EXPECT_EQ(reports()["05-01-2003"].size(), 2U);
+    window_->bringToFront();
+    pressKey('A');
+    EXPECT_TRUE(comesTrue([&] { return reports()["05-01-2003"].size() == 1; }));
 }
 
 TEST_F(LogBrowser, TheDeleteKeyTakesADateOrAnEntryAndTheButtonAll) {
@@ -127,17 +144,17 @@ TEST_F(LogBrowser, TheDeleteKeyTakesADateOrAnEntryAndTheButtonAll) {
     clickNode("05-01-2003");
     const std::string question = "Delete All Logs on this (05-01-2003) Date?";
     pressKey(VK_DELETE);
-    answer(question, "No");
+    program_->answer(question, "No");
     EXPECT_EQ(files().size(), 4U);
     window_->bringToFront();
     pressKey(VK_DELETE);
-    answer(question, "Yes");
+    program_->answer(question, "Yes");
     EXPECT_TRUE(dates(1));
     EXPECT_THAT(files(), UnorderedElementsAre(laterReport, "notes.txt"));
 
     clickNode("12-24-2003", "3:04:07 PM");
     pressKey(VK_DELETE);
-    answer("Delete Log Entry?", "Yes");
+    program_->answer("Delete Log Entry?", "Yes");
     EXPECT_TRUE(dates(0));
     EXPECT_THAT(files(), ElementsAre("notes.txt"));
 
@@ -146,10 +163,10 @@ TEST_F(LogBrowser, TheDeleteKeyTakesADateOrAnEntryAndTheButtonAll) {
     EXPECT_TRUE(dates(1));
     const std::string all = "Are you sure you want to delete all the logs?";
     window_->click("Delete All Logs");
-    answer(all, "No");
+    program_->answer(all, "No");
     EXPECT_EQ(files().size(), 2U);
     window_->click("Delete All Logs");
-    answer(all, "Yes");
+    program_->answer(all, "Yes");
     EXPECT_TRUE(dates(0));
     EXPECT_THAT(files(), ElementsAre("notes.txt"));
 }

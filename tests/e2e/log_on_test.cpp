@@ -52,10 +52,7 @@ TEST_F(LogOn, AChangedAndAnAddedFileStayOnTheScreen) {
 
     // Leaving asks once more, and leaves the baseline as it was.
     results.click("Cancel");
-    const Box question = program.box();
-    EXPECT_EQ(question.text, "Some files failed the integrity check!  Are you sure you want to exit?");
-    EXPECT_EQ(question.title, "Warning");
-    question.press("No");
+    program.answer("Some files failed the integrity check!  Are you sure you want to exit?", "No", "Warning");
     EXPECT_TRUE(results.isVisible());
     results.click("Cancel");
     program.box().press("Yes");
@@ -70,14 +67,11 @@ TEST_F(LogOn, FindingsAreReportedAndAcceptedWithoutAScanner) {
     const Form results = program.form("AutoCheck");
     results.click("Repair and Update Failed Files...");
     results.click("Scan Failing Files...");
-    const Box notice = program.box();
-    EXPECT_EQ(
-        notice.text,
+    program.answer(
         "You do not have any Anti-Virus program setup with Tarvelon.  For your conveniance, these files will "
         "be "
         "added to the log, and will be updated in your Integrity File (so that you can scan them for viruses "
         "later).");
-    notice.press("OK");
     results.awaitText("Integrity File Updated");
     EXPECT_EQ(
         folder_.logs(),

@@ -105,6 +105,15 @@ Box Program::box() const {
     return box;
 }
 
+void Program::answer(const std::string& text, const std::string& button, const std::string& title) const {
+    const Box shown = box();
+    if (shown.text != text || shown.title != title) {
+        throw NotSeen("\"" + shown.title + ": " + shown.text + "\" in place of \"" + title + ": " + text +
+                      "\"");
+    }
+    shown.press(button);
+}
+
 bool Program::ends(Milliseconds limit) const {
     return WaitForSingleObject(process_.hProcess, static_cast<DWORD>(limit.count())) == WAIT_OBJECT_0;
 }

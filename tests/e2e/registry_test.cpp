@@ -175,14 +175,6 @@ protected:
         awaitButtons(window, true);
     }
 
-    static void answer(const Program& program, const std::string& title, const std::string& text,
-                       const std::string& button) {
-        const Box box = program.box();
-        EXPECT_EQ(box.title, title);
-        EXPECT_EQ(box.text, text);
-        box.press(button);
-    }
-
     static std::string deletionQuestion(const std::string& name, const std::string& key) {
         return "WARNING!\nYou are about to Delete the key: " + name + "\nFrom: " + key +
                "\nDoing this may have unpredictable results!\n\nContinue?";
@@ -300,10 +292,10 @@ TEST_F(RegistryWatch, DeleteKeyAsksFirstAndOnlyTheTreeKnowsEveryPlace) {
 
     selectNode(window, local, "Loaded in Run", "Doomed (C:\\doomed.exe)");
     window.click("Delete Key");
-    answer(program, "TarvelonLow", deletionQuestion("Doomed", localKey), "No");
+    program.answer(deletionQuestion("Doomed", localKey), "No");
     EXPECT_TRUE(doomed.stands());
     window.click("Delete Key");
-    answer(program, "TarvelonLow", deletionQuestion("Doomed", localKey), "Yes");
+    program.answer(deletionQuestion("Doomed", localKey), "Yes");
     EXPECT_TRUE(comesTrue([&] { return !doomed.stands() && !window.isEnabled("Delete Key"); }));
     EXPECT_TRUE(comesTrue([&] {
         const TreeView tree(window.tree());
@@ -315,10 +307,10 @@ TEST_F(RegistryWatch, DeleteKeyAsksFirstAndOnlyTheTreeKnowsEveryPlace) {
 
     selectNode(window, local, "Spawned with PIF's", " (x.exe \"%1\" %*)");
     window.click("Delete Key");
-    answer(program, "Caution",
-           "This key will not be deleted.\nYou must change the value manually. Would you like to open the "
-           "Registry for Editing now?",
-           "No");
+    program.answer(
+        "This key will not be deleted.\nYou must change the value manually. Would you like to open the "
+        "Registry for Editing now?",
+        "No", "Caution");
     EXPECT_TRUE(command.stands());
 
     // A row of the user's keys names no key of its own.
@@ -328,12 +320,12 @@ TEST_F(RegistryWatch, DeleteKeyAsksFirstAndOnlyTheTreeKnowsEveryPlace) {
     window.clickRow(missedRow);
     awaitButtons(window, true);
     window.click("Delete Key");
-    answer(program, "TarvelonLow", deletionQuestion("Missed", user + "\\" + version), "Yes");
+    program.answer(deletionQuestion("Missed", user + "\\" + version), "Yes");
     awaitRows(window, warnings({missedRow}));
     EXPECT_TRUE(missed.stands());
     selectNode(window, user, "Loaded in Run", "Missed (C:\\missed.exe)");
     window.click("Delete Key");
-    answer(program, "TarvelonLow", deletionQuestion("Missed", user + "\\" + run), "Yes");
+    program.answer(deletionQuestion("Missed", user + "\\" + run), "Yes");
     awaitRows(window, warnings({noWarnings}));
     EXPECT_FALSE(missed.stands());
 
@@ -343,7 +335,7 @@ TEST_F(RegistryWatch, DeleteKeyAsksFirstAndOnlyTheTreeKnowsEveryPlace) {
     window.clickRow(listedRow);
     awaitButtons(window, true);
     window.click("Delete Key");
-    answer(program, "TarvelonLow", deletionQuestion("Listed", local + "\\" + runOnce), "Yes");
+    program.answer(deletionQuestion("Listed", local + "\\" + runOnce), "Yes");
     awaitRows(window, warnings({noWarnings}));
     EXPECT_FALSE(listed.stands());
 }
@@ -369,12 +361,12 @@ TEST_F(RegistryWatch, WarningsGoToBothScannersIntoTheReportAndIntoTheSnapshot) {
     expectRun(2, "\"C:\\a b\\q.exe\"");
     selectNode(window, local, "Loaded in Run", "Lost (zznowhere.exe)");
     window.click(scanOne);
-    answer(program, "TarvelonLow", "Cannot find file, please scan manually", "OK");
+    program.answer("Cannot find file, please scan manually");
     EXPECT_THAT(folder_.logs(), ElementsAre());
     EXPECT_EQ(recorded(), snapshot({}));
 
     window.click(scanWarnings);
-    answer(program, "TarvelonLow", "Unable to find the file: zznowhere.exe\nPlease scan manually.", "OK");
+    program.answer("Unable to find the file: zznowhere.exe\nPlease scan manually.");
     const std::string notepad = systemDirectory() + "notepad.exe";
     expectRun(3, " \"C:\\Tools\\arrow.exe\" \"" + notepad + "\"  \"C:\\a b\\q.exe\"");
     awaitRows(window, warnings({noWarnings}));
@@ -397,7 +389,7 @@ TEST_F(RegistryWatch, FilesPendingForTheNextBootAreShownAndScanned) {
     Rows rows = warnings({noWarnings});
     rows.push_back(pendingHeading);
     window.click(showPending);
-    answer(program, "TarvelonLow", "No files will be modified or deleted on Restart!", "OK");
+    program.answer("No files will be modified or deleted on Restart!");
     EXPECT_EQ(window.rows(), rows);
     EXPECT_FALSE(window.isEnabled("Scan all Files for Viruses"));
 

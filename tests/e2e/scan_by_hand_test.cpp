@@ -259,12 +259,9 @@ TEST_F(ManyFindings, WithoutAScannerTheFirstBatchIsReportedAndAllAreAccepted) {
     const Rows rows = results.rows();
     ASSERT_EQ(rows.size(), count);
     results.click("Scan Failing Files...");
-    const Box notice = program.box();
-    EXPECT_EQ(notice.text,
-              "You do not have any Anti-Virus program setup with Tarvelon.  For your conveniance, these "
-              "files will be added to the log, and will be updated in your Integrity File (so that you "
-              "can scan them for viruses later).");
-    notice.press("OK");
+    program.answer("You do not have any Anti-Virus program setup with Tarvelon.  For your conveniance, these "
+                   "files will be added to the log, and will be updated in your Integrity File (so that you "
+                   "can scan them for viruses later).");
     results.awaitText("Close Integrity Window");
 
     std::string line =
@@ -287,12 +284,9 @@ TEST_F(ScanByHand, AScannerThatCannotBeStartedLeavesEverythingAsItWas) {
     const Program program(folder_.program());
     const Form results = openFindings(program, {"Driver Files (DRV)"});
     results.click("Scan Failing Files...");
-    const Box box = program.box();
-    EXPECT_EQ(box.text,
-              "Your Anti-Virus program could not be executed!!!\nPlease verify the path of the software:\n" +
-                  broken);
-    EXPECT_EQ(box.title, "TarvelonLow");
-    box.press("OK");
+    program.answer(
+        "Your Anti-Virus program could not be executed!!!\nPlease verify the path of the software:\n" +
+        broken);
     EXPECT_THAT(results.rows(), ElementsAre(guarded_.path()));
     EXPECT_TRUE(results.shows("Scan Failing Files..."));
     EXPECT_THAT(namesIn(folder_.path() + "Data\\Log\\"), IsEmpty());

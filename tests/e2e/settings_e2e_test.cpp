@@ -1,126 +1,18 @@
 // The settings from the user's side: the wizard, the two settings pages, and the choice of the scanners.
 
-#include "driver.h"
-#include "link_file.h"
 #include "recorder.h"
-#include "workplace.h"
+#include "settings_screens.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <shlobj.h>
-
 namespace e2e {
 namespace {
 
-using Changes = std::map<std::string, std::string>;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::StartsWith;
-
-constexpr const char* noScanner = "You didn't choose an anti-virus software exe.  We recommend that you get "
-                                  "one to take full advantage of Tarvelon";
-
-/// A link that is gone when the object is made and when it dies.
-class LinkPlace {
-public:
-    explicit LinkPlace(std::string path)
-        : path_(std::move(path)) {
-        DeleteFileA(path_.c_str());
-    }
-    LinkPlace(const LinkPlace&) = delete;
-    ~LinkPlace() { DeleteFileA(path_.c_str()); }
-
-    const std::string& path() const { return path_; }
-    bool exists() const { return readFile(path_).has_value(); }
-
-private:
-    std::string path_;
-};
-
-std::string startupFolder() {
-    char path[MAX_PATH] = {};
-    SHGetSpecialFolderPathA(nullptr, path, CSIDL_COMMON_STARTUP, TRUE);
-    return std::string(path) + "\\";
-}
-
-/// A folder of the C drive that is gone afterwards.
-class PassingFolder {
-public:
-    explicit PassingFolder(std::string path)
-        : path_(std::move(path)) {
-        clear();
-        CreateDirectoryA(path_.c_str(), nullptr);
-    }
-    PassingFolder(const PassingFolder&) = delete;
-    ~PassingFolder() { clear(); }
-
-    const std::string& path() const { return path_; }
-
-private:
-    void clear() const {
-        for (const std::string& name : namesIn(path_)) {
-            DeleteFileA((path_ + name).c_str());
-        }
-        RemoveDirectoryA(path_.c_str());
-    }
-
-    std::string path_;
-};
-
-class SettingsScreens : public testing::Test {
-protected:
-    SettingsScreens() {
-        folder_.writeData("Integrity.dat", systemBaseline());
-        folder_.writeSettings({});
-        original_ = folder_.data("Tarvelon.dat").value();
-    }
-
-    static Form open(const Program& program, const std::string& entry) {
-        const Form window = program.form("Welcome to Tarvelon");
-        window.click("Options");
-        window.click(entry);
-        return window;
-    }
-
-    static void answer(const Program& program, const std::string& text, const std::string& button) {
-        const Box box = program.box();
-        EXPECT_EQ(box.text, text);
-        box.press(button);
-    }
-
-    static void awaitHidden(const Program& program, const Form& form) {
-        EXPECT_TRUE(comesTrue([&] { return !form.isVisible(); })) << program.describe();
-    }
-
-    /// The settings file holds these values, with an added line behind the others of the main section, and
-    /// else what it held at first.
-    void expectSettings(const Changes& values, const std::string& added = "") const {
-        std::string expected = original_;
-        expected.insert(expected.find("\r\n\r\n") + 2, added);
-        for (const auto& [key, value] : values) {
-            const std::size_t from = expected.find("\r\n" + key + "=") + key.size() + 3;
-            expected.replace(from, expected.find("\r\n", from) - from, value);
-        }
-        EXPECT_EQ(folder_.data("Tarvelon.dat"), expected);
-    }
-
-    void expectLink(const std::string& path, const std::string& arguments) const {
-        const std::optional<LinkFile> link = readLink(path);
-        ASSERT_TRUE(link) << path;
-        EXPECT_EQ(link->target, folder_.program());
-        EXPECT_EQ(link->arguments, arguments);
-        EXPECT_EQ(link->workingFolder, "");
-        EXPECT_EQ(link->description, "Access Shortcut");
-        EXPECT_EQ(link->icon, folder_.program() + ",0");
-        EXPECT_EQ(link->show, SW_SHOW);
-    }
-
-    const ProgramFolder folder_{"settings"};
-    std::string original_;
-    const LinkPlace autoLoad_{startupFolder() + "Tarvelon.lnk"};
-};
 
 TEST_F(SettingsScreens, TheWizardLeadsFromWelcomeToDoneAndWritesOnlyAtItsEnd) {
     const RecordingScanner scanner(folder_.path() + "scanner.exe");
@@ -138,8 +30,7 @@ TEST_F(SettingsScreens, TheWizardLeadsFromWelcomeToDoneAndWritesOnlyAtItsEnd) {
     wizard.fill(1, "/deep");
     next("Anti-Virus Setup (2/2)");
     wizard.click("Test It!");
-    EXPECT_THAT(program.box().text, StartsWith("Tarvelon will now attempt to scan two files."));
-    program.box().press("OK");
+    program.answer(testNotice);
     EXPECT_THAT(scanner.records(1),
                 ElementsAre("2 " + scanner.path() + " \"" + folder_.path() + "Data\\Tarvelon.dat\" \"" +
                             folder_.path() + "Data\\Integrity.dat\""));
@@ -158,12 +49,9 @@ TEST_F(SettingsScreens, TheWizardLeadsFromWelcomeToDoneAndWritesOnlyAtItsEnd) {
     wizard.click("Enable Logging Feature");
     next("Other Settings (2/2)");
     wizard.click("Create Shutdown/Scan shortcut");
-    answer(program,
-           "Tarvelon will now create a shortcut for you to use the Secure ShutDown and Scan Feature.\n"
-           "Would you like this shortcut on your Desktop?",
-           "No");
-    answer(program, "Tarvelon will now create a SecureShutDown shortcut in your Tarvelon directory.", "OK");
-    answer(program, "Success!", "OK");
+    program.answer(desktopQuestion, "No");
+    program.answer("Tarvelon will now create a SecureShutDown shortcut in your Tarvelon directory.");
+    program.answer("Success!");
     expectLink(folder_.path() + "SecureShutDown.lnk", " /s");
     next("You're done!");
     EXPECT_FALSE(wizard.shows("Next >>>"));
@@ -172,7 +60,7 @@ TEST_F(SettingsScreens, TheWizardLeadsFromWelcomeToDoneAndWritesOnlyAtItsEnd) {
     EXPECT_FALSE(autoLoad_.exists());
 
     wizard.click("Save");
-    answer(program, "Settings Saved Successfully!", "OK");
+    program.answer("Settings Saved Successfully!");
     awaitHidden(program, wizard);
     expectSettings({{"settings", "0,1,0,0,0,1,1,1"}, {"antivirus", scanner.path() + "|/deep"}});
     expectLink(autoLoad_.path(), " /r");
@@ -191,16 +79,16 @@ TEST_F(SettingsScreens, TheWizardIsLeftWithoutAChangeAndTellsOfAMissingScanner) 
     walk(2);
     wizard.awaitText("Anti-Virus Setup (2/2)");
     walk(1);
-    answer(program, noScanner, "OK");
+    program.answer(noScanner);
     wizard.awaitText("Main Settings (1/3)");
     EXPECT_TRUE(wizard.isTicked("Enable Auto-Load (Highly Recommended)"));
     wizard.click("Enable Auto-Load (Highly Recommended)");
     const std::string question = "Are you sure you want to disregard all changes and exit the setup wizard?";
     wizard.click("Cancel");
-    answer(program, question, "No");
+    program.answer(question, "No");
     EXPECT_TRUE(wizard.isVisible());
     wizard.click("Cancel");
-    answer(program, question, "Yes");
+    program.answer(question, "Yes");
     awaitHidden(program, wizard);
     expectSettings({});
     EXPECT_TRUE(autoLoad_.exists());
@@ -209,14 +97,14 @@ TEST_F(SettingsScreens, TheWizardIsLeftWithoutAChangeAndTellsOfAMissingScanner) 
     wizard = program.form("Setup Wizard");
     wizard.awaitText("Welcome to the Setup Wizard");
     walk(3);
-    answer(program, noScanner, "OK");
+    program.answer(noScanner);
     wizard.awaitText("Main Settings (1/3)");
     EXPECT_TRUE(wizard.isTicked("Enable Auto-Load (Highly Recommended)")) << "as the link tells";
     wizard.click("Enable Auto-Load (Highly Recommended)");
     walk(5);
     wizard.click("Save");
-    answer(program, noScanner, "OK");
-    answer(program, "Settings Saved Successfully!", "OK");
+    program.answer(noScanner);
+    program.answer("Settings Saved Successfully!");
     awaitHidden(program, wizard);
     expectSettings({{"antivirus", "Anti-Virus Software| "}});
     EXPECT_FALSE(autoLoad_.exists());
@@ -237,7 +125,7 @@ TEST_F(SettingsScreens, TheSettingsPageSavesReloadsAndForgetsWhatIsNotSaved) {
             window.click(text);
         }
         window.click("Save Settings");
-        answer(program, "Settings Saved Successfully", "OK");
+        program.answer("Settings Saved Successfully");
         expectSettings(saved, added);
         expectLink(autoLoad_.path(), " /r");
 
@@ -256,7 +144,7 @@ TEST_F(SettingsScreens, TheSettingsPageSavesReloadsAndForgetsWhatIsNotSaved) {
     EXPECT_FALSE(window.isTicked("Auto-Logging"));
     window.click("Auto-Load at Startup");
     window.click("Save Settings");
-    answer(program, "Settings Saved Successfully", "OK");
+    program.answer("Settings Saved Successfully");
     EXPECT_FALSE(autoLoad_.exists());
     expectSettings(saved, added);
 }
@@ -275,7 +163,7 @@ TEST_F(SettingsScreens, AnotherAlgorithmAsksForItsOwnFullScan) {
     }
     window.awaitText(warning);
     window.click("Save");
-    answer(program, "Save Success!", "OK");
+    program.answer("Save Success!");
     const Changes saved = {{"advanced", "262144,100,1"}, {"antivirus2", "0,0,0"}, {"algo", "MD5"}};
     expectSettings(saved);
 
@@ -305,7 +193,7 @@ TEST_F(SettingsScreens, AnotherAlgorithmAsksForItsOwnFullScan) {
     open(program, "Edit Settings");
     window.click("Auto-Load at Startup");
     window.click("Save Settings");
-    answer(program, "Settings Saved Successfully", "OK");
+    program.answer("Settings Saved Successfully");
     const std::optional<LinkFile> link = readLink(autoLoad_.path());
     ASSERT_TRUE(link);
     EXPECT_EQ(link->target, folder_.program());
@@ -327,19 +215,17 @@ TEST_F(SettingsScreens, ScannersAreSearchedTestedUsedAndSavedForBothPlaces) {
         const Form catalogue = program.form("Anti-Virus Shell Help");
         catalogue.clickRow(product);
         catalogue.click("Search for this Selection...");
-        answer(program,
-               "Tarvelon may become unresponsive during the file search. This is normal.\n\n"
-               "Click OK to continue.",
-               "OK");
-        answer(program, "Success!", "OK");
+        program.answer("Tarvelon may become unresponsive during the file search. This is normal.\n\n"
+                       "Click OK to continue.",
+                       "OK");
+        program.answer("Success!");
         EXPECT_TRUE(comesTrue([&] { return catalogue.fields() == std::vector<std::string>{path}; }));
         return catalogue;
     };
     Form catalogue = search(0, "NOD32 (All Operating Systems)", first.path());
     EXPECT_FALSE(catalogue.isEnabled("Use It!")) << "not tested yet";
     catalogue.click("Test It!");
-    EXPECT_THAT(program.box().text, StartsWith("Tarvelon will now attempt to scan two files."));
-    program.box().press("OK");
+    program.answer(testNotice);
     EXPECT_THAT(first.records(1),
                 ElementsAre("2 \"" + first.path() + "\" \"" + folder_.path() + "Data\\Tarvelon.dat\" \"" +
                             folder_.path() + "Data\\Integrity.dat\""));
@@ -354,7 +240,7 @@ TEST_F(SettingsScreens, ScannersAreSearchedTestedUsedAndSavedForBothPlaces) {
     EXPECT_THAT(choice.fields(), ElementsAre(first.path(), " ", second.path(), second.path()));
     EXPECT_THAT(second.recordsNow(), IsEmpty());
     choice.click("Save");
-    answer(program, "Save Success!", "OK");
+    program.answer("Save Success!");
     awaitHidden(program, choice);
     expectSettings({{"antivirus", first.path() + "| "}, {"av2", second.path() + "|" + second.path()}});
 }

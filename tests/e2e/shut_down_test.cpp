@@ -156,10 +156,7 @@ TEST_F(SecureShutDown, IsRefusedWhileTheProgramIsOpen) {
     const Program open(folder_.program());
     open.form("Welcome to Tarvelon");
     const Program program(folder_.program(), "/s");
-    const Box box = program.box();
-    EXPECT_EQ(box.text, "You must close Tarvelon before using the Shut Down Feature.");
-    EXPECT_EQ(box.title, "TarvelonLow");
-    box.press("OK");
+    program.answer("You must close Tarvelon before using the Shut Down Feature.");
     EXPECT_TRUE(program.ends()) << program.describe();
     EXPECT_TRUE(open.hasForm("Welcome to Tarvelon"));
 }

@@ -1,9 +1,13 @@
-// Chooses "Turn Off" in Secure Shut Down on a workstation where nothing is found, and waits for what the
-// system tells every window when it goes down: switch_off PROGRAM
+// Lets Secure Shut Down take the system down, and waits for what the system then tells every window:
 //
-// Ends with 0 when it was told.
+//     switch_off PROGRAM CHOICE
+//
+// With the choice "Turn Off" nothing is found, and the system goes at once. With "Restart" a file is pending
+// for the next start, and the two minutes that this gives are cut short. Ends with 0 when the system goes
+// down.
 
 #include "driver.h"
+#include "recorder.h"
 #include "workplace.h"
 
 #include <cstdio>
@@ -28,16 +32,31 @@ HWND makeHiddenWindow() {
                          nullptr);
 }
 
-void chooseTurnOffAndWait(const std::string& programFile) {
+void cutTheTwoMinutesShort(const e2e::Program& program) {
+    using namespace e2e;
+    const Form progress = program.form("Scanning and Shutting Down...Please Wait");
+    progress.awaitText("Status: Some files were scanned...Shutting Down in 2 minutes");
+    progress.click("ShutDown Now");
+}
+
+void chooseAndWait(const std::string& programFile, const std::string& choice) {
     using namespace e2e;
     setInputs({programFile, ""});
+    const bool findings = choice == "Restart";
     const ProgramFolder folder("switch-off");
-    // There must be a scanner, or the program says that there is none; without findings it is not started.
-    folder.writeSettings({{"antivirus", folder.program() + "|"}});
+    // There must be a scanner, or the program says that there is none.
+    const RecordingScanner scanner(folder.path() + "scanner.exe");
+    folder.writeSettings({{"antivirus", scanner.path() + "|"}});
     folder.writeData("Integrity.dat", smallBaseline("DLL", ""));
+    const PlantedFile pending(folder.path() + "pending.tmp", "");
+    const PlantedFile wininit("C:\\windows\\wininit.ini",
+                              findings ? "[Rename]\r\nNUL=" + pending.path() + "\r\n" : "");
     HWND const window = makeHiddenWindow();
     const Program program(folder.program(), "/s");
-    program.form("Secure Shut Down").click("Turn Off");
+    program.form("Secure Shut Down").click(choice);
+    if (findings) {
+        cutTheTwoMinutesShort(program);
+    }
     SetTimer(window, 1, static_cast<UINT>(patience.count()), nullptr);
     MSG message{};
     while (GetMessageA(&message, nullptr, 0, 0) > 0 && message.message != WM_TIMER) {
@@ -49,12 +68,12 @@ void chooseTurnOffAndWait(const std::string& programFile) {
 } // namespace
 
 int main(int count, char** arguments) {
-    if (count != 2) {
-        std::fputs("usage: switch_off PROGRAM\n", stderr);
+    if (count != 3) {
+        std::fputs("usage: switch_off PROGRAM CHOICE\n", stderr);
         return 2;
     }
     try {
-        chooseTurnOffAndWait(arguments[1]);
+        chooseAndWait(arguments[1], arguments[2]);
     } catch (const std::exception& failure) {
         std::fprintf(stderr, "%s\n", failure.what());
     }

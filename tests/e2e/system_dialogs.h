@@ -19,4 +19,18 @@ private:
     Box box_;
 };
 
+/// The system's own dialog in which a file is picked, of a known title.
+class FileDialog {
+public:
+    /// Waits for it.
+    FileDialog(const Program& program, const std::string& title);
+
+    /// Writes the path into the field for the name and opens it.
+    void pick(const std::string& path) const;
+    void press(const std::string& button) const { box_.press(button); }
+
+private:
+    Box box_;
+};
+
 } // namespace e2e

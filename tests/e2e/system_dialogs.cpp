@@ -1,4 +1,4 @@
-#include "folder_dialog.h"
+#include "system_dialogs.h"
 
 #include "tree_view.h"
 
@@ -48,6 +48,18 @@ void FolderDialog::pick(const std::string& path) const {
     }
     tree.select(item);
     box_.press("OK");
+}
+
+FileDialog::FileDialog(const Program& program, const std::string& title)
+    : box_(program.box()) {
+    if (box_.title != title) {
+        throw NotSeen("\"" + box_.title + "\" in place of \"" + title + "\"");
+    }
+}
+
+void FileDialog::pick(const std::string& path) const {
+    Form(box_.window).fill(0, path);
+    box_.press("Open");
 }
 
 } // namespace e2e
