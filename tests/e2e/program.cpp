@@ -71,6 +71,8 @@ bool Program::hasForm(const std::string& captionPart) const {
 }
 
 Form Program::form(const std::string& captionPart) const {
+    // A window shows before its program is ready for a click.
+    WaitForInputIdle(process_.hProcess, answerTime);
     std::optional<HWND> window;
     if (!comesTrue([&] { return (window = formNow(captionPart)).has_value(); })) {
         throw NotSeen("no window \"" + captionPart + "\"; " + describe());
