@@ -215,7 +215,7 @@ void settings(string_view input) {
     const string algo = file.getSetting("algo");
     demand(algo.size() != 1 && contains(parts[1] + "=\r\n", "=" + algo + "\r\n"), "a setting ends a line");
     pc.app.start();
-    const bool hides = run == "/r" || run == "/s" || run == "/a" || pc.app.globals.baselines.primaryBuild;
+    const bool hides = run == "/r" || run == "/s" || run == "/a" || pc.app.globals.baselines.primaryScan;
     demand(pc.app.mForm1.Visible() != hides, "a switch or a first scan hides the main window");
     pc.messages.advance(1000);
     pc.app.mForm1.Check9.setValue(1);
