@@ -7,7 +7,6 @@ namespace tarvelon {
 
 namespace {
 
-constexpr std::intptr_t lastFailure = 32;
 constexpr std::intptr_t success = 42;
 
 } // namespace
