@@ -59,7 +59,11 @@ public:
     virtual std::optional<std::uint64_t> length(const std::string& path) = 0;
 
     /// Copies over an existing `to`.
+    /// A copy that breaks off may leave `to` lost or half-written.
     virtual bool copy(const std::string& from, const std::string& to) = 0;
+    /// Gives a file another name in its folder, that of another file too, which is then gone; but a read-only
+    /// one stays, and the move fails. On failure both are as they were.
+    virtual bool move(const std::string& from, const std::string& to) = 0;
     virtual bool remove(const std::string& path) = 0;
     virtual bool createFolder(const std::string& path) = 0;
 

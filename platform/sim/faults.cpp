@@ -1,5 +1,7 @@
 #include "platform/sim/faults.h"
 
+#include <algorithm>
+
 namespace tarvelon {
 
 void Faults::failNth(Operation operation, int n) {
@@ -13,6 +15,9 @@ void Faults::failAlways(Operation operation) {
 void Faults::clear(Operation operation) {
     plan(operation).failingCall = 0;
     plan(operation).always = false;
+    if (operation == Operation::FillDisk) {
+        room_.reset();
+    }
 }
 
 int Faults::calls(Operation operation) const {
@@ -23,6 +28,26 @@ bool Faults::strikes(Operation operation) {
     Plan& chosen = plan(operation);
     ++chosen.calls;
     return chosen.always || chosen.calls == chosen.failingCall;
+}
+
+std::uint64_t Faults::roomFor(std::uint64_t bytes) {
+    if (bytes == 0) {
+        return 0;
+    }
+    if (strikes(Operation::FillDisk) && !room_) {
+        room_ = bytes / 2;
+    }
+    const std::uint64_t granted = std::min(bytes, room_.value_or(bytes));
+    if (room_) {
+        *room_ -= granted;
+    }
+    return granted;
+}
+
+void Faults::giveBack(std::uint64_t bytes) {
+    if (room_) {
+        *room_ += bytes;
+    }
 }
 
 } // namespace tarvelon

@@ -2,6 +2,8 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
+#include <optional>
 
 namespace tarvelon {
 
@@ -13,9 +15,13 @@ enum class Operation {
     LastWrite,
     ReadFile,
     WriteFile,
+    WriteFileHalf, ///< Half of the bytes reach the disk before the call fails.
+    FillDisk,      ///< The disk takes half of what the file is to grow by; from then on nothing grows.
     SetLength,
     LengthByName,
     CopyFile,
+    CopyFileHalf, ///< What stood there is gone, and half of the copy is in its place.
+    MoveFile,
     RemoveFile,
     CreateFolder,
     SearchTree,
@@ -57,6 +63,10 @@ public:
 
     /// For the simulated services: notes the call, and tells whether it is to fail.
     bool strikes(Operation operation);
+    /// For the simulated files, of which one is to grow: by how many bytes the disk lets it.
+    std::uint64_t roomFor(std::uint64_t bytes);
+    /// A file has given bytes up.
+    void giveBack(std::uint64_t bytes);
 
 private:
     struct Plan {
@@ -67,6 +77,7 @@ private:
     Plan& plan(Operation operation) { return plans_[static_cast<std::size_t>(operation)]; }
 
     std::array<Plan, static_cast<std::size_t>(Operation::count_)> plans_{};
+    std::optional<std::uint64_t> room_; ///< On a disk that has been filled.
 };
 
 } // namespace tarvelon

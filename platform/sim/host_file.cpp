@@ -5,6 +5,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
+
 namespace tarvelon {
 
 HostFile::HostFile(int descriptor, Faults& faults)
@@ -55,7 +57,14 @@ bool HostFile::writeAt(std::uint64_t position, std::string_view bytes) {
     if (faults_.strikes(Operation::WriteFile)) {
         return false;
     }
-    while (!bytes.empty()) {
+    const std::uint64_t end = hostLength();
+    const std::uint64_t growth = position + bytes.size() > end ? position + bytes.size() - end : 0;
+    std::size_t fitting = bytes.size() - static_cast<std::size_t>(growth - faults_.roomFor(growth));
+    if (faults_.strikes(Operation::WriteFileHalf)) {
+        fitting = std::min(fitting, bytes.size() / 2);
+    }
+    const bool whole = fitting == bytes.size();
+    for (bytes = bytes.substr(0, fitting); !bytes.empty();) {
         const ssize_t put = ::pwrite(descriptor_, bytes.data(), bytes.size(), static_cast<off_t>(position));
         if (put <= 0) {
             return false;
@@ -63,12 +72,29 @@ bool HostFile::writeAt(std::uint64_t position, std::string_view bytes) {
         bytes.remove_prefix(static_cast<std::size_t>(put));
         position += static_cast<std::uint64_t>(put);
     }
-    return true;
+    return whole;
 }
 
 bool HostFile::setLength(std::uint64_t length) {
-    return !faults_.strikes(Operation::SetLength) &&
-           ::ftruncate(descriptor_, static_cast<off_t>(length)) == 0;
+    const std::uint64_t old = hostLength();
+    if (faults_.strikes(Operation::SetLength) ||
+        (length > old && faults_.roomFor(length - old) < length - old) ||
+        ::ftruncate(descriptor_, static_cast<off_t>(length)) != 0) {
+        return false;
+    }
+    faults_.giveBack(old > length ? old - length : 0);
+    return true;
+}
+
+bool HostFile::empty() {
+    faults_.giveBack(hostLength());
+    return ::ftruncate(descriptor_, 0) == 0;
+}
+
+std::uint64_t HostFile::hostLength() const {
+    struct stat status {};
+    ::fstat(descriptor_, &status);
+    return static_cast<std::uint64_t>(status.st_size);
 }
 
 } // namespace tarvelon

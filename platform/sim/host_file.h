@@ -18,7 +18,12 @@ public:
     bool writeAt(std::uint64_t position, std::string_view bytes) override;
     bool setLength(std::uint64_t length) override;
 
+    /// Cuts the file to nothing, past all faults.
+    bool empty();
+
 private:
+    std::uint64_t hostLength() const;
+
     int descriptor_;
     Faults& faults_;
 };

@@ -32,14 +32,19 @@ bool exists(const std::string& host) {
     return ::stat(host.c_str(), &status) == 0;
 }
 
+/// 0 for what is not there.
+std::uint64_t lengthOf(const std::string& host) {
+    struct stat status;
+    return ::stat(host.c_str(), &status) == 0 ? static_cast<std::uint64_t>(status.st_size) : 0;
+}
+
 int openFlags(OpenMode mode) {
     switch (mode) {
     case OpenMode::Read:
         return O_RDONLY;
     case OpenMode::ReadOrCreate:
-        return O_RDWR;
     case OpenMode::Create:
-        return O_RDWR | O_TRUNC;
+        return O_RDWR;
     }
     return O_RDONLY;
 }
@@ -166,6 +171,9 @@ std::unique_ptr<OpenFile> SimFiles::open(const std::string& path, OpenMode mode)
         return nullptr;
     }
     auto file = std::make_unique<HostFile>(descriptor, faults_);
+    if (mode == OpenMode::Create && !file->empty()) {
+        return nullptr;
+    }
     if (mode == OpenMode::Read && isFolder(descriptor)) {
         return nullptr; // The host opens folders for reading; the system does not.
     }
@@ -206,9 +214,14 @@ bool SimFiles::copy(const std::string& from, const std::string& to) {
     }
     std::ifstream in(*foundSource, std::ios::binary);
     const std::string bytes(std::istreambuf_iterator<char>(in), {});
+    faults_.giveBack(lengthOf(*foundTarget));
+    std::uint64_t fitting = faults_.roomFor(bytes.size());
+    if (faults_.strikes(Operation::CopyFileHalf)) {
+        fitting = std::min<std::uint64_t>(fitting, bytes.size() / 2);
+    }
     std::ofstream out(*foundTarget, std::ios::binary | std::ios::trunc);
-    out << bytes << std::flush;
-    if (!in || !out) {
+    out.write(bytes.data(), static_cast<std::streamsize>(fitting)).flush();
+    if (!in || !out || fitting < bytes.size()) {
         return false;
     }
     // A copy keeps the time of the last write.
@@ -222,7 +235,32 @@ bool SimFiles::remove(const std::string& path) {
         return false;
     }
     const auto found = find(*asked);
-    return found && ::unlink(found->c_str()) == 0;
+    const std::uint64_t length = found ? lengthOf(*found) : 0;
+    if (!found || ::unlink(found->c_str()) != 0) {
+        return false;
+    }
+    faults_.giveBack(length);
+    return true;
+}
+
+bool SimFiles::move(const std::string& from, const std::string& to) {
+    const auto source = place(from);
+    const auto target = place(to);
+    if (faults_.strikes(Operation::MoveFile) || !source || !target || isLocked(from) || isLocked(to) ||
+        isReadOnly(to)) {
+        return false;
+    }
+    const auto foundSource = find(*source);
+    const auto foundTarget = find(*target, true);
+    if (!foundSource || !foundTarget || isFolder(*foundSource) || isFolder(*foundTarget)) {
+        return false;
+    }
+    const std::uint64_t replaced = *foundSource == *foundTarget ? 0 : lengthOf(*foundTarget);
+    if (::rename(foundSource->c_str(), foundTarget->c_str()) != 0) {
+        return false;
+    }
+    faults_.giveBack(replaced);
+    return true;
 }
 
 bool SimFiles::createFolder(const std::string& path) {

@@ -47,6 +47,7 @@ public:
     std::unique_ptr<OpenFile> open(const std::string& path, OpenMode mode) override;
     std::optional<std::uint64_t> length(const std::string& path) override;
     bool copy(const std::string& from, const std::string& to) override;
+    bool move(const std::string& from, const std::string& to) override;
     bool remove(const std::string& path) override;
     bool createFolder(const std::string& path) override;
     bool searchTreeForFile(const std::string& root, const std::string& name, char* buffer) override;

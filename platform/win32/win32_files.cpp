@@ -51,6 +51,17 @@ bool Win32Files::copy(const std::string& from, const std::string& to) {
     return CopyFileA(from.c_str(), to.c_str(), FALSE) != FALSE;
 }
 
+bool Win32Files::move(const std::string& from, const std::string& to) {
+    if (MoveFileExA(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING)) {
+        return true;
+    }
+    if (GetLastError() != ERROR_CALL_NOT_IMPLEMENTED) {
+        return false;
+    }
+    DeleteFileA(to.c_str()); // Windows 98 knows only the way in two steps.
+    return MoveFileA(from.c_str(), to.c_str()) != FALSE;
+}
+
 bool Win32Files::remove(const std::string& path) {
     return DeleteFileA(path.c_str()) != FALSE;
 }

@@ -7,6 +7,7 @@ namespace tarvelon {
 namespace {
 
 using testing::ElementsAre;
+using testing::StrCaseEq;
 
 constexpr OpenMode allModes[] = {OpenMode::Read, OpenMode::ReadOrCreate, OpenMode::Create};
 
@@ -104,6 +105,13 @@ TEST_F(Contract, CopyAndRemove) {
     EXPECT_FALSE(files.copy(folder + "from", folder + "FROM")) << "Onto itself";
     EXPECT_EQ(get(folder + "to"), "new content");
 
+    EXPECT_TRUE(files.move(folder + "from", folder + "TO")) << "In the other's place";
+    EXPECT_THAT(list(folder), ElementsAre(".", "..", StrCaseEq("to")));
+    EXPECT_EQ(get(folder + "to"), "new content");
+    EXPECT_FALSE(files.move(folder + "from", folder + "to")) << "It is not there any more";
+    EXPECT_FALSE(files.move(folder + "to", folder + "no folder\\to"));
+    EXPECT_TRUE(files.move(folder + "to", folder + "from")) << "To a new name";
+
     EXPECT_TRUE(files.remove(folder + "from"));
     EXPECT_FALSE(files.remove(folder + "from"));
     EXPECT_FALSE(files.open(folder + "from", OpenMode::Read));
@@ -119,6 +127,7 @@ TEST_F(Contract, ReadOnlyFilesAreOnlyRead) {
         GTEST_SKIP() << "this user may write read-only files here";
     }
     EXPECT_FALSE(files.copy(folder + "from", folder + "kept"));
+    EXPECT_FALSE(files.move(folder + "from", folder + "kept"));
     for (const OpenMode mode : {OpenMode::ReadOrCreate, OpenMode::Create}) {
         EXPECT_FALSE(files.open(folder + "kept", mode));
     }
@@ -151,6 +160,7 @@ TEST_F(Contract, FilesAreSharedUnlessSomeoneLocksThem) {
     }
     EXPECT_EQ(files.length(folder + "f"), 6u) << "Told without opening";
     EXPECT_FALSE(files.copy(folder + "f", folder + "g"));
+    EXPECT_FALSE(files.move(folder + "f", folder + "g"));
     EXPECT_FALSE(files.remove(folder + "f"));
     lock.reset();
     EXPECT_EQ(get(folder + "f"), "SHared");
