@@ -26,10 +26,17 @@ std::string_view GapText::piece(std::size_t position, std::size_t length) {
 
 void GapText::replace(std::size_t position, std::size_t length, std::string_view with) {
     moveGap(position);
+    changedAt_ = position;
+    putLength_ = with.size();
+    taken_.assign(room_, gapEnd_, length);
     gapEnd_ += length;
     widenGap(with.size());
     with.copy(room_.data() + gapStart_, with.size());
     gapStart_ += with.size();
+}
+
+void GapText::undo() {
+    replace(changedAt_, putLength_, std::string(taken_));
 }
 
 void GapText::moveGap(std::size_t position) {

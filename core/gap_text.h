@@ -20,6 +20,8 @@ public:
 
     /// `with` must not lie in this text.
     void replace(std::size_t position, std::size_t length, std::string_view with);
+    /// Takes the last `replace` back.
+    void undo();
 
 private:
     void moveGap(std::size_t position);
@@ -28,6 +30,9 @@ private:
     std::string room_; ///< The text, with the gap inside.
     std::size_t gapStart_ = 0;
     std::size_t gapEnd_ = 0;
+    std::size_t changedAt_ = 0;
+    std::size_t putLength_ = 0; ///< What stands there since the last replacement,
+    std::string taken_;         ///< and what stood there before.
 };
 
 } // namespace tarvelon

@@ -23,7 +23,7 @@ bool ProfileFiles::write(const std::string& path, const std::string& section, co
         const std::size_t oldLength = image_.size();
         const std::size_t changed = image_.write(section, key, value);
         if (!writeFrom(*file, changed, oldLength)) {
-            path_.clear();
+            putBack(*file, changed);
             return false;
         }
     }
@@ -60,10 +60,28 @@ bool ProfileFiles::refresh(const std::string& path, OpenFile& file) {
 }
 
 bool ProfileFiles::writeFrom(OpenFile& file, std::size_t position, std::size_t oldLength) {
-    if (!file.writeAt(position, image_.from(position))) {
+    if (image_.size() >= oldLength) {
+        return file.writeAt(position, image_.from(position));
+    }
+    // Line ends fill a shorter text up to the old length: before they are cut off, and should that fail, they
+    // are empty lines, and no piece of the old text stands behind the new one.
+    std::string filled(image_.from(position));
+    filled.resize(oldLength - position, '\n');
+    if (!file.writeAt(position, filled)) {
         return false;
     }
-    return image_.size() >= oldLength || file.setLength(image_.size());
+    if (!file.setLength(image_.size())) {
+        path_.clear();
+    }
+    return true;
+}
+
+/// The disk has room for the old bytes, since they had their place on it.
+void ProfileFiles::putBack(OpenFile& file, std::size_t position) {
+    image_.undo();
+    path_.clear();
+    file.writeAt(position, image_.from(position));
+    file.setLength(image_.size());
 }
 
 } // namespace tarvelon

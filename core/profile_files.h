@@ -24,9 +24,10 @@ public:
     /// Empty when the file, the section or the key is not there.
     std::string read(const std::string& path, const std::string& section, const std::string& key);
 
-    /// On the disk when the call returns. A missing file is made. False when the file cannot be opened, and
-    /// it then holds what it held; false as well when the write breaks off, as on a full disk, and its end is
-    /// then uncertain.
+    /// On the disk when the call returns. A missing file is made. The change is one write, so that a process
+    /// that is killed leaves the file as it was or as it is to be. False when that fails, and the file then
+    /// holds what it held: of a write that broke off, as on a full disk, the old bytes are put back where
+    /// they were, and only a disk that refuses that too leaves an uncertain end.
     bool write(const std::string& path, const std::string& section, const std::string& key,
                const std::string& value);
 
@@ -41,6 +42,7 @@ private:
     static std::optional<Stamp> stampOf(OpenFile& file);
     bool refresh(const std::string& path, OpenFile& file);
     bool writeFrom(OpenFile& file, std::size_t position, std::size_t oldLength);
+    void putBack(OpenFile& file, std::size_t position);
 
     Files& files_;
     ProfileImage image_;

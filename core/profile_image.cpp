@@ -107,6 +107,11 @@ std::size_t ProfileImage::write(std::string_view section, std::string_view key, 
     return position;
 }
 
+void ProfileImage::undo() {
+    text_.undo();
+    parsed_ = false;
+}
+
 void ProfileImage::replaceValue(Place place, std::size_t start, std::string_view value) {
     const std::string_view old = text_.piece(start, lineLength(place));
     const std::size_t oldLength = old.size();

@@ -35,6 +35,8 @@ public:
     /// blank, or adds section and key at the end. Gives the position of the first byte that may have changed;
     /// everything behind it may have moved.
     std::size_t write(std::string_view section, std::string_view key, std::string_view value);
+    /// Takes the last `write` back, byte for byte.
+    void undo();
 
 private:
     /// A section head and what stands behind it up to the next one; what stands in front of the first head is

@@ -169,6 +169,29 @@ TEST_F(ProfileOnDisk, AFailedWriteLosesNothing) {
         EXPECT_EQ(workstation.files.get(path), before);
         EXPECT_EQ(fresh.read(path, "A", "k"), "1") << "What was not written is not believed";
     }
+    struct Broken {
+        Operation how;
+        const char* key;
+        const char* value;
+    };
+    for (const auto& [how, key, value] : {Broken{Operation::WriteFileHalf, "k", "a longer value"},
+                                          {Operation::WriteFileHalf, "long", ""},
+                                          {Operation::WriteFileHalf, "new", "1"},
+                                          {Operation::FillDisk, "k", "a longer value"},
+                                          {Operation::FillDisk, "new", "1"}}) {
+        workstation.faults.failNth(how, 1);
+        EXPECT_FALSE(profiles.write(path, "A", key, value));
+        EXPECT_EQ(workstation.files.get(path), before) << key << "=" << value;
+        EXPECT_EQ(profiles.read(path, "A", "long"), "0123456789");
+        workstation.faults.clear(how);
+    }
+    workstation.faults.failNth(Operation::SetLength, 1);
+    EXPECT_TRUE(profiles.write(path, "A", "long", ""));
+    EXPECT_EQ(workstation.files.get(path), "[A]\r\nk=1\r\nlong=\r\n" + std::string(10, '\n'))
+        << "Nothing of the old text stands behind the new one";
+    EXPECT_TRUE(profiles.write(path, "A", "long", "0123456789"));
+    EXPECT_EQ(profiles.read(path, "A", "long"), "0123456789");
+    workstation.files.put(path, before);
     workstation.faults.failNth(Operation::LastWrite, 1);
     EXPECT_EQ(profiles.read(path, "A", "k"), "1");
     EXPECT_TRUE(profiles.write(path, "A", "k", "3"));
