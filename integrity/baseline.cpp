@@ -63,6 +63,15 @@ std::string blankText(const SectionLists& lists) {
     return text;
 }
 
+/// Fills a file in that was made empty for the walk. It goes when that fails: a file that stands counts as
+/// scanned, and the next start would not ask for the scan.
+void writeBlank(Files& files, const std::string& path, const SectionLists& lists) {
+    if (!writeWholeFile(files, path, blankText(lists))) {
+        files.remove(path);
+        throw Failure("The data file cannot be written:\r\n" + path);
+    }
+}
+
 } // namespace
 
 Baseline::Baseline(Globals& globals, Platform& platform, DataFile& dataFile, const Utilities& utilities,
@@ -107,7 +116,7 @@ void Baseline::restoreOrRestart(const std::string& backup) {
          .title = "Missing Integrity.dat file",
          .buttons = Buttons::YesNo});
     if (answer == Answer::Yes) {
-        if (!platform_.files.copy(backup, globals_.app.intFile)) {
+        if (!copyWholeFile(platform_.files, backup, globals_.app.intFile)) {
             throw Failure("The backup cannot be restored to:\r\n" + globals_.app.intFile);
         }
         return;
@@ -126,9 +135,7 @@ void Baseline::buildPrimary() {
     const SectionLists lists = walk(globals_, platform_, trim(utilities_.getSysDir()));
     mForm1_.Caption = "Saving...";
     platform_.messages.pump();
-    if (!writeWholeFile(platform_.files, path, blankText(lists))) {
-        throw Failure("The data file cannot be written:\r\n" + path);
-    }
+    writeBlank(platform_.files, path, lists);
     mForm1_.hide();
     globals_.baselines.primaryScan = true;
     hooks.showScan();
@@ -153,9 +160,7 @@ bool Baseline::buildCustomDat(std::string folder, const std::string& datFile, co
         throw Failure("The data file cannot be made:\r\n" + datFile);
     }
     folder = withBackslash(std::move(folder));
-    if (!writeWholeFile(platform_.files, datFile, blankText(walk(globals_, platform_, folder)))) {
-        throw Failure("The data file cannot be written:\r\n" + datFile);
-    }
+    writeBlank(platform_.files, datFile, walk(globals_, platform_, folder));
     if (globals_.app.autoLoadRun) {
         return true;
     }

@@ -54,7 +54,9 @@ DataFile::DataFile(Globals& globals, Platform& platform, SettingsFile& settings,
     , utilities_(utilities) {}
 
 void DataFile::loadIntFile(const std::string& path) {
+    intFileRead_ = false;
     load(path, globals_.baselines.sectionText, globals_.baselines.sectionName);
+    intFileRead_ = true;
 }
 
 void DataFile::loadCustomDat(const std::string& path) {
@@ -65,7 +67,7 @@ void DataFile::loadCustomDat(const std::string& path) {
                                        .title = ".Dat file Missing!",
                                        .buttons = Buttons::YesNo});
         if (answer == Answer::Yes) {
-            demand(platform_.files.copy(backup, path), "The backup cannot be copied to:", path);
+            demand(copyWholeFile(platform_.files, backup, path), "The backup cannot be copied to:", path);
         }
     }
     if (!utilities_.fileThere(path)) {
@@ -117,6 +119,8 @@ std::string DataFile::entry(const Blocks& blocks, std::optional<std::size_t> num
 }
 
 void DataFile::saveIntFile() {
+    // What could not be read is empty in memory, and must not take the place of the whole file.
+    demand(intFileRead_, "The data file could not be read, and is left as it is:", globals_.app.intFile);
     save(globals_.app.intFile, globals_.app.appPath + "Data\\integrity.bak", globals_.baselines.sectionText);
 }
 
@@ -125,19 +129,12 @@ void DataFile::saveCustomDat(const std::string& path) {
 }
 
 void DataFile::save(const std::string& path, const std::string& backup, const Blocks& blocks) {
-    Files& files = platform_.files;
-    demand(files.copy(path, backup), "The data file cannot be backed up:", path);
-    demand(files.remove(path), "The data file cannot be replaced:", path);
+    demand(copyWholeFile(platform_.files, path, backup), "The data file cannot be backed up:", path);
     std::string text = dataFileHeader;
     for (const EntryBlock& block : blocks) {
         text += block.text();
     }
-    if (!writeWholeFile(files, path, text)) {
-        // A full disk must not cost the baseline: half a file would pass for a whole one at the next start.
-        files.remove(path);
-        files.copy(backup, path);
-        throw Failure("The data file cannot be written:\r\n" + path);
-    }
+    demand(writeWholeFile(platform_.files, path, text), "The data file cannot be replaced:", path);
 }
 
 } // namespace tarvelon

@@ -41,7 +41,8 @@ public:
     std::string getCustomEntry(const std::string& key, const std::string& section) const;
 
     /// Rewrites the system baseline from memory and keeps the old file as "Data\integrity.bak", under every
-    /// algorithm. Throws `Failure` at the first step that fails.
+    /// algorithm. Throws `Failure` at the first step that fails, with the baseline on the disk whole, and
+    /// when the last `loadIntFile` failed.
     void saveIntFile();
 
     /// The same for a custom folder's baseline; its backup lies beside it.
@@ -59,6 +60,7 @@ private:
     Platform& platform_;
     SettingsFile& settings_;
     const Utilities& utilities_;
+    bool intFileRead_ = false; ///< The system baseline in memory is that of the disk, changes aside.
 };
 
 } // namespace tarvelon

@@ -71,7 +71,7 @@ TEST_F(DataFiles, SavingKeepsTheOldFileAndLosesNothingWhenItFails) {
     pc.faults.failNth(Operation::CopyFile, 1);
     EXPECT_THROW(app->dataFile.saveIntFile(), Failure);
     EXPECT_EQ(file(dataFolder + "Integrity.dat"), saved);
-    pc.faults.failNth(Operation::RemoveFile, 1);
+    pc.faults.failNth(Operation::MoveFile, 2);
     EXPECT_THROW(app->dataFile.saveIntFile(), Failure);
     EXPECT_EQ(file(dataFolder + "Integrity.dat"), saved);
 }

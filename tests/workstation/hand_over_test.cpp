@@ -180,12 +180,15 @@ TEST_F(HandOver, AFailingUpdateNeverCostsTheBaseline) {
     makeBaseline();
     configure("0,0");
     const std::string before = file(dataFolder + "Integrity.dat");
-    const std::pair<Operation, const char*> faults[] = {
-        {Operation::CopyFile, "copy"}, {Operation::RemoveFile, "remove"}, {Operation::WriteFile, "write"}};
+    const std::pair<Operation, const char*> faults[] = {{Operation::CopyFile, "copy"},
+                                                        {Operation::CopyFileHalf, "half a copy"},
+                                                        {Operation::WriteFile, "write"},
+                                                        {Operation::FillDisk, "full disk"}};
     for (const auto& [operation, name] : faults) {
         findBoth();
         pc.faults.failNth(operation, 1);
         app->intCheck.Label12.click();
+        pc.faults.clear(operation);
         EXPECT_EQ(file(dataFolder + "Integrity.dat"), before) << name;
     }
     findBoth();
