@@ -70,7 +70,10 @@ void SettingsFile::checkSettFile() {
     if (platform_.files.open(path, OpenMode::Read)) {
         return;
     }
-    if (!writeWholeFile(platform_.files, path, newSettings())) {
+    // What is there is not made anew, though another program may keep it to itself for the moment: it holds
+    // what the user has chosen.
+    const bool isThere = platform_.files.length(path).value_or(0) > 0;
+    if (isThere || !writeWholeFile(platform_.files, path, newSettings())) {
         throw Failure("The settings file cannot be made:\r\n" + path);
     }
 }

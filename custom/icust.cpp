@@ -248,7 +248,11 @@ void ICust::Command3_Click() {
     passOver([&] { settings.checkSettFile(); });
     for (int row = 0; row < folderSlots; ++row) {
         const std::string slot = std::to_string(row + 1);
-        settings.writeEntry(file, "path", isEmptyRow(row) ? "NULL" : folderOf(row), slot);
+        const std::string folder = isEmptyRow(row) ? "NULL" : folderOf(row);
+        if (folder.empty()) {
+            continue; // It could not be read when the window opened, and the file keeps what it has.
+        }
+        settings.writeEntry(file, "path", folder, slot);
         settings.writeEntry(file, "args", screen_.List3.item(row), slot);
         settings.writeEntry(file, "args2", screen_.List5.item(row), slot);
     }

@@ -65,10 +65,12 @@ void clsHash::CreateHash() {
 }
 
 void clsHash::CalculateFile3(const std::string& path, const std::string& /*label*/) {
-    const auto take = [this](std::span<const unsigned char> bytes) {
-        platform_.crypto.hashData(hash_, bytes.data(), bytes.size());
+    bool tookAll = true;
+    const auto take = [this, &tookAll](std::span<const unsigned char> bytes) {
+        tookAll = platform_.crypto.hashData(hash_, bytes.data(), bytes.size()) && tookAll;
     };
-    if (reader_.read(path, take)) {
+    // A digest of a part would pass for that of the file.
+    if (reader_.read(path, take) && tookAll) {
         ReadDigest();
     }
 }

@@ -70,7 +70,9 @@ void DataFile::loadCustomDat(const std::string& path) {
             demand(copyWholeFile(platform_.files, backup, path), "The backup cannot be copied to:", path);
         }
     }
-    if (!utilities_.fileThere(path)) {
+    // A file that is there and cannot be opened at the moment is not missing, and no blank one takes its
+    // place.
+    if (!utilities_.fileThere(path) && !platform_.files.length(path)) {
         // The number is all that stands between "Data\" and the first ".", so a name with an algorithm in it
         // ("7-md5") is no slot of the settings, and the folder comes out empty.
         const std::string number = getBetween(globals_.cases, path, 1, "Data\\", ".");

@@ -38,6 +38,9 @@ struct ExpectedChoice {
 /// `UnexpectedQuestion`, and is remembered even if someone catches that.
 class SimDialogs : public Dialogs {
 public:
+    /// When set, answers every box in place of the script.
+    std::function<Answer(const MessageBox&)> answerer;
+
     void expect(ExpectedBox box) { boxes_.push_back(std::move(box)); }
     void expectOpenFile(ExpectedChoice choice) { openFiles_.push_back(std::move(choice)); }
     void expectFolder(ExpectedChoice choice) { folders_.push_back(std::move(choice)); }

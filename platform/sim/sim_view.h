@@ -16,6 +16,8 @@ public:
     explicit SimView(const SimClock& clock);
 
     void attach(Screen& screen);
+    /// The program has gone, and its timers with it.
+    void forgetTimers() { running_.clear(); }
 
     /// When the earliest running timer is due, in the clock's milliseconds; empty without one.
     std::optional<std::int64_t> nextDue() const;

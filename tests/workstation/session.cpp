@@ -9,6 +9,7 @@ void Session::TearDown() {
 
 bool Session::start(const std::string& arguments) {
     app.reset();
+    pc.view.forgetTimers();
     pc.processes.arguments = arguments;
     app = std::make_unique<Application>(pc.platform());
     for (Screen* screen : app->screens()) {
