@@ -121,8 +121,15 @@ void Sequence::PreShut1() {
     globals_.app.autoLoadRun = true;
     logoff_.hide();
     status("Scanning Files...");
-    passOver(hooks.loadUp);
+    bool planned = false;
+    passOver([&] {
+        hooks.loadUp();
+        planned = true;
+    });
     sProg_.show();
+    if (!planned && globals_.app.shutAction != -1) {
+        passOver([this] { PreShut2(); }); // No scan's end will bring it.
+    }
 }
 
 void Sequence::PreShut2() {
