@@ -55,8 +55,9 @@ DataFile::DataFile(Globals& globals, Platform& platform, SettingsFile& settings,
 
 void DataFile::loadIntFile(const std::string& path) {
     intFileRead_ = false;
-    load(path, globals_.baselines.sectionText, globals_.baselines.sectionName);
+    const std::string text = read(path);
     intFileRead_ = true;
+    fill(text, globals_.baselines.sectionText, globals_.baselines.sectionName);
 }
 
 void DataFile::loadCustomDat(const std::string& path) {
@@ -81,20 +82,23 @@ void DataFile::loadCustomDat(const std::string& path) {
             buildCustomDat(folder, path, number);
         }
     }
-    load(path, globals_.baselines.customText, globals_.baselines.customName);
+    fill(read(path), globals_.baselines.customText, globals_.baselines.customName);
 }
 
-void DataFile::load(const std::string& path, Blocks& blocks, Names& names) {
+std::string DataFile::read(const std::string& path) const {
     auto file = platform_.files.open(path, OpenMode::ReadOrCreate);
     if (!file) {
         file = platform_.files.open(path, OpenMode::Read);
     }
     const auto text = file ? readAll(*file) : std::nullopt;
-    file.reset();
     if (!text) {
         throw Failure("The data file cannot be read:\r\n" + path);
     }
-    const std::size_t found = cut(*text, blocks, names);
+    return *text;
+}
+
+void DataFile::fill(const std::string& text, Blocks& blocks, Names& names) const {
+    const std::size_t found = cut(text, blocks, names);
     // Only behind the last block: a scan that runs in one of these pumps may load the file anew, and what it
     // loaded must not be mixed with the text read before.
     for (std::size_t n = 1; n < found; ++n) {

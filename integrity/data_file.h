@@ -52,7 +52,8 @@ private:
     using Blocks = std::array<EntryBlock, sectionCount>;
     using Names = std::array<std::string, sectionCount>;
 
-    void load(const std::string& path, Blocks& blocks, Names& names);
+    std::string read(const std::string& path) const;
+    void fill(const std::string& text, Blocks& blocks, Names& names) const;
     void save(const std::string& path, const std::string& backup, const Blocks& blocks);
     std::string entry(const Blocks& blocks, std::optional<std::size_t> number, const std::string& key) const;
 
