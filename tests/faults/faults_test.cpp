@@ -1,0 +1,317 @@
+// Each way of using the program, with every call of the platform failing: once at each place where it is
+// made, and then always. Nothing crashes or hangs, no file suffers, and the next start finds a way on.
+
+#include "tests/workstation/session.h"
+
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <regex>
+#include <set>
+
+namespace tarvelon {
+namespace {
+
+namespace fs = std::filesystem;
+using namespace std::string_literals;
+
+using Folder = std::map<std::string, std::string>;
+
+const std::string runKey = R"(Software\Microsoft\Windows\CurrentVersion\Run)";
+
+/// A small workstation with the program on it, and its user.
+struct Machine : Session {
+    explicit Machine(const Machine* like = nullptr) {
+        for (const char* file : {R"(C:\WINDOWS\system32\a.dll)", R"(C:\WINDOWS\system32\b.exe)",
+                                 R"(C:\av.exe)", R"(C:\Tools\t.dll)", R"(C:\More\m.dll)"}) {
+            pc.files.put(file, file);
+        }
+        pc.files.put(dataFolder + "integrity.bak", "");
+        pc.registry.setText(Registry::localMachine, runKey, "Updater", R"(C:\av.exe /min)");
+        pc.desktop.open({"Title", "Class", 8});
+        pc.messages.when([this] { return pc.messages.pumps() > 20'000; },
+                         [] { throw Hang("the program pumps without end"); });
+        pc.dialogs.answerer = [this](const MessageBox& box) {
+            told.insert(box.text);
+            const bool scan = box.text == firstRunQuestion || box.text.starts_with("You have not");
+            const bool yes = scan ? isNew : !isNew || !box.text.starts_with("Your Integrity.dat");
+            return box.buttons != Buttons::YesNo ? Answer::Ok : yes ? Answer::Yes : Answer::No;
+        };
+        if (like) {
+            fs::copy(like->pc.files.hostPath("C:\\"), pc.files.hostPath("C:\\"),
+                     fs::copy_options::recursive | fs::copy_options::overwrite_existing);
+        }
+    }
+    void TestBody() override {}
+
+    /// Settings, first scans of the system and of one folder, old reports.
+    void live(bool md5) {
+        std::string settings =
+            "[Tarvelon]\r\nsettings=1,1,1,1,1,1,"s + (md5 ? "1" : "0") +
+            ",1\r\nsettings2=1,1,1,1,1,1\r\nadvanced=65536,500,0\r\nantivirus=C:\\av.exe|/s\r\n"
+            "av2=C:\\av.exe|/2\r\nantivirus2=1,0,0\r\nalgo=" +
+            (md5 ? "md5" : "crc32") + "\r\n\r\n";
+        for (int slot = 1; slot <= folderSlots; ++slot) {
+            settings += "[" + std::to_string(slot) + "]\r\npath=NULL\r\n\r\n";
+        }
+        pc.files.put(dataFolder + "Tarvelon.dat", settings);
+        run("");
+        run("", [](Machine& m) { m.addFolder(1, R"(C:\Tools)"); });
+        pc.files.put(dataFolder + "Log\\03-05-2006(3_04_07PM).log", "Heading,C:\\av.exe\r\n");
+    }
+
+    /// Changed and new files, registry values, and files pending for the next boot.
+    void change() {
+        for (const char* file : {"WINDOWS\\system32\\a.dll", "WINDOWS\\system32\\c.sys", "Tools\\t.dll"}) {
+            pc.files.put("C:\\"s + file, "changed");
+        }
+        pc.files.put(R"(C:\WINDOWS\wininit.ini)", "[Rename]\r\nNUL=C:\\av.exe\r\n");
+        pc.registry.setText(Registry::localMachine, runKey, "Updater", R"(C:\Tools\t.dll)");
+        pc.registry.setText(Registry::localMachine, runKey, "New", R"(C:\av.exe /new)");
+        pc.registry.setValue(Registry::localMachine, R"(System\CurrentControlSet\Control\Session Manager)",
+                             "PendingFileRenameOperations", {SimRegistry::TextList, "\\??\\C:\\av.exe\0\0"s});
+    }
+
+    Folder data() const {
+        Folder folder;
+        for (const auto& entry : fs::recursive_directory_iterator(pc.files.hostPath(dataFolder))) {
+            if (entry.is_regular_file()) {
+                std::ifstream file(entry.path(), std::ios::binary);
+                folder[entry.path().filename()] = std::string(std::istreambuf_iterator<char>(file), {});
+            }
+        }
+        return folder;
+    }
+
+    /// One run until nothing happens any more, then what the user does, at most up to the process's end. An
+    /// open window that has gone, as for a new start, is opened again.
+    void run(const std::string& arguments, void (*use)(Machine&) = nothing) {
+        const bool ended = start(arguments) || settle() || ends([&] { use(*this); }) || settle();
+        if (ended && arguments.empty() && !start()) {
+            settle();
+        }
+    }
+
+    void addFolder(int slot, const std::string& path) {
+        click(app->mForm1.Image5, app->mForm1.addRem);
+        pc.dialogs.expectFolder({.title = "Please Choose a Folder to Add", .choice = path});
+        app->iCust.cButton2.click();
+        app->iCust.List1.select(slot - 1);
+        app->iCust.List2.setTicked(0, true);
+        app->iCust.List4.setTicked(0, true);
+        click(app->iCust.Check1, app->iCust.Check2, app->iCust.Command3);
+        app->mForm1.Combo1.select(slot);
+        settle();
+    }
+
+    static void nothing(Machine&) {}
+    void acceptFindings() { click(app->intCheck.Label2, app->intCheck.Label12, app->intCheck.Label12); }
+
+    template<class... Controls>
+    static void click(Controls&... controls) {
+        (controls.click(), ...);
+    }
+
+    using Session::app, Session::pc, Session::settle;
+    bool isNew = true; ///< The user wants first scans and no backups.
+    std::set<std::string> told;
+};
+
+void scanPage(Machine& m) {
+    m.click(m.app->mForm1.bFULL, m.app->mForm1.bSCAN);
+    m.settle();
+    m.acceptFindings();
+}
+
+void addAndRemoveFolders(Machine& m) {
+    m.addFolder(2, R"(C:\More)");
+    m.pc.files.put(R"(C:\More\m.dll)", "changed");
+    scanPage(m);
+    m.app->mForm1.addRem.click();
+    m.app->iCust.List1.select(0);
+    m.app->iCust.Command2.click();
+}
+
+void saveSettings(Machine& m) {
+    MForm1Screen& form = m.app->mForm1;
+    m.click(form.Image11, form.cSettings, form.Check1, form.Check2, form.cSave, form.cSave);
+    m.click(form.cButton2, form.Option2, form.wsh, form.cSave2, form.cCreateSS, form.cButton10);
+    m.app->s_avir.Text2.typed("/changed");
+    m.click(m.app->s_avir.cButton3, form.cButton4, form.cButton5, form.Label37, form.cUpdates);
+}
+
+void saveWizard(Machine& m) {
+    WizardScreen& form = m.app->vDct;
+    m.pc.dialogs.expectOpenFile({.title = "Choose Anti-Virus Executable File", .choice = R"(C:\av.exe)"});
+    m.click(m.app->mForm1.cSetW, form.locate, form.Command1, form.cButton1, form.aload, form.Command2);
+}
+
+void watchRegistry(Machine& m) {
+    MForm1Screen& form = m.app->mForm1;
+    m.click(form.Image7, form.Command1);
+    form.List5.select(1);
+    m.click(form.Command11, form.Command3, form.cScnUpd, form.cMod, form.Command11);
+}
+
+void readReports(Machine& m) {
+    MForm1Screen& form = m.app->mForm1;
+    m.click(form.Image9, form.ref);
+    form.lstOpenWindows.select(0);
+    m.click(form.act, form.cl, form.Image11, form.cReports);
+    if (const auto* node = form.TreeView2.find("03-05-2006|3:04:07 PM")) {
+        form.TreeView2.clickNode(*node);
+    }
+    m.click(form.cViewReport, form.cScnLog, form.cDelLog, form.cButton3);
+}
+
+void turnOff(Machine& m) {
+    m.app->frmLogoff.Image4.click();
+    m.pc.messages.advance(130'000);
+    EXPECT_FALSE(m.pc.power.calls().empty()) << "something has stopped the sequence";
+}
+
+struct Mode {
+    const char* name;
+    const char* arguments;
+    enum { None, Clean, Found, FoundUnderMd5 } past;
+    void (*use)(Machine&);
+};
+
+const Mode modes[] = {
+    {"FirstRun", "", Mode::None, Machine::nothing},
+    {"PageScan", "", Mode::Found, scanPage},
+    {"Folders", "", Mode::Clean, addAndRemoveFolders},
+    {"Settings", "", Mode::Clean, saveSettings},
+    {"Wizard", "", Mode::Clean, saveWizard},
+    {"Registry", "", Mode::Found, watchRegistry},
+    {"Reports", "", Mode::Clean, readReports},
+    {"LogOnClean", "/r", Mode::Clean, Machine::nothing},
+    {"LogOnByHand", "/r", Mode::Found, [](Machine& m) { m.acceptFindings(); }},
+    {"LogOnAutomatic", "/r", Mode::FoundUnderMd5, Machine::nothing},
+    {"ShutDown", "/s", Mode::Found, turnOff},
+    {"Scheduled", "/a", Mode::Found, Machine::nothing},
+};
+
+/// Of each line what stands behind the key, by its section and the key.
+Folder linesOf(const std::string& text) {
+    Folder lines;
+    std::string section;
+    for (std::size_t start = 0; start < text.size();) {
+        const std::size_t end = std::min(text.find("\r\n", start), text.size());
+        const std::string line = text.substr(start, end - start);
+        start = end + 2;
+        section = line.starts_with('[') ? line : section;
+        const std::size_t key = std::min(line.find('='), line.size());
+        if (line.find_first_not_of('\n') != std::string::npos) {
+            lines[section + "\n" + line.substr(0, key)] = line.substr(key);
+        }
+    }
+    return lines;
+}
+
+/// What the program writes for what it cannot read, what a page shows then, and the registry as it stands.
+const std::regex deliberate(R"(=(0|NULL|)\*E|= \([^()]*\)|=[^|]*\|.*|=C:.+\\|=\d+(,\d+)*)");
+
+/// What a failing machine has the program tell, beside what it tells anyway.
+const std::regex
+    told("(This (is your first|Custom)|You(r Int|r Anti| have| do| didn't| must)|Unable|Tarvelon "
+         "needs|Error|WARNING!"
+         "|Cannot |(Some|No) files|The (data|settings|backup|report|scanner|link|web|Help) )[^]*");
+
+struct Faulty : testing::TestWithParam<Mode> {
+    void use(Machine& machine) {
+        const Mode& mode = GetParam();
+        machine.isNew = mode.past == Mode::None;
+        if (mode.past > Mode::Clean) {
+            machine.change();
+        }
+        machine.run(mode.arguments, mode.use);
+    }
+
+    void learn(const Machine& machine, Folder& folder) {
+        folder = machine.data();
+        for (const auto& [name, text] : folder) {
+            for (const auto& [key, value] : linesOf(text)) {
+                known.insert({key, value});
+            }
+        }
+    }
+
+    /// Each key and each value stood there before or stands there after an undisturbed run; no key and no
+    /// file has gone.
+    void expectNoDamage(const Folder& now) {
+        for (const auto& [name, text] : before) {
+            EXPECT_TRUE(now.count(name) || !undisturbed.count(name)) << name << " has gone";
+        }
+        for (const auto& [name, text] : now) {
+            EXPECT_FALSE(name.ends_with(".new")) << name << " was left behind";
+            EXPECT_TRUE(text.ends_with("\n") || text.empty()) << name << " is cut";
+            if (name.ends_with(".log")) {
+                continue;
+            }
+            const Folder lines = linesOf(text);
+            for (const auto& [key, value] : lines) {
+                EXPECT_TRUE(known.count(key) && (known.count(value) || std::regex_match(value, deliberate)))
+                    << name << key << value;
+            }
+            for (const auto& [key, value] : linesOf(before.count(name) ? before.at(name) : "")) {
+                EXPECT_TRUE(lines.count(key)) << name << " has lost " << key;
+            }
+        }
+    }
+
+    void inject(const Machine& original, const Machine& clean, Operation operation, int call) {
+        Machine machine(&original);
+        call == 0 ? machine.pc.faults.failAlways(operation) : machine.pc.faults.failNth(operation, call);
+        ASSERT_NO_THROW(use(machine));
+        expectNoDamage(machine.data());
+        machine.pc.faults.clear(operation);
+        ASSERT_NO_THROW(machine.run(""));
+        EXPECT_TRUE(machine.app->mForm1.Visible());
+        EXPECT_EQ(machine.app->globals.baselines.sectionName.back(), "SCR");
+        EXPECT_NE(machine.app->settingsFile.getSetting("ADV"), "");
+        expectNoDamage(machine.data());
+        for (const std::string& text : machine.told) {
+            EXPECT_TRUE(clean.told.count(text) || std::regex_match(text, told)) << text;
+        }
+    }
+
+    Folder before, undisturbed;
+    std::set<std::string> known; ///< Keys with their sections, and values.
+};
+
+TEST_P(Faulty, NothingIsLost) {
+    Machine original;
+    if (GetParam().past != Mode::None) {
+        original.live(GetParam().past == Mode::FoundUnderMd5);
+    }
+    Machine clean(&original);
+    use(clean);
+    learn(original, before);
+    learn(clean, undisturbed);
+    known.insert(
+        "[LM/R]\nNew"); // A snapshot that cannot be opened is made anew, whatever the registry holds.
+    clean.app->globals.settings.algoName = ""; // In force when the settings cannot be read.
+    for (const char* file : {"a.dll", "b.exe", "c.sys"}) {
+        known.insert("=" + clean.app->checksum.getChecksum(systemFolder + file) + "*E");
+    }
+    int injected = 0;
+    for (int number = 0; number < static_cast<int>(Operation::count_); ++number) {
+        const auto operation = static_cast<Operation>(number);
+        const int calls = clean.pc.faults.calls(operation);
+        // A disk that never takes more than half of a write leaves no way to put anything right.
+        for (int call = operation == Operation::WriteFileHalf ? 1 : 0; calls > 0 && call <= calls;
+             ++call, ++injected) {
+            SCOPED_TRACE("operation " + std::to_string(number) + " at call " + std::to_string(call));
+            inject(original, clean, operation, call);
+        }
+    }
+    RecordProperty("faults", injected);
+    EXPECT_GT(injected, 50);
+}
+
+INSTANTIATE_TEST_SUITE_P(Each, Faulty, testing::ValuesIn(modes),
+                         [](const auto& mode) { return std::string(mode.param.name); });
+
+} // namespace
+} // namespace tarvelon
