@@ -15,7 +15,8 @@ public:
     /// Sleeps until a message may have come, for spins that would otherwise burn the processor.
     virtual void wait() = 0;
 
-    /// `GetQueueStatus`: not 0 when input of a kind in `flags` (QS_ bits) waits.
+    /// `GetQueueStatus`: not 0 when input of a kind in `flags` (QS_ bits) waits. Input of the last two
+    /// milliseconds may not be told of yet, so that long work can ask at every step.
     virtual std::uint32_t queueStatus(std::uint32_t flags) = 0;
 };
 

@@ -25,7 +25,7 @@ FormWindow::FormWindow(Screen& screen, ViewTools& tools)
     : screen_(screen)
     , tools_(tools) {
     createWindow();
-    createControls();
+    startTimers();
     applyVisible();
 }
 
@@ -55,6 +55,16 @@ SIZE FormWindow::outerSize() const {
     return {widthOf(frame), heightOf(frame)};
 }
 
+void FormWindow::startTimers() {
+    for (Control* control : screen_.controls()) {
+        if (control->kind() == ControlKind::Timer) {
+            timers_.push_back(static_cast<Timer*>(control));
+            applyTimer(*timers_.back());
+        }
+    }
+}
+
+/// Called when the form first comes to light: a run that never shows it does not pay for its windows.
 void FormWindow::createControls() {
     for (const Control* control : screen_.controls()) {
         if (control->kind() == ControlKind::NavButton && control->frame()) {
@@ -65,8 +75,6 @@ void FormWindow::createControls() {
     std::unordered_map<const Frame*, ControlKind> before;
     for (Control* control : screen_.controls()) {
         if (control->kind() == ControlKind::Timer) {
-            timers_.push_back(static_cast<Timer*>(control));
-            applyTimer(*timers_.back());
             continue;
         }
         std::unique_ptr<ControlWindow> made = makeControlWindow(*this, *control);
@@ -105,6 +113,10 @@ void FormWindow::changed(Aspect aspect) {
 }
 
 void FormWindow::changed(Control& control, Aspect aspect) {
+    const bool comesOrGoes = aspect == Aspect::Visible || aspect == Aspect::Enabled;
+    if (control.kind() == ControlKind::Frame && comesOrGoes && control.Visible() && control.Enabled()) {
+        pageShown_ = &control;
+    }
     if (control.kind() == ControlKind::Timer) {
         applyTimer(static_cast<const Timer&>(control));
     } else if (ControlWindow* window = windowOf(control)) {
@@ -116,6 +128,9 @@ void FormWindow::applyVisible() {
     if (!screen_.Visible()) {
         ShowWindow(window_, SW_HIDE);
         return;
+    }
+    if (controls_.empty()) {
+        createControls();
     }
     ShowWindow(window_, screen_.Minimized() ? SW_SHOWMINIMIZED : SW_SHOWNORMAL);
     if (!screen_.Minimized()) {

@@ -49,6 +49,7 @@ private:
     LRESULT handle(UINT message, WPARAM wide, LPARAM low);
 
     void createWindow();
+    void startTimers();
     void createControls();
     void arrange();
     void applyVisible();
@@ -67,7 +68,7 @@ private:
     HWND window_ = nullptr;
     HWND focusKept_ = nullptr; ///< Had the keyboard when the form was last left.
     bool focusLost_ = false;   ///< What had the keyboard can have it no longer.
-    HWND pageShown_ = nullptr; ///< The frame that came to light last.
+    const Control* pageShown_ = nullptr; ///< The frame that came to light last.
     std::unordered_set<const Frame*> navigation_;
     std::vector<std::unique_ptr<ControlWindow>> controls_;
     std::unordered_map<const Control*, ControlWindow*> byControl_;

@@ -99,9 +99,6 @@ void FormWindow::activated(bool active) {
 
 void FormWindow::followFocus(const ControlWindow& window) {
     const bool usable = window.control().Visible() && window.control().Enabled();
-    if (usable && window.control().kind() == ControlKind::Frame) {
-        pageShown_ = window.window();
-    }
     const HWND focus = GetFocus();
     if (!usable && focus && (focus == window.window() || IsChild(window.window(), focus))) {
         SetFocus(window_);
@@ -115,8 +112,9 @@ void FormWindow::giveFocus() {
         return;
     }
     HWND next = nullptr;
-    if (IsChild(window_, pageShown_) && IsWindowVisible(pageShown_)) {
-        next = GetNextDlgTabItem(pageShown_, nullptr, FALSE);
+    const ControlWindow* page = pageShown_ ? windowOf(*pageShown_) : nullptr;
+    if (page && IsWindowVisible(page->window())) {
+        next = GetNextDlgTabItem(page->window(), nullptr, FALSE);
     }
     if (!next) {
         next = GetNextDlgTabItem(window_, nullptr, FALSE);

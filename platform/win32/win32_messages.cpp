@@ -25,7 +25,20 @@ void Win32MessageQueue::wait() {
 }
 
 std::uint32_t Win32MessageQueue::queueStatus(std::uint32_t flags) {
-    return GetQueueStatus(flags);
+    // The question goes through to another process on some systems, and costs as much as reading a small
+    // file.
+    constexpr LONGLONG asksInASecond = 500;
+    LARGE_INTEGER now;
+    QueryPerformanceCounter(&now);
+    if (flags == idleFlags_ && now.QuadPart < idleUntil_) {
+        return 0;
+    }
+    const DWORD status = GetQueueStatus(flags);
+    LARGE_INTEGER second;
+    QueryPerformanceFrequency(&second);
+    idleFlags_ = flags;
+    idleUntil_ = status == 0 ? now.QuadPart + second.QuadPart / asksInASecond : 0;
+    return status;
 }
 
 int Win32MessageQueue::run() {

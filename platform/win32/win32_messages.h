@@ -21,6 +21,8 @@ public:
 
 private:
     Win32View& view_;
+    std::int64_t idleUntil_ = 0; ///< The performance counter until which nothing need be asked anew.
+    std::uint32_t idleFlags_ = 0;
 };
 
 } // namespace tarvelon
