@@ -131,12 +131,16 @@ void SettingsFile::writeToMemory(const std::string& key, const std::string& valu
     const std::string entry = lineStart + "=" + value + "\r\n";
     // The test is exact and does not look for the "=", so a longer name that begins like this one passes it
     // too; the replacement then finds nothing and the block stays as it was.
-    if (block.text().find(lineStart) == std::string::npos) {
+    const std::size_t similar = cases.find(block.text(), lineStart);
+    if (similar == std::string::npos || block.text().find(lineStart, similar) == std::string::npos) {
         block.setText(cases.replaceAll(block.text(), "\r\nNULL*E\r\n", entry + "NULL*E\r\n"));
         return;
     }
-    const std::string old = getBetween(cases, block.text(), 1, lineStart + "=", "*E\r\n");
-    block.setText(cases.replaceAll(block.text(), lineStart + "=" + old + "*E\r\n", entry));
+    // Nothing like the line stands in front of that place.
+    const std::string_view text = block.text();
+    const std::string old = getBetween(cases, text, similar + 1, lineStart + "=", "*E\r\n");
+    block.setText(std::string(text.substr(0, similar)) +
+                  cases.replaceAll(text.substr(similar), lineStart + "=" + old + "*E\r\n", entry));
 }
 
 std::optional<std::size_t> SettingsFile::findSection(const std::string& name) const {

@@ -71,6 +71,13 @@ std::size_t CaseRules::find(std::string_view text, std::string_view needle, std:
     if (needle.empty()) {
         return from;
     }
+    constexpr std::size_t shortText = 256;
+    constexpr std::size_t shortNeedle = 4;
+    return text.size() - from < shortText || needle.size() < shortNeedle ? findShort(text, needle, from)
+                                                                         : findLong(text, needle, from);
+}
+
+std::size_t CaseRules::findShort(std::string_view text, std::string_view needle, std::size_t from) const {
     const char first = upper(needle[0]);
     const bool plainFirst = caseless_[static_cast<unsigned char>(needle[0])];
     const std::size_t last = text.size() - needle.size();
@@ -87,6 +94,26 @@ std::size_t CaseRules::find(std::string_view text, std::string_view needle, std:
         if (equal(text.substr(i, needle.size()), needle)) {
             return i;
         }
+    }
+    return std::string_view::npos;
+}
+
+/// By Horspool: compares from the needle's end, and goes on by as many characters as the one found there
+/// stands away from the end of the needle.
+std::size_t CaseRules::findLong(std::string_view text, std::string_view needle, std::size_t from) const {
+    const std::size_t last = needle.size() - 1;
+    std::array<std::uint32_t, 256> steps;
+    steps.fill(static_cast<std::uint32_t>(needle.size()));
+    for (std::size_t i = 0; i < last; ++i) {
+        steps[static_cast<unsigned char>(upper(needle[i]))] = static_cast<std::uint32_t>(last - i);
+    }
+    const char lastFolded = upper(needle[last]);
+    for (std::size_t place = from; place + last < text.size();) {
+        const char end = upper(text[place + last]);
+        if (end == lastFolded && equal(text.substr(place, last), needle.substr(0, last))) {
+            return place;
+        }
+        place += steps[static_cast<unsigned char>(end)];
     }
     return std::string_view::npos;
 }

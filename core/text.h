@@ -32,6 +32,8 @@ public:
 
 private:
     void noteCaseless();
+    std::size_t findShort(std::string_view text, std::string_view needle, std::size_t from) const;
+    std::size_t findLong(std::string_view text, std::string_view needle, std::size_t from) const;
 
     std::array<char, 256> upper_;
     std::array<char, 256> lower_;

@@ -3,6 +3,7 @@
 #include "avshell/scanner.h"
 #include "core/failure.h"
 #include "core/globals.h"
+#include "core/search_index.h"
 #include "core/settings_file.h"
 #include "core/utilities.h"
 #include "hash/checksum.h"
@@ -39,7 +40,7 @@ std::string nameOf(const std::string& path, clsDoEvents& pump) {
 }
 
 /// Where to go on behind a text, counted from 1: one past its position, and 1 when it is not there.
-std::size_t startBehind(const std::string& text, const std::string& searched) {
+std::size_t startBehind(const SearchIndex& text, const std::string& searched) {
     const std::size_t hit = text.find(searched);
     return hit == std::string::npos ? 1 : hit + 2;
 }
@@ -145,8 +146,8 @@ void ResultAction::UpdateDatFile() {
     screen_.Caption = "Updating - Please Wait...";
     clsDoEvents pump(parts_.platform.messages);
     pump.QueueUsed(userInput);
-    const std::string failList = globals_.scan.failList;
-    const std::string customFailList = globals_.scan.customFailList;
+    const SearchIndex failList(globals_.scan.failList);
+    const SearchIndex customFailList(globals_.scan.customFailList);
 
     // Both stay from one turn to the next: behind a system file, a custom folder's file also leaves a line in
     // the system baseline, with the system file's checksum.
@@ -184,11 +185,11 @@ void ResultAction::UpdateDatFile() {
 }
 
 /// The checksum that stands behind the item in the findings of the system directory.
-std::string ResultAction::systemValue(const std::string& copy, const std::string& item) const {
+std::string ResultAction::systemValue(const SearchIndex& copy, const std::string& item) const {
     const CaseRules& cases = globals_.cases;
-    std::string value = getBetween(cases, copy, startBehind(copy, "," + item + " "), " ", ",");
+    std::string value = getBetween(cases, copy.text(), startBehind(copy, "," + item + " "), " ", ",");
     if (value.empty()) {
-        value = getBetween(cases, copy, startBehind(copy, item + " "), " ", ",");
+        value = getBetween(cases, copy.text(), startBehind(copy, item + " "), " ", ",");
     }
     // A blank in the path makes the value begin inside it: "Files\X.DLL 3A2B44C1". The dot, three letters and
     // the blank are skipped.
@@ -200,11 +201,11 @@ std::string ResultAction::systemValue(const std::string& copy, const std::string
 }
 
 /// Puts the item and its checksum among the pending entries of its slot.
-void ResultAction::queueForCustom(const std::string& copy, const std::string& item) {
+void ResultAction::queueForCustom(const SearchIndex& copy, const std::string& item) {
     const CaseRules& cases = globals_.cases;
-    std::string found = getBetween(cases, copy, startBehind(copy, "," + item + "("), "(", ",");
+    std::string found = getBetween(cases, copy.text(), startBehind(copy, "," + item + "("), "(", ",");
     if (found.empty()) {
-        found = getBetween(cases, copy, startBehind(copy, item + "("), "(", ",");
+        found = getBetween(cases, copy.text(), startBehind(copy, item + "("), "(", ",");
     }
     if (found.empty()) {
         return;

@@ -14,6 +14,7 @@ class Checksum;
 class DataFile;
 class LogFiles;
 class Scanner;
+class SearchIndex;
 class SettingsFile;
 class Utilities;
 
@@ -56,8 +57,8 @@ private:
     bool handOver();
     Handed startScanners(bool noScanner, std::string& all);
     void acceptFindings();
-    std::string systemValue(const std::string& copy, const std::string& item) const;
-    void queueForCustom(const std::string& copy, const std::string& item);
+    std::string systemValue(const SearchIndex& copy, const std::string& item) const;
+    void queueForCustom(const SearchIndex& copy, const std::string& item);
 
     IntCheckScreen& screen_;
     ResultActionParts parts_;

@@ -1,0 +1,44 @@
+#include "core/search_index.h"
+
+#include <cstring>
+#include <utility>
+
+namespace tarvelon {
+
+SearchIndex::SearchIndex(std::string text)
+    : text_(std::move(text)) {
+    const std::size_t places = text_.size() < gram ? 0 : text_.size() - gram + 1;
+    int bits = 4;
+    while (std::size_t{1} << bits < places) {
+        ++bits;
+    }
+    shift_ = 64 - bits;
+    first_.assign(std::size_t{1} << bits, none);
+    next_.assign(places, none);
+    for (std::size_t place = places; place-- > 0;) {
+        std::uint32_t& first = first_[chainOf(text_.data() + place)];
+        next_[place] = first;
+        first = static_cast<std::uint32_t>(place);
+    }
+}
+
+std::size_t SearchIndex::find(std::string_view searched) const {
+    if (searched.size() < gram) {
+        return text_.find(searched);
+    }
+    const std::size_t lead = searched.size() - gram;
+    for (std::uint32_t end = first_[chainOf(searched.data() + lead)]; end != none; end = next_[end]) {
+        if (end >= lead && text_.compare(end - lead, searched.size(), searched) == 0) {
+            return end - lead;
+        }
+    }
+    return std::string::npos;
+}
+
+std::size_t SearchIndex::chainOf(const char* characters) const {
+    std::uint64_t bytes = 0;
+    std::memcpy(&bytes, characters, gram);
+    return static_cast<std::size_t>((bytes * 0x9E3779B97F4A7C15u) >> shift_); // Fibonacci hashing.
+}
+
+} // namespace tarvelon
