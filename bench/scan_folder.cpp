@@ -1,11 +1,12 @@
 // Runs the program's own scan over a folder of a simulated workstation and prints how long it took.
 //
-//   scan_folder DRIVE FOLDER first|compare [ROUNDS [ADDED]]
+//   scan_folder DRIVE FOLDER first|compare|all-new [ROUNDS [ADDED]]
 //
 // DRIVE is the host folder that stands for drive C, FOLDER the system directory on it, such as C:\files.
-// "first" makes the first full scan, "compare" a scan at log-on against the baseline that "first" left. Of
-// the folders C:\1\, C:\2\ and so on the first ADDED ones join the scan at log-on. Prints one line: the
-// milliseconds of each round, the files scanned, and the peak memory in KiB.
+// "first" makes the first full scan, "compare" a scan at log-on against the baseline that "first" left,
+// "all-new" one against an empty baseline, which lists every file. Of the folders C:\1\, C:\2\ and so on the
+// first ADDED ones join the scan at log-on. Prints one line: the milliseconds of each round, the files
+// scanned, and the peak memory in KiB.
 
 #include "core/application.h"
 #include "platform/sim/workstation.h"
@@ -31,11 +32,15 @@ public:
 };
 
 /// One run of the program; gives the milliseconds of its scan.
-double scan(const std::string& drive, const std::string& folder, bool first, int added, std::string& files) {
+double scan(const std::string& drive, const std::string& folder, const std::string& kind, int added,
+            std::string& files) {
+    const bool first = kind == "first";
     SimWorkstation pc(drive);
     pc.folders.systemDirectory = folder;
     if (first) {
         pc.files.remove(dataFolder + "Integrity.dat");
+    } else if (kind == "all-new") {
+        pc.files.put(dataFolder + "Integrity.dat", "");
     }
     std::string settings = "[Tarvelon]\r\nsettings=1,1,1,1,1,1,0,0\r\n";
     for (int slot = 1; slot <= added; ++slot) {
@@ -59,7 +64,7 @@ double scan(const std::string& drive, const std::string& folder, bool first, int
         // A clean scan at log-on ends the program.
     }
     const std::chrono::duration<double, std::milli> time = std::chrono::steady_clock::now() - begin;
-    files = app.intCheck.Label6.Caption();
+    files = kind == "all-new" ? std::to_string(app.intCheck.List1.count()) : app.intCheck.Label6.Caption();
     return time.count();
 }
 
@@ -80,15 +85,14 @@ long peakMemory() {
 
 int main(int count, char** arguments) {
     if (count < 4) {
-        std::fprintf(stderr, "usage: scan_folder DRIVE FOLDER first|compare [ROUNDS [ADDED]]\n");
+        std::fprintf(stderr, "usage: scan_folder DRIVE FOLDER first|compare|all-new [ROUNDS [ADDED]]\n");
         return 2;
     }
-    const bool first = std::string(arguments[3]) == "first";
     const int rounds = count > 4 ? std::atoi(arguments[4]) : 1;
     const int added = count > 5 ? std::atoi(arguments[5]) : 0;
     std::string files;
     for (int round = 0; round < rounds; ++round) {
-        std::printf("%.3f ", scan(arguments[1], arguments[2], first, added, files));
+        std::printf("%.3f ", scan(arguments[1], arguments[2], arguments[3], added, files));
     }
     std::printf("files %s peak_kib %ld\n", files.c_str(), peakMemory());
 }
