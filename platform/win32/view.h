@@ -11,7 +11,8 @@ namespace tarvelon {
 class FormWindow;
 struct ViewTools;
 
-/// Turns screens into windows. A screen's windows are made when it is loaded and go with the view.
+/// Turns screens into windows. A screen's own window is made when it is loaded, those of its controls when it
+/// first comes to light; they go with the view.
 class Win32View : public ScreenListener {
 public:
     Win32View();
