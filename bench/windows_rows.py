@@ -44,7 +44,8 @@ class Wine:
             self.prefix.mkdir(parents=True, exist_ok=True)
             self.run("wineboot", "--init")
             subprocess.run([self.server, "-w"], env=self.environment, check=False)
-        subprocess.run([self.server, "-p"], env=self.environment, check=False)
+        subprocess.run([self.server, "-p"], env=self.environment, stdout=subprocess.DEVNULL,
+                       stderr=subprocess.DEVNULL, check=False)
         self.prepare(windows_build, files)
 
     def close(self):
@@ -55,9 +56,12 @@ class Wine:
     def run(self, *command):
         """Waits for a Windows program and gives its output. Its own folder is the current one."""
         place = self.program if self.program.exists() else None
-        done = subprocess.run([self.wine, *command], env=self.environment, cwd=place, stdout=subprocess.PIPE,
-                              stderr=subprocess.DEVNULL, timeout=PATIENCE, check=True)
-        return done.stdout.decode()
+        # A pipe would be held open by the desktop's own processes, which outlive the program.
+        with open(self.prefix / "output", "w+b") as output:
+            subprocess.run([self.wine, *command], env=self.environment, cwd=place, stdout=output,
+                           stderr=subprocess.DEVNULL, timeout=PATIENCE, check=True)
+            output.seek(0)
+            return output.read().decode()
 
     def prepare(self, windows_build, files):
         shutil.rmtree(self.program, ignore_errors=True)
