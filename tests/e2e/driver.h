@@ -132,7 +132,11 @@ public:
     /// Waits for one with this text and title, and presses a button of it.
     void answer(const std::string& text, const std::string& button = "OK",
                 const std::string& title = "TarvelonLow") const;
+    /// The message box that is open now.
+    std::optional<Box> boxNow() const;
 
+    /// Ends the process without a word to it, from any thread.
+    void kill() const;
     /// True when the process has ended by itself within `limit`.
     bool ends(Milliseconds limit = patience) const;
 

@@ -20,8 +20,7 @@ Program::Program(const std::string& file, const std::string& arguments) {
 }
 
 Program::~Program() {
-    TerminateProcess(process_.hProcess, 1);
-    WaitForSingleObject(process_.hProcess, INFINITE);
+    kill();
     CloseHandle(process_.hThread);
     CloseHandle(process_.hProcess);
 }
@@ -84,19 +83,22 @@ Form Program::form(const std::string& captionPart) const {
 }
 
 Box Program::box() const {
-    HWND found = nullptr;
-    const bool came = comesTrue([&] {
-        const std::vector<HWND> all = windows();
-        const auto box =
-            std::find_if(all.begin(), all.end(), [](HWND window) { return classOf(window) == "#32770"; });
-        found = box == all.end() ? nullptr : *box;
-        return found != nullptr;
-    });
-    if (!came) {
+    std::optional<Box> box;
+    if (!comesTrue([&] { return (box = boxNow()).has_value(); })) {
         throw NotSeen("no message box; " + describe());
     }
-    Box box{found, textOf(found), "", {}};
-    for (HWND child : visibleChildren(found)) {
+    return *box;
+}
+
+std::optional<Box> Program::boxNow() const {
+    const std::vector<HWND> all = windows();
+    const auto found =
+        std::find_if(all.begin(), all.end(), [](HWND window) { return classOf(window) == "#32770"; });
+    if (found == all.end()) {
+        return std::nullopt;
+    }
+    Box box{*found, textOf(*found), "", {}};
+    for (HWND child : visibleChildren(*found)) {
         const std::string text = textOf(child);
         if (classOf(child) == "Button") {
             box.buttons.push_back(withoutMarks(text));
@@ -114,6 +116,11 @@ void Program::answer(const std::string& text, const std::string& button, const s
                       "\"");
     }
     shown.press(button);
+}
+
+void Program::kill() const {
+    TerminateProcess(process_.hProcess, 1);
+    WaitForSingleObject(process_.hProcess, INFINITE);
 }
 
 bool Program::ends(Milliseconds limit) const {
