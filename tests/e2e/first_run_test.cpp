@@ -73,26 +73,6 @@ INSTANTIATE_TEST_SUITE_P(Algorithms, FirstRunWith,
                                          Algorithm{"MD4", "Integrity-md4.dat"}),
                          [](const auto& instance) { return instance.param.name; });
 
-TEST(FirstRun, EverySwitchNeedsABaseline) {
-    const struct {
-        const char* argument;
-        const char* message;
-    } cases[] = {
-        {"/r", "Cannot start Auto-Load.  Primary Full Scan has not yet been completed.\nClosing"},
-        {"/s", "Cannot start Secure Shut Down.  Primary Full Scan has not yet been completed.\nClosing."},
-        {" /a ", "Cannot run Scheduled Scan.  Primary Full Scan has not yet been completed.\nClosing."},
-    };
-    for (const auto& [argument, message] : cases) {
-        SCOPED_TRACE(argument);
-        const ProgramFolder folder("no-baseline");
-        const Program program(folder.program(), argument);
-        refuse(program);
-        refuse(program);
-        program.answer(message);
-        EXPECT_TRUE(program.ends());
-    }
-}
-
 /// Enough work at the head of the system directory that a scan can be met while it runs.
 class RunningFirstScan : public testing::Test {
 protected:

@@ -80,19 +80,5 @@ TEST_F(MainWindow, AsksBeforeItLeavesForTheWebAndEndsByExit) {
     EXPECT_TRUE(program_.ends()) << program_.describe();
 }
 
-TEST_F(MainWindow, WithoutABaselineTheScanPageAsksForTheFullScan) {
-    DeleteFileA((folder_.path() + "Data\\Integrity.dat").c_str());
-    window_.click("Integrity Scan");
-    const Box box = program_.box();
-    EXPECT_EQ(box.title, "Missing File");
-    EXPECT_EQ(box.text, "You have not yet completed the full system scan.  This is required before using the "
-                        "Integrity Checker.  Perform scan now?");
-    box.press("No");
-    EXPECT_FALSE(window_.shows("Scan Folder Now"));
-    EXPECT_FALSE(window_.shows("View Help Files"));
-    window_.close();
-    EXPECT_TRUE(program_.ends());
-}
-
 } // namespace
 } // namespace e2e

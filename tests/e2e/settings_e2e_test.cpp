@@ -59,55 +59,13 @@ TEST_F(SettingsScreens, TheWizardLeadsFromWelcomeToDoneAndWritesOnlyAtItsEnd) {
     expectSettings({});
     EXPECT_FALSE(autoLoad_.exists());
 
+    wizard.click("Cancel");
+    program.answer("Are you sure you want to disregard all changes and exit the setup wizard?", "No");
     wizard.click("Save");
     program.answer("Settings Saved Successfully!");
     awaitHidden(program, wizard);
     expectSettings({{"settings", "0,1,0,0,0,1,1,1"}, {"antivirus", scanner.path() + "|/deep"}});
     expectLink(autoLoad_.path(), " /r");
-}
-
-TEST_F(SettingsScreens, TheWizardIsLeftWithoutAChangeAndTellsOfAMissingScanner) {
-    writeFile(autoLoad_.path(), "an old link");
-    const Program program(folder_.program());
-    open(program, "Settings Wizard");
-    Form wizard = program.form("Setup Wizard");
-    const auto walk = [&](int pages) {
-        for (int page = 0; page < pages; ++page) {
-            wizard.click("Next >>>");
-        }
-    };
-    walk(2);
-    wizard.awaitText("Anti-Virus Setup (2/2)");
-    walk(1);
-    program.answer(noScanner);
-    wizard.awaitText("Main Settings (1/3)");
-    EXPECT_TRUE(wizard.isTicked("Enable Auto-Load (Highly Recommended)"));
-    wizard.click("Enable Auto-Load (Highly Recommended)");
-    const std::string question = "Are you sure you want to disregard all changes and exit the setup wizard?";
-    wizard.click("Cancel");
-    program.answer(question, "No");
-    EXPECT_TRUE(wizard.isVisible());
-    wizard.click("Cancel");
-    program.answer(question, "Yes");
-    awaitHidden(program, wizard);
-    expectSettings({});
-    EXPECT_TRUE(autoLoad_.exists());
-
-    open(program, "Settings Wizard");
-    wizard = program.form("Setup Wizard");
-    wizard.awaitText("Welcome to the Setup Wizard");
-    walk(3);
-    program.answer(noScanner);
-    wizard.awaitText("Main Settings (1/3)");
-    EXPECT_TRUE(wizard.isTicked("Enable Auto-Load (Highly Recommended)")) << "as the link tells";
-    wizard.click("Enable Auto-Load (Highly Recommended)");
-    walk(5);
-    wizard.click("Save");
-    program.answer(noScanner);
-    program.answer("Settings Saved Successfully!");
-    awaitHidden(program, wizard);
-    expectSettings({{"antivirus", "Anti-Virus Software| "}});
-    EXPECT_FALSE(autoLoad_.exists());
 }
 
 TEST_F(SettingsScreens, TheSettingsPageSavesReloadsAndForgetsWhatIsNotSaved) {
@@ -142,14 +100,9 @@ TEST_F(SettingsScreens, TheSettingsPageSavesReloadsAndForgetsWhatIsNotSaved) {
         EXPECT_TRUE(window.isTicked(text)) << text;
     }
     EXPECT_FALSE(window.isTicked("Auto-Logging"));
-    window.click("Auto-Load at Startup");
-    window.click("Save Settings");
-    program.answer("Settings Saved Successfully");
-    EXPECT_FALSE(autoLoad_.exists());
-    expectSettings(saved, added);
 }
 
-TEST_F(SettingsScreens, AnotherAlgorithmAsksForItsOwnFullScan) {
+TEST_F(SettingsScreens, TheAdvancedPageSavesAndHasTheScriptingHostMakeShortcuts) {
     const Program program(folder_.program());
     const Form window = open(program, "Advanced Settings");
     for (const char* text : {"64 Kb", "500", "CRC32"}) {
@@ -167,29 +120,10 @@ TEST_F(SettingsScreens, AnotherAlgorithmAsksForItsOwnFullScan) {
     const Changes saved = {{"advanced", "262144,100,1"}, {"antivirus2", "0,0,0"}, {"algo", "MD5"}};
     expectSettings(saved);
 
-    window.click("Integrity Scan");
-    const Box box = program.box();
-    EXPECT_EQ(box.title, "Missing File");
-    box.press("No");
-    EXPECT_FALSE(folder_.hasData("Integrity-md5.dat"));
-
     open(program, "Advanced Settings");
     for (const char* text : {"256 Kb", "100", "MD5", scripting}) {
         EXPECT_TRUE(window.isTicked(text)) << text;
     }
-    window.click("512 Kb");
-    window.click("Compare Speeds");
-    std::vector<std::string> report;
-    EXPECT_TRUE(comesTrue([&] {
-        report = window.rows();
-        return report.size() == 18 && window.shows("Compare Speeds");
-    })) << program.describe();
-    EXPECT_THAT(report.front(), StartsWith("Test 1 Buffer (64 Kb) "));
-    EXPECT_THAT(report[16], StartsWith("Quickest Calculation at: "));
-    window.click("Cancel");
-    window.awaitText("Settings Wizard");
-    expectSettings(saved);
-
     open(program, "Edit Settings");
     window.click("Auto-Load at Startup");
     window.click("Save Settings");
