@@ -33,7 +33,9 @@ std::string Scanner::toShortPath(const std::string& path) const {
 void Scanner::runScanner(const std::string& commandLine) const {
     const WindowStyle style =
         mForm1_.avfocus.value() == 1 ? WindowStyle::NormalFocus : WindowStyle::MinimizedFocus;
-    if (!platform_.processes.start(commandLine, style)) {
+    // Without a scanner's name the first file would stand in its place, and the suspect itself be started.
+    const bool namesNoScanner = commandLine.starts_with(' ');
+    if (namesNoScanner || !platform_.processes.start(commandLine, style)) {
         throw Failure("The scanner cannot be started:\r\n" + commandLine);
     }
 }

@@ -31,7 +31,8 @@ public:
     std::string toShortPath(const std::string& path) const;
 
     /// Starts a command line and does not wait for it: with the focus and a normal window if the option
-    /// `avfocus` is ticked now, else minimised. Throws `Failure` when it cannot be started.
+    /// `avfocus` is ticked now, else minimised. Throws `Failure` when it cannot be started, or begins with a
+    /// blank where the scanner should stand.
     void runScanner(const std::string& commandLine) const;
 
     /// The name in its 8.3 form, if the user wants that.

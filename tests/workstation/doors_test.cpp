@@ -8,6 +8,8 @@ namespace {
 
 using namespace std::string_literals;
 
+const std::string runKey = R"(Software\Microsoft\Windows\CurrentVersion\Run)";
+
 class HostileTexts : public Session {
 protected:
     void SetUp() override {
@@ -36,8 +38,7 @@ protected:
     void plantInRegistry() {
         for (const char* text : {R"(C:\evil.exe "C:\Home\letter.dll")", R"("C:\evil.exe" & C:\evil.exe)",
                                  R"(|C:\evil.exe|)", R"(C:\Home\letter.dll,C:\evil.exe)"}) {
-            pc.registry.setText(Registry::localMachine, R"(Software\Microsoft\Windows\CurrentVersion\Run)",
-                                text, text);
+            pc.registry.setText(Registry::localMachine, runKey, text, text);
         }
     }
 
@@ -87,6 +88,18 @@ TEST_F(HostileTexts, InReportsAndTheRegistryPageDeleteNothingElse) {
     EXPECT_EQ(window.List5.count(), 5);
     window.cScnUpd.click();
     expectHarmless();
+}
+
+TEST_F(HostileTexts, WithoutAScannerTheSuspectIsNotStartedInItsPlace) {
+    pc.files.put(dataFolder + "Tarvelon.dat", "[Tarvelon]\r\nsettings2=1,1,1,1,1,1\r\nantivirus=|\r\n");
+    ASSERT_FALSE(start());
+    pc.registry.setText(Registry::localMachine, runKey, "Stranger", R"(C:\evil.exe)");
+    app->mForm1.Image7.click();
+    app->mForm1.Command1.click();
+    app->mForm1.cScnUpd.click();
+    app->mForm1.cMod.click();
+    app->mForm1.Command11.click();
+    EXPECT_TRUE(pc.processes.started().empty());
 }
 
 } // namespace
