@@ -69,9 +69,12 @@ void clsHash::CalculateFile3(const std::string& path, const std::string& /*label
     const auto take = [this, &tookAll](std::span<const unsigned char> bytes) {
         tookAll = platform_.crypto.hashData(hash_, bytes.data(), bytes.size()) && tookAll;
     };
-    // A digest of a part would pass for that of the file.
-    if (reader_.read(path, take) && tookAll) {
-        ReadDigest();
+    if (!reader_.read(path, take)) {
+        return;
+    }
+    ReadDigest();
+    if (!tookAll) {
+        digestLength_ = 0; // A digest of a part would pass for that of the file.
     }
 }
 
