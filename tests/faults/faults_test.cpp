@@ -218,6 +218,10 @@ const std::regex
          "needs|Error|WARNING!"
          "|Cannot |(Some|No) files|The (data|settings|backup|report|scanner|link|web|Help) )[^]*");
 
+void PrintTo(const Mode& mode, std::ostream* stream) {
+    *stream << mode.name;
+}
+
 struct Faulty : testing::TestWithParam<Mode> {
     void use(Machine& machine) {
         const Mode& mode = GetParam();
