@@ -63,6 +63,14 @@ std::string blankText(const SectionLists& lists) {
     return text;
 }
 
+/// Makes a baseline without entries. It has its section heads from the first moment: should the program be
+/// killed during the walk, all files are found as new and can be accepted into it.
+void makeEmpty(Files& files, const std::string& path) {
+    if (!writeWholeFile(files, path, blankText({}))) {
+        throw Failure("The data file cannot be made:\r\n" + path);
+    }
+}
+
 /// Fills a file in that was made empty for the walk. It goes when that fails: a file that stands counts as
 /// scanned, and the next start would not ask for the scan.
 void writeBlank(Files& files, const std::string& path, const SectionLists& lists) {
@@ -127,9 +135,7 @@ void Baseline::restoreOrRestart(const std::string& backup) {
 void Baseline::buildPrimary() {
     globals_.baselines.primaryBuild = true;
     const std::string& path = globals_.app.intFile;
-    if (!writeWholeFile(platform_.files, path, {})) {
-        throw Failure("The data file cannot be made:\r\n" + path);
-    }
+    makeEmpty(platform_.files, path);
     mForm1_.Caption = "Building Integrity File...";
     platform_.messages.pump();
     const SectionLists lists = walk(globals_, platform_, trim(utilities_.getSysDir()));
@@ -156,9 +162,7 @@ bool Baseline::buildCustomDat(std::string folder, const std::string& datFile, co
             return false;
         }
     }
-    if (!writeWholeFile(platform_.files, datFile, {})) {
-        throw Failure("The data file cannot be made:\r\n" + datFile);
-    }
+    makeEmpty(platform_.files, datFile);
     folder = withBackslash(std::move(folder));
     writeBlank(platform_.files, datFile, walk(globals_, platform_, folder));
     if (globals_.app.autoLoadRun) {

@@ -205,13 +205,6 @@ void killOnce(const Work& work, double delay) {
     }
     WaitForSingleObject(thread, INFINITE);
     std::fprintf(stderr, "%s%zu settings saved; ", place.state().c_str(), savedSettings(place, before));
-    for (const std::string name : {"Integrity", "1"}) {
-        // An empty file counts as complete, and nothing can be accepted into it.
-        if (place.folder.data(name + ".dat") == "" && !place.folder.hasData(name + ".bak")) {
-            DeleteFileA((place.folder.path() + "Data\\" + name + ".dat").c_str());
-            std::fprintf(stderr, "empty %s.dat is taken away; ", name.c_str());
-        }
-    }
     std::fprintf(stderr, "%s\n", comeBack(place).c_str());
 }
 
