@@ -64,18 +64,17 @@ int readAll(const std::string& list, bool window) {
     return 0;
 }
 
+BOOL CALLBACK addIfVisible(HWND window, LPARAM list) {
+    if (IsWindowVisible(window) != 0) {
+        reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
+    }
+    return TRUE;
+}
+
 /// The visible windows in a form, the form itself in front.
 std::vector<HWND> visibleIn(HWND form) {
     std::vector<HWND> found{form};
-    EnumChildWindows(
-        form,
-        [](HWND window, LPARAM list) {
-            if (IsWindowVisible(window) != 0) {
-                reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
-            }
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&found));
+    EnumChildWindows(form, addIfVisible, reinterpret_cast<LPARAM>(&found));
     return found;
 }
 

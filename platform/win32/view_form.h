@@ -66,8 +66,8 @@ private:
     ViewTools& tools_;
     Scale scale_{96};
     HWND window_ = nullptr;
-    HWND focusKept_ = nullptr; ///< Had the keyboard when the form was last left.
-    bool focusLost_ = false;   ///< What had the keyboard can have it no longer.
+    HWND focusKept_ = nullptr;           ///< Had the keyboard when the form was last left.
+    bool focusLost_ = false;             ///< What had the keyboard can have it no longer.
     const Control* pageShown_ = nullptr; ///< The frame that came to light last.
     std::unordered_set<const Frame*> navigation_;
     std::vector<std::unique_ptr<ControlWindow>> controls_;
