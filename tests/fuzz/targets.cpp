@@ -172,7 +172,9 @@ void baseline(string_view input) {
     const bool isNew = !contains(block, cases.upper("\r\n" + name)) && contains(block, "\r\nNULL*E\r\n");
     pc.app.settingsFile.writeEntry(pc.baselinePath, name, value + "*E", section);
     demand(!isNew || data.getEntry(name, section) == trim(value), "an accepted entry is found");
-    const bool whole = isNew && !known.empty() && !contains(known, "\r");
+    // A name with "=" in it answers for the name in front of that as well.
+    const bool answersForIt = cases.upper(name).starts_with(cases.upper(other) + "=");
+    const bool whole = isNew && !answersForIt && !known.empty() && !contains(known, "\r");
     demand(!whole || data.getEntry(other, section) == known, "other entries keep their values");
     demand(name.starts_with('[') || survives(sections("\f")), "an accepted entry is saved and loaded again");
 }
