@@ -198,35 +198,42 @@ std::optional<std::uint64_t> SimFiles::length(const std::string& path) {
     return static_cast<std::uint64_t>(status.st_size);
 }
 
-bool SimFiles::copy(const std::string& from, const std::string& to) {
+/// The two ends of a copy or a move on the host, where the system lets it go ahead.
+std::optional<SimFiles::Way> SimFiles::findWay(const std::string& from, const std::string& to) const {
     const auto source = place(from);
     const auto target = place(to);
-    if (faults_.strikes(Operation::CopyFile) || !source || !target || isLocked(from) || isLocked(to) ||
-        isReadOnly(to)) {
-        return false;
+    if (!source || !target || isLocked(from) || isLocked(to) || isReadOnly(to)) {
+        return std::nullopt;
     }
     const auto foundSource = find(*source);
     const auto foundTarget = find(*target, true);
+    if (!foundSource || !foundTarget || isFolder(*foundSource) || isFolder(*foundTarget)) {
+        return std::nullopt;
+    }
+    return Way{*foundSource, *foundTarget};
+}
+
+bool SimFiles::copy(const std::string& from, const std::string& to) {
+    const auto way = faults_.strikes(Operation::CopyFile) ? std::nullopt : findWay(from, to);
     struct stat status;
-    if (!foundSource || !foundTarget || *foundSource == *foundTarget || isFolder(*foundTarget) ||
-        ::stat(foundSource->c_str(), &status) != 0 || S_ISDIR(status.st_mode)) {
+    if (!way || way->source == way->target || ::stat(way->source.c_str(), &status) != 0) {
         return false;
     }
-    std::ifstream in(*foundSource, std::ios::binary);
+    std::ifstream in(way->source, std::ios::binary);
     const std::string bytes(std::istreambuf_iterator<char>(in), {});
-    faults_.giveBack(lengthOf(*foundTarget));
+    faults_.giveBack(lengthOf(way->target));
     std::uint64_t fitting = faults_.roomFor(bytes.size());
     if (faults_.strikes(Operation::CopyFileHalf)) {
         fitting = std::min<std::uint64_t>(fitting, bytes.size() / 2);
     }
-    std::ofstream out(*foundTarget, std::ios::binary | std::ios::trunc);
+    std::ofstream out(way->target, std::ios::binary | std::ios::trunc);
     out.write(bytes.data(), static_cast<std::streamsize>(fitting)).flush();
     if (!in || !out || fitting < bytes.size()) {
         return false;
     }
     // A copy keeps the time of the last write.
     const timespec times[2] = {{0, UTIME_OMIT}, status.st_mtim};
-    return ::utimensat(AT_FDCWD, foundTarget->c_str(), times, 0) == 0;
+    return ::utimensat(AT_FDCWD, way->target.c_str(), times, 0) == 0;
 }
 
 bool SimFiles::remove(const std::string& path) {
@@ -244,19 +251,12 @@ bool SimFiles::remove(const std::string& path) {
 }
 
 bool SimFiles::move(const std::string& from, const std::string& to) {
-    const auto source = place(from);
-    const auto target = place(to);
-    if (faults_.strikes(Operation::MoveFile) || !source || !target || isLocked(from) || isLocked(to) ||
-        isReadOnly(to)) {
+    const auto way = faults_.strikes(Operation::MoveFile) ? std::nullopt : findWay(from, to);
+    if (!way) {
         return false;
     }
-    const auto foundSource = find(*source);
-    const auto foundTarget = find(*target, true);
-    if (!foundSource || !foundTarget || isFolder(*foundSource) || isFolder(*foundTarget)) {
-        return false;
-    }
-    const std::uint64_t replaced = *foundSource == *foundTarget ? 0 : lengthOf(*foundTarget);
-    if (::rename(foundSource->c_str(), foundTarget->c_str()) != 0) {
+    const std::uint64_t replaced = way->source == way->target ? 0 : lengthOf(way->target);
+    if (::rename(way->source.c_str(), way->target.c_str()) != 0) {
         return false;
     }
     faults_.giveBack(replaced);

@@ -62,10 +62,16 @@ private:
         bool isRoot() const { return path.size() == rootLength; }
     };
 
+    struct Way {
+        std::string source;
+        std::string target;
+    };
+
     std::optional<Place> place(const std::string& path) const;
     /// The path of what exists there in any case; with `newLast`, also where a new entry of an existing
     /// folder would lie.
     std::optional<std::string> find(const Place& asked, bool newLast = false) const;
+    std::optional<Way> findWay(const std::string& from, const std::string& to) const;
     std::string entryLike(const std::string& hostFolder, const std::string& name) const;
     std::vector<std::string> namesIn(const std::string& hostFolder) const;
     std::string shortPathTo(const std::string& host, std::size_t rootLength) const;
