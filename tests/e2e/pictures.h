@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 namespace e2e {
@@ -20,5 +21,9 @@ public:
 private:
     std::string folder_;
 };
+
+/// What `main` does for a walk through the program: the arguments are the program and the folder for the
+/// pictures. Gives the exit code; a walk that stops tells why.
+int takeWalk(int count, char** arguments, const std::function<void(const Pictures& pictures)>& walk);
 
 } // namespace e2e

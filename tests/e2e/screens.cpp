@@ -7,15 +7,12 @@
 #include "tree_view.h"
 #include "workplace.h"
 
-#include <cstdio>
-#include <exception>
-
 namespace e2e {
 namespace {
 
 class Walk {
 public:
-    explicit Walk(const std::string& pictures)
+    explicit Walk(const Pictures& pictures)
         : pictures_(pictures) {
         writeSettings("C:\\no scanner.exe|/deep");
     }
@@ -173,20 +170,11 @@ private:
 } // namespace e2e
 
 int main(int count, char** arguments) {
-    if (count != 3) {
-        std::fputs("usage: screens PROGRAM PICTURES-FOLDER\n", stderr);
-        return 2;
-    }
-    e2e::setInputs({arguments[1], ""});
-    try {
-        e2e::Walk walk(std::string(arguments[2]) + "\\");
+    return e2e::takeWalk(count, arguments, [](const e2e::Pictures& pictures) {
+        e2e::Walk walk(pictures);
         walk.firstScan();
         walk.findings();
         walk.mainWindow();
         walk.shutDown();
-        return 0;
-    } catch (const std::exception& problem) {
-        std::printf("The walk stops: %s\n", problem.what());
-        return 1;
-    }
+    });
 }

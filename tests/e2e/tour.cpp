@@ -7,9 +7,6 @@
 #include "pictures.h"
 #include "workplace.h"
 
-#include <cstdio>
-#include <exception>
-
 namespace e2e {
 namespace {
 
@@ -18,7 +15,7 @@ const char* const addedFile = "tourvisitor.exe";
 
 class Tour {
 public:
-    explicit Tour(const std::string& pictures)
+    explicit Tour(const Pictures& pictures)
         : pictures_(pictures) {}
 
     void firstScan() {
@@ -97,18 +94,9 @@ private:
 } // namespace e2e
 
 int main(int count, char** arguments) {
-    if (count != 3) {
-        std::fputs("usage: tour PROGRAM PICTURES-FOLDER\n", stderr);
-        return 2;
-    }
-    e2e::setInputs({arguments[1], ""});
-    try {
-        e2e::Tour tour(std::string(arguments[2]) + "\\");
+    return e2e::takeWalk(count, arguments, [](const e2e::Pictures& pictures) {
+        e2e::Tour tour(pictures);
         tour.firstScan();
         tour.logOnScan();
-        return 0;
-    } catch (const std::exception& problem) {
-        std::printf("The tour stops: %s\n", problem.what());
-        return 1;
-    }
+    });
 }
