@@ -52,9 +52,9 @@ protected:
         }
     }
 
-    const std::vector<std::string> victims = {R"(C:\Home\letter.dll)", R"(C:\Home\notes.log)",
-                                              R"(C:\evil.exe)", dataFolder + "notes.log",
-                                              programFolder + "05-01-2003(3_04_07PM).log"};
+    const std::vector<std::string> victims = {
+        R"(C:\Home\letter.dll)",  R"(C:\Home\notes.log)",      R"(C:\evil.exe)",
+        dataFolder + "notes.log", programFolder + "..(1).log", programFolder + "05-01-2003(3_04_07PM).log"};
 };
 
 TEST_F(HostileTexts, AtShutDownOnlyReachTheScannersCommandLine) {
