@@ -40,7 +40,10 @@ void Logoff::bind() {
     bindButton(screen_.Image3, screen_.Image4, []() -> std::int16_t { return 8; });
     bindButton(screen_.Image5, screen_.Image6, []() -> std::int16_t { return 2; });
     for (Label* label : {&screen_.Label1, &screen_.Label2}) {
-        label->onMouseMove = [label] { label->ForeColor = colors::white; };
+        label->onMouseMove = [this, label] {
+            restAll();
+            label->ForeColor = colors::white;
+        };
     }
     // The same as Hibernate, although it reads otherwise.
     screen_.Label2.onClick = [this] { choose(0); };
@@ -48,10 +51,21 @@ void Logoff::bind() {
 }
 
 void Logoff::bindButton(Picture& plain, Picture& lit, const std::function<std::int16_t()>& action) {
-    plain.onMouseMove = [&lit] { lit.Visible = true; };
+    plain.onMouseMove = [this, &lit] { light(lit); };
     plain.onFocus = plain.onMouseMove;
+    plain.onFocusLost = [&lit] { lit.Visible = false; };
     lit.onClick = [this, action] { choose(action()); };
-    plain.onClick = lit.onClick; // By the keyboard, which does not pass over it.
+    plain.onClick = lit.onClick; // By other programs, which do not pass over it.
+    // The key that comes up takes the SHIFT key's mark away in front of the click.
+    plain.onKeyPress = [this, action] { pressedAction_ = action(); };
+    plain.onKeyClick = [this] { choose(pressedAction_); };
+}
+
+/// One picture is lit at a time: the one that the mouse or the keyboard came to last.
+void Logoff::light(const Picture& lit) {
+    for (Picture* picture : {&screen_.Image2, &screen_.Image4, &screen_.Image6}) {
+        picture->Visible = picture == &lit;
+    }
 }
 
 /// On the label, which is the record of the SHIFT key, and on the pictures for those who hear them read.

@@ -22,6 +22,7 @@ public:
 private:
     void bind();
     void bindButton(Picture& plain, Picture& lit, const std::function<std::int16_t()>& action);
+    void light(const Picture& lit);
     void nameFirstButton(const char* name);
     void choose(std::int16_t action);
     void restAll();
@@ -30,6 +31,7 @@ private:
     LogoffScreen& screen_;
     AppState& app_;
     Platform& platform_;
+    std::int16_t pressedAction_ = 0; ///< What a picture stood for when a key went down on it.
 };
 
 } // namespace tarvelon

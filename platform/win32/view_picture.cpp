@@ -71,6 +71,9 @@ LRESULT PictureWindow::handle(UINT message, WPARAM wide, LPARAM low) {
     const LRESULT result = PressWindow::handle(message, wide, low);
     if (message == WM_KILLFOCUS) {
         focusMoved();
+        if (!isSamePlace(reinterpret_cast<HWND>(wide))) {
+            picture_.loseFocus();
+        }
     } else if (message == WM_SETFOCUS) {
         const HWND plain = lit_ ? plainBelow() : nullptr;
         if (plain) {
@@ -78,9 +81,7 @@ LRESULT PictureWindow::handle(UINT message, WPARAM wide, LPARAM low) {
             return result;
         }
         focusMoved();
-        if (picture_.onFocus) {
-            picture_.screen().dispatch(picture_.onFocus);
-        }
+        picture_.focus();
     }
     return result;
 }

@@ -15,6 +15,8 @@ protected:
     Kind kind() const override;
     LRESULT handle(UINT message, WPARAM wide, LPARAM low) override;
     void click() override { picture_.click(); }
+    void keyPress() override { picture_.keyPress(); }
+    void keyClick() override { picture_.keyClick(); }
     void paint(Canvas& canvas) override;
 
 private:

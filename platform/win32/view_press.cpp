@@ -5,6 +5,7 @@
 #include <windowsx.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace tarvelon {
 
@@ -20,10 +21,10 @@ LRESULT PressWindow::handle(UINT message, WPARAM wide, LPARAM low) {
     case WM_LBUTTONDBLCLK:
         SetFocus(window());
         SetCapture(window());
-        press();
+        press(Held::ByMouse);
         return 0;
     case WM_LBUTTONUP:
-        if (held_) {
+        if (held_ == Held::ByMouse) {
             release(contains({GET_X_LPARAM(low), GET_Y_LPARAM(low)}));
         }
         return 0;
@@ -42,8 +43,10 @@ LRESULT PressWindow::handle(UINT message, WPARAM wide, LPARAM low) {
     case WM_SETCURSOR:
         SetCursor(LoadCursorA(nullptr, control().isUsable() ? IDC_HAND : IDC_ARROW));
         return TRUE;
-    case WM_SETFOCUS:
     case WM_KILLFOCUS:
+        release(false);
+        [[fallthrough]];
+    case WM_SETFOCUS:
     case WM_ENABLE:
         repaint();
         return 0;
@@ -52,7 +55,7 @@ LRESULT PressWindow::handle(UINT message, WPARAM wide, LPARAM low) {
     case WM_KEYUP:
         return keyboard(message, wide, low);
     case BM_CLICK:
-        press();
+        press(Held::ByMouse);
         release(true);
         return 0;
     case BM_GETCHECK:
@@ -70,28 +73,31 @@ LRESULT PressWindow::handle(UINT message, WPARAM wide, LPARAM low) {
     }
 }
 
-void PressWindow::press() {
-    if (!control().isUsable()) {
+void PressWindow::press(Held by) {
+    if (!control().isUsable() || held_ != Held::No) {
         return;
     }
-    held_ = true;
+    held_ = by;
     overWhileHeld_ = true;
+    if (by == Held::ByKey) {
+        keyPress();
+    }
     down();
     repaint();
 }
 
 void PressWindow::release(bool counts) {
-    if (!held_) {
+    const Held by = std::exchange(held_, Held::No);
+    if (by == Held::No) {
         return;
     }
-    held_ = false;
     if (GetCapture() == window()) {
         ReleaseCapture();
     }
     up();
     repaint();
     if (counts) {
-        click();
+        by == Held::ByKey ? keyClick() : click();
     }
 }
 
@@ -109,7 +115,7 @@ void PressWindow::mouseMoved(POINT where) {
         TrackMouseEvent(&track);
         repaint();
     }
-    if (held_ && inside != overWhileHeld_) {
+    if (held_ == Held::ByMouse && inside != overWhileHeld_) {
         overWhileHeld_ = inside;
         inside ? down() : up();
         repaint();
@@ -125,11 +131,12 @@ LRESULT PressWindow::keyboard(UINT message, WPARAM key, LPARAM low) {
     }
     constexpr LPARAM wasDownBefore = 1 << 30;
     if (message == WM_KEYDOWN && key == VK_SPACE && (low & wasDownBefore) == 0) {
-        press();
-    } else if (message == WM_KEYUP && key == VK_SPACE) {
+        press(Held::ByKey);
+    } else if (message == WM_KEYUP && key == VK_SPACE && held_ == Held::ByKey) {
         release(true);
     } else if (message == WM_KEYDOWN && key == VK_RETURN && (low & wasDownBefore) == 0) {
-        click();
+        keyPress();
+        keyClick();
     }
     return 0;
 }

@@ -16,6 +16,9 @@ protected:
     LRESULT handle(UINT message, WPARAM wide, LPARAM low) override;
 
     virtual void click() = 0;
+    /// Space or Enter goes down on the window, and what comes of it.
+    virtual void keyPress() {}
+    virtual void keyClick() { click(); }
     virtual void down() {}
     virtual void up() {}
     /// The mouse moves over the window, in its own pixels.
@@ -25,18 +28,20 @@ protected:
     virtual UINT dialogCode() const { return DLGC_BUTTON; }
 
     bool isHovered() const { return hovered_; }
-    bool isHeld() const { return held_ && overWhileHeld_; }
+    bool isHeld() const { return held_ != Held::No && overWhileHeld_; }
     bool contains(POINT where) const;
     const Color& faceColor(const Face& face) const;
 
 private:
-    void press();
+    enum class Held { No, ByMouse, ByKey };
+
+    void press(Held by);
     void release(bool counts);
     void mouseMoved(POINT where);
     LRESULT keyboard(UINT message, WPARAM key, LPARAM low);
 
     bool hovered_ = false;
-    bool held_ = false;
+    Held held_ = Held::No;
     bool overWhileHeld_ = false;
 };
 

@@ -53,6 +53,26 @@ TEST_F(ShutDownRun, CleanTheMachineGoesDownAtOnce) {
               (Rows{"adjustPrivilege SeShutdownPrivilege 2147483651", "exitWindows 25 4294967295"}));
 }
 
+TEST_F(ShutDownRun, TheKeyboardChoosesWhatItPressed) {
+    ASSERT_FALSE(start("/s"));
+    LogoffScreen& dialog = app->frmLogoff;
+    dialog.Image5.focus();
+    dialog.Image1.focus();
+    EXPECT_TRUE(dialog.Image2.Visible() && !dialog.Image6.Visible());
+    dialog.Image1.loseFocus();
+    EXPECT_FALSE(dialog.Image2.Visible());
+
+    constexpr int shift = 16;
+    constexpr int space = 32;
+    dialog.onKeyDown(shift);
+    dialog.onKeyDown(space);
+    dialog.Image1.keyPress();
+    dialog.onKeyUp(space);
+    EXPECT_EQ(dialog.Label4.Caption(), "Standby");
+    dialog.Image1.keyClick();
+    EXPECT_EQ(app->globals.app.shutAction, 0) << "Hibernate, as it read under the key";
+}
+
 TEST_F(ShutDownRun, FindingsAreHandedOverInOrderAndTwoMinutesAreGiven) {
     configure("C:\\two.exe|x", "2");
     pc.files.put(R"(C:\WINDOWS\wininit.ini)", "[Rename]\r\nNUL=C:\\W.TMP\r\nNUL=C:\\GONE.TMP\r\n");

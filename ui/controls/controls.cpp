@@ -187,6 +187,18 @@ void Picture::click() {
     }
 }
 
+void Picture::keyPress() {
+    if (isUsable()) {
+        raise(onKeyPress);
+    }
+}
+
+void Picture::keyClick() {
+    if (isUsable()) {
+        raise(onKeyClick);
+    }
+}
+
 TextBox::TextBox(ControlParent parent, Rect place, bool visible)
     : Control(ControlKind::TextBox, parent, "", place) {
     Visible = visible;

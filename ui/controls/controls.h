@@ -60,6 +60,10 @@ public:
     Property<bool, Control, Aspect::Visible> Visible;
     Property<bool, Control, Aspect::Enabled> Enabled;
 
+    /// What it is called for those who cannot see it, where it has no caption of its own.
+    std::string name;
+    const std::string& captionOrName() const { return Caption().empty() ? name : Caption(); }
+
     Screen::Handler onMouseMove;
 
     void changed(Aspect aspect);
@@ -243,9 +247,18 @@ public:
     const std::string& image() const { return image_; }
 
     Screen::Handler onClick;
-    /// The keyboard has come to the picture.
+    /// A key that presses the picture goes down; `onKeyClick` follows unless the keyboard goes elsewhere
+    /// first.
+    Screen::Handler onKeyPress;
+    Screen::Handler onKeyClick;
+    /// The keyboard has come to the picture, or gone from it.
     Screen::Handler onFocus;
+    Screen::Handler onFocusLost;
     void click();
+    void keyPress();
+    void keyClick();
+    void focus() { raise(onFocus); }
+    void loseFocus() { raise(onFocusLost); }
 
 private:
     std::string image_;
