@@ -13,6 +13,7 @@ struct AVirHelpScreen : Screen {
         for (const KnownScanner& known : knownScanners) {
             List1.add(known.product);
         }
+        List1.name = "Anti-virus programs";
     }
 
     Label Label1{*this,

@@ -11,6 +11,9 @@ struct ICustScreen : Screen {
         canMinimize = false;
         List3.Visible = false;
         List5.Visible = false;
+        List1.name = "Custom folders";
+        List2.name = "File types at startup";
+        List4.name = "File types at secure shut down";
     }
 
     // The lists show whole rows: 20 units each, and a unit of edge above and below.

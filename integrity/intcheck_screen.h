@@ -21,6 +21,7 @@ struct IntCheckScreen : Screen {
             hidden->Visible = false;
         }
         Command1.Visible = false;
+        List1.name = "New and failed files";
     }
 
     Label Label13{*this, "Scanning...Please Wait", at(16, 14, 568, 26), TextStyle::Heading};

@@ -21,6 +21,18 @@ struct MForm1Screen : Screen {
         Label19.Visible = false;
         Label26.Visible = false;
         txtTitle.Caption = "No Window Selected";
+        for (std::size_t i = 0; i < check.size(); ++i) {
+            check[i].name =
+                std::array{"Select DLL files", "Select DRV files",         "Select SYS and 386 files",
+                           "Select OCX files", "Select EXE and COM files", "Select PIF and SCR files"}[i];
+        }
+        List5.name = "Registry warnings";
+        TreeView1.name = "Watched registry entries";
+        List6.name = "Files pending for the next restart";
+        lstOpenWindows.name = "Open windows";
+        TreeView2.name = "Logs";
+        List4.name = "Report";
+        List1.name = "Speed report";
     }
 
     // Navigation column.
@@ -128,11 +140,6 @@ struct MForm1Screen : Screen {
     FlatCheck Check5{qSett, "Check ActiveX Files (OCX)", at(16, 228, 352, 24)};
     FlatCheck Check6{qSett, "Check Executables (EXE,COM)", at(16, 256, 352, 24)};
     FlatCheck Check9{qSett, "Check Commonly Exploited Files (SCR,PIF)", at(16, 284, 352, 24)};
-    FlatButton cButton10{qSett, "Click here to setup your anti-virus or anti-trojan application(s).",
-                         at(16, 328, 440, 32)};
-    FlatButton cSave{qSett, "Save Settings", at(16, 440, 136, 32)};
-    FlatButton cCancelSett{qSett, "Cancel", at(160, 440, 136, 32)};
-    FlatButton chlp{qSett, "Help", at(448, 440, 136, 32)};
     Label Label2{qSett, "...On secure shut down:", at(384, 120, 200, 20)};
     FlatCheck Check15{qSett, "DLL", at(384, 144, 200, 24)};
     FlatCheck Check14{qSett, "DRV", at(384, 172, 200, 24)};
@@ -140,6 +147,11 @@ struct MForm1Screen : Screen {
     FlatCheck Check12{qSett, "OCX", at(384, 228, 200, 24)};
     FlatCheck Check16{qSett, "EXE,COM", at(384, 256, 200, 24)};
     FlatCheck Check17{qSett, "SCR,PIF", at(384, 284, 200, 24)};
+    FlatButton cButton10{qSett, "Click here to setup your anti-virus or anti-trojan application(s).",
+                         at(16, 328, 440, 32)};
+    FlatButton cSave{qSett, "Save Settings", at(16, 440, 136, 32)};
+    FlatButton cCancelSett{qSett, "Cancel", at(160, 440, 136, 32)};
+    FlatButton chlp{qSett, "Help", at(448, 440, 136, 32)};
 
     Frame advF{settF, at(0, 0, 600, 488), false};
     Label Label22{advF, "Tarvelon Integrity Checker Read Buffer:", at(16, 16, 248, 24)};

@@ -16,7 +16,7 @@ ControlWindow* ControlWindow::from(HWND window) {
 void ControlWindow::create(HWND parent, int id) {
     const Kind made = kind();
     const DWORD state = (control_.Visible() ? WS_VISIBLE : 0) | (control_.Enabled() ? 0 : WS_DISABLED);
-    window_ = CreateWindowExA(made.extendedStyle, made.windowClass, control_.Caption().c_str(),
+    window_ = CreateWindowExA(made.extendedStyle, made.windowClass, control_.captionOrName().c_str(),
                               WS_CHILD | WS_CLIPSIBLINGS | made.style | state, 0, 0, 0, 0, parent,
                               reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleA(nullptr),
                               nullptr);
@@ -64,6 +64,8 @@ void ControlWindow::changed(Aspect aspect) {
         return;
     case Aspect::TextColor:
         break;
+    case Aspect::Front:
+        return; // Of a screen alone.
     }
     form_.refreshLater(*this);
 }
@@ -71,7 +73,7 @@ void ControlWindow::changed(Aspect aspect) {
 void ControlWindow::refresh() {
     if (answersCaption()) {
         // The system keeps a copy for those who read it without asking; no drawing comes of this.
-        DefWindowProcA(window_, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(control_.Caption().c_str()));
+        DefWindowProcA(window_, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(control_.captionOrName().c_str()));
     }
     RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
 }
@@ -89,12 +91,12 @@ LRESULT ControlWindow::handle(UINT message, WPARAM wide, LPARAM low) {
     switch (message) {
     case WM_GETTEXT:
         if (answersCaption()) {
-            return copyCaption(control_.Caption(), wide, low);
+            return copyCaption(control_.captionOrName(), wide, low);
         }
         break;
     case WM_GETTEXTLENGTH:
         if (answersCaption()) {
-            return static_cast<LRESULT>(control_.Caption().size());
+            return static_cast<LRESULT>(control_.captionOrName().size());
         }
         break;
     case WM_PAINT:

@@ -51,6 +51,9 @@ public:
     static ControlWindow* from(HWND window);
 
     bool waitsForRefresh = false;
+    bool isFocused() const { return GetFocus() == window_; }
+    /// A list or tree without rows.
+    virtual bool isEmpty() const { return false; }
 
 protected:
     struct Kind {
@@ -81,7 +84,6 @@ protected:
     const Theme& theme() const { return tools().theme; }
     const Surface& surface() const;
     FormWindow& form() const { return form_; }
-    bool isFocused() const { return GetFocus() == window_; }
     void repaint() const { InvalidateRect(window_, nullptr, FALSE); }
     /// Draws over the edge of a window that has WS_BORDER.
     void paintThinEdge() const;

@@ -4,12 +4,6 @@
 
 namespace tarvelon {
 
-TextBoxWindow::~TextBoxWindow() {
-    if (brush_) {
-        DeleteObject(brush_);
-    }
-}
-
 std::string TextBoxWindow::shownText() {
     std::string text(static_cast<std::size_t>(handleAsClass(WM_GETTEXTLENGTH, 0, 0)) + 1, '\0');
     const LRESULT copied = handleAsClass(WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()));
@@ -44,13 +38,9 @@ Color TextBoxWindow::ground() const {
 }
 
 HBRUSH TextBoxWindow::colorStandardWindow(HDC dc) {
-    if (brush_) {
-        DeleteObject(brush_);
-    }
-    brush_ = CreateSolidBrush(ground());
     SetTextColor(dc, box_.isUsable() ? theme().fieldText : theme().disabledText);
     SetBkColor(dc, ground());
-    return brush_;
+    return brush_.of(ground());
 }
 
 LRESULT TextBoxWindow::handle(UINT message, WPARAM wide, LPARAM low) {

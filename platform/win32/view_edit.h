@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/win32/view_brush.h"
 #include "platform/win32/view_control.h"
 
 namespace tarvelon {
@@ -10,7 +11,6 @@ public:
     TextBoxWindow(FormWindow& form, TextBox& box)
         : ControlWindow(form, box)
         , box_(box) {}
-    ~TextBoxWindow() override;
 
     void notified(int code) override;
     HBRUSH colorStandardWindow(HDC dc) override;
@@ -30,7 +30,7 @@ private:
     void paintEdge();
 
     TextBox& box_;
-    HBRUSH brush_ = nullptr;
+    Brush brush_;
     bool setting_ = false; ///< The text comes from the control, not from the keyboard.
 };
 

@@ -1,5 +1,7 @@
 #include "platform/win32/view_list.h"
 
+#include "platform/win32/view_form.h"
+
 #include <algorithm>
 
 namespace tarvelon {
@@ -39,6 +41,9 @@ void ItemsWindow::applyItems(Aspect aspect) {
     stale_ = true;
     if (aspect == Aspect::Items) {
         rows_ = -1;
+        if (isEmpty() && isFocused()) {
+            form().leaveIfEmpty(*this);
+        }
     }
 }
 
@@ -205,6 +210,9 @@ void ComboBoxWindow::drawRow(const DRAWITEMSTRUCT& item) {
 }
 
 LRESULT ComboBoxWindow::handle(UINT message, WPARAM wide, LPARAM low) {
+    if (message == WM_CTLCOLORLISTBOX) {
+        return reinterpret_cast<LRESULT>(colorStandardWindow(nullptr));
+    }
     const LRESULT result = ItemsWindow::handle(message, wide, low);
     if (message == WM_SETFOCUS || message == WM_KILLFOCUS || message == WM_ENABLE) {
         repaint();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/win32/view_brush.h"
 #include "platform/win32/view_control.h"
 #include "platform/win32/view_mark.h"
 #include "platform/win32/view_tip.h"
@@ -29,6 +30,9 @@ public:
 
     void notified(int code) override;
     void refresh() override;
+    /// The ground below the last row, also that of an open drop-down list.
+    HBRUSH colorStandardWindow(HDC) override { return ground_.of(theme().field); }
+    bool isEmpty() const override { return items_.count() == 0; }
 
 protected:
     LRESULT handle(UINT message, WPARAM wide, LPARAM low) override;
@@ -56,6 +60,7 @@ private:
     int rows_ = 0; ///< Rows the window has.
     bool stale_ = true;
     bool following_ = false;
+    Brush ground_;
 };
 
 class ListBoxWindow : public ItemsWindow {

@@ -23,7 +23,9 @@ void TickWindow::paint(Canvas& canvas) {
     text.left = textLeft();
     text.right -= scaled(2);
     canvas.text(control().Caption(), text, look);
-    if (isFocused()) {
+    if (isFocused() && control().Caption().empty()) {
+        paintFocus(canvas, canvas.area(), theme().focus);
+    } else if (isFocused()) {
         const int width = canvas.textWidth(control().Caption(), look) + scaled(6);
         const int middle = heightOf(text) / 2;
         const int half = std::min(scaled(11), middle);

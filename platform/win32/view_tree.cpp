@@ -48,10 +48,9 @@ void TreeWindow::followNodes() {
     if (holdsDrawing) {
         handleAsClass(WM_SETREDRAW, FALSE, 0);
     }
-    if (anew_) {
-        clear();
-    }
+    const Stand stand = anew_ ? clear() : Stand{};
     addMissing();
+    restore(stand);
     if (holdsDrawing) {
         handleAsClass(WM_SETREDRAW, TRUE, 0);
     }
@@ -60,9 +59,34 @@ void TreeWindow::followNodes() {
     following_ = false;
 }
 
-void TreeWindow::clear() {
+TreeWindow::Stand TreeWindow::clear() {
+    Stand stand{.selected = keyOf(next(TVGN_CARET)), .first = keyOf(next(TVGN_FIRSTVISIBLE)), .open = {}};
+    for (const auto& [key, item] : items_) {
+        TVITEMA asked{};
+        asked.mask = TVIF_STATE;
+        asked.hItem = item;
+        asked.stateMask = TVIS_EXPANDED;
+        handleAsClass(TVM_GETITEMA, 0, reinterpret_cast<LPARAM>(&asked));
+        if ((asked.state & TVIS_EXPANDED) != 0) {
+            stand.open.push_back(key);
+        }
+    }
     handleAsClass(TVM_DELETEITEM, 0, reinterpret_cast<LPARAM>(TVI_ROOT));
     items_.clear();
+    return stand;
+}
+
+void TreeWindow::restore(const Stand& stand) {
+    for (const std::string& key : stand.open) {
+        handleAsClass(TVM_EXPAND, TVE_EXPAND, reinterpret_cast<LPARAM>(itemOf(key)));
+    }
+    if (const HTREEITEM selected = itemOf(stand.selected)) {
+        handleAsClass(TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(selected));
+        tree_.reselect(*tree_.find(stand.selected));
+    }
+    if (const HTREEITEM first = itemOf(stand.first)) {
+        handleAsClass(TVM_SELECTITEM, TVGN_FIRSTVISIBLE, reinterpret_cast<LPARAM>(first));
+    }
 }
 
 void TreeWindow::addMissing() {
@@ -71,12 +95,13 @@ void TreeWindow::addMissing() {
         const Tree::Node& node = nodes[index];
         std::string text = node.text; // Seen up to its first zero.
         TVINSERTSTRUCTA insert{};
-        insert.hParent = node.parent ? items_[node.parent] : TVI_ROOT;
+        const auto [item, isNew] = items_.emplace(node.key, nullptr);
+        insert.hParent = node.parent ? itemOf(node.parent->key) : TVI_ROOT;
         insert.hInsertAfter = TVI_LAST;
         insert.item.mask = TVIF_TEXT | TVIF_PARAM;
         insert.item.pszText = text.data();
-        insert.item.lParam = reinterpret_cast<LPARAM>(&node);
-        items_[&node] =
+        insert.item.lParam = reinterpret_cast<LPARAM>(&item->first);
+        item->second =
             reinterpret_cast<HTREEITEM>(handleAsClass(TVM_INSERTITEMA, 0, reinterpret_cast<LPARAM>(&insert)));
     }
 }
@@ -105,22 +130,32 @@ LRESULT TreeWindow::handle(UINT message, WPARAM wide, LPARAM low) {
 
 void TreeWindow::selectFirstIfNone() {
     // From no row at all the keys for moving lead nowhere.
-    if (handleAsClass(TVM_GETNEXTITEM, TVGN_CARET, 0) == 0) {
-        handleAsClass(TVM_SELECTITEM, TVGN_CARET, handleAsClass(TVM_GETNEXTITEM, TVGN_ROOT, 0));
+    if (!next(TVGN_CARET)) {
+        handleAsClass(TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(next(TVGN_ROOT)));
     }
 }
 
-const Tree::Node* TreeWindow::nodeOf(HTREEITEM item) {
+/// Empty for no item.
+std::string TreeWindow::keyOf(HTREEITEM item) {
     TVITEMA asked{};
     asked.mask = TVIF_PARAM;
     asked.hItem = item;
     const bool found = item && handleAsClass(TVM_GETITEMA, 0, reinterpret_cast<LPARAM>(&asked)) != 0;
-    return found ? reinterpret_cast<const Tree::Node*>(asked.lParam) : nullptr;
+    return found ? *reinterpret_cast<const std::string*>(asked.lParam) : std::string();
+}
+
+HTREEITEM TreeWindow::itemOf(const std::string& key) const {
+    const auto found = items_.find(key);
+    return found == items_.end() ? nullptr : found->second;
+}
+
+HTREEITEM TreeWindow::next(WPARAM relation) {
+    return reinterpret_cast<HTREEITEM>(handleAsClass(TVM_GETNEXTITEM, relation, 0));
 }
 
 void TreeWindow::notifiedWith(const NMHDR& header) {
-    if (following_ || anew_) {
-        return; // The items still name nodes that are gone.
+    if (following_) {
+        return; // The window changes by itself.
     }
     ++raising_;
     raise(header);

@@ -5,11 +5,15 @@
 
 #include <commctrl.h>
 
+#include <string>
 #include <unordered_map>
+#include <vector>
 
 namespace tarvelon {
 
 /// The tree in the system's tree window, whose items follow the nodes when they are next drawn or asked for.
+/// An item is known by its node's key, so that the selection, the open nodes and the place in the list
+/// outlive a tree that is filled anew.
 class TreeWindow : public ControlWindow {
 public:
     TreeWindow(FormWindow& form, Tree& tree)
@@ -27,17 +31,28 @@ protected:
     void arranged() override;
 
 private:
+    /// What the user has made of the window.
+    struct Stand {
+        std::string selected; ///< Keys.
+        std::string first;    ///< At the upper edge.
+        std::vector<std::string> open;
+    };
+
     void followNodes();
-    void clear();
+    Stand clear();
     void addMissing();
+    void restore(const Stand& stand);
     void colour();
     void selectFirstIfNone();
     void raise(const NMHDR& header);
     void clickedAgain();
-    const Tree::Node* nodeOf(HTREEITEM item);
+    std::string keyOf(HTREEITEM item);
+    HTREEITEM itemOf(const std::string& key) const;
+    HTREEITEM next(WPARAM relation);
+    const Tree::Node* nodeOf(HTREEITEM item) { return tree_.find(keyOf(item)); }
 
     Tree& tree_;
-    std::unordered_map<const Tree::Node*, HTREEITEM> items_;
+    std::unordered_map<std::string, HTREEITEM> items_; ///< The window's items point at the keys.
     bool stale_ = true;
     bool anew_ = false; ///< Nothing of what the window has is left.
     bool following_ = false;

@@ -33,6 +33,8 @@ public:
     static std::string fullPath(const Node& node);
 
     const Node* selected() const { return selected_; }
+    /// The selected node has come back after the tree was filled anew: no click is raised.
+    void reselect(const Node& node) { selected_ = &node; }
 
     Screen::Handler onNodeClick;
     /// A node was opened or closed.
