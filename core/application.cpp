@@ -86,6 +86,10 @@ void Application::bindPages() {
                       .advancedPageOpened = [this] { advancedPage.opened(); }};
     mForm1.cCreateSS.onClick = [this] { ownShortcuts.cCreateSS_Click(); };
     mForm1.cSetW.onClick = [this] {
+        if (vDct.Visible()) {
+            vDct.show(); // At the page where the user left it.
+            return;
+        }
         settingsPages.loadSettings();
         wizard.LoadUp();
     };

@@ -44,6 +44,9 @@ Win32View::~Win32View() = default;
 
 void Win32View::loaded(Screen& screen) {
     forms_.push_back(std::make_unique<FormWindow>(screen, *tools_));
+    if (blocks_ > 0) {
+        forms_.back()->setBlocked(true);
+    }
 }
 
 FormWindow* Win32View::formOf(const Screen& screen) const {
@@ -73,6 +76,27 @@ void Win32View::handle(MSG& message) {
     }
     TranslateMessage(&message);
     DispatchMessageA(&message);
+}
+
+void Win32View::block(HWND owner) {
+    if (++blocks_ > 1) {
+        return;
+    }
+    for (const auto& form : forms_) {
+        // Disabled before its box is, the owner would not come back to the front when the box closes.
+        if (form->window() != owner) {
+            form->setBlocked(true);
+        }
+    }
+}
+
+void Win32View::unblock() {
+    if (--blocks_ > 0) {
+        return;
+    }
+    for (const auto& form : forms_) {
+        form->setBlocked(false);
+    }
 }
 
 void Win32View::refresh() {

@@ -28,6 +28,10 @@ public:
 
     /// Gives one message to the form or window that it is for.
     void handle(MSG& message);
+    /// Between the two calls, which may be nested, no form can be used, while a box or a dialog that `owner`
+    /// owns is open. The owner itself is left to the box.
+    void block(HWND owner);
+    void unblock();
     /// Has all changes drawn that are not yet.
     void refresh();
     /// The same, as often as the eye can follow.
@@ -38,6 +42,7 @@ private:
 
     std::unique_ptr<ViewTools> tools_;
     std::vector<std::unique_ptr<FormWindow>> forms_; ///< Grows while messages are handled.
+    int blocks_ = 0;
 };
 
 } // namespace tarvelon

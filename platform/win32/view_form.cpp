@@ -1,5 +1,7 @@
 #include "platform/win32/view_form.h"
 
+#include "platform/win32/view_foremost.h"
+
 #include <algorithm>
 #include <iterator>
 #include <utility>
@@ -105,6 +107,9 @@ void FormWindow::changed(Aspect aspect) {
     case Aspect::Value:
         applyMinimized();
         break;
+    case Aspect::Front:
+        bringToFront();
+        break;
     default:
         captionWaits_ = true;
         refreshIfDue();
@@ -132,10 +137,26 @@ void FormWindow::applyVisible() {
     if (controls_.empty()) {
         createControls();
     }
-    ShowWindow(window_, screen_.Minimized() ? SW_SHOWMINIMIZED : SW_SHOWNORMAL);
-    if (!screen_.Minimized()) {
+    if (blocked_) {
+        SetWindowPos(window_, foremostUsable(), 0, 0, 0, 0,
+                     SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW);
+    } else if (screen_.Minimized()) {
+        ShowWindow(window_, SW_SHOWMINIMIZED);
+    } else {
+        bringToFront();
+    }
+}
+
+void FormWindow::bringToFront() {
+    if (!blocked_) {
+        ShowWindow(window_, SW_SHOWNORMAL);
         SetForegroundWindow(window_);
     }
+}
+
+void FormWindow::setBlocked(bool blocked) {
+    blocked_ = blocked;
+    EnableWindow(window_, !blocked);
 }
 
 void FormWindow::applyMinimized() {
@@ -197,6 +218,10 @@ void FormWindow::refresh() {
     if (focusLost_) {
         focusLost_ = false;
         giveFocus();
+    }
+    const ControlWindow* emptied = std::exchange(emptied_, nullptr);
+    if (emptied && emptied->isFocused() && emptied->isEmpty()) {
+        moveFocus(FALSE, FALSE);
     }
 }
 

@@ -34,6 +34,10 @@ public:
     /// A control's window comes or goes, or can or cannot be used: the keyboard must not stay where it is of
     /// no use.
     void followFocus(const ControlWindow& window);
+    /// A list with the keyboard has lost its rows: unless it has others by then, the next control gets it.
+    void leaveIfEmpty(const ControlWindow& list) { emptied_ = &list; }
+    /// A box or a system dialog is open, or no longer: the form cannot be used meanwhile.
+    void setBlocked(bool blocked);
     void themeChanged();
 
     HWND window() const { return window_; }
@@ -54,6 +58,8 @@ private:
     void arrange();
     void applyVisible();
     void applyMinimized();
+    void bringToFront();
+    bool canUseKeys(HWND window) const;
     void applyTimer(const Timer& timer);
     void scaleTo(unsigned dotsPerInch, const RECT& place);
     SIZE outerSize() const;
@@ -66,8 +72,10 @@ private:
     ViewTools& tools_;
     Scale scale_{96};
     HWND window_ = nullptr;
-    HWND focusKept_ = nullptr;           ///< Had the keyboard when the form was last left.
-    bool focusLost_ = false;             ///< What had the keyboard can have it no longer.
+    HWND focusKept_ = nullptr; ///< Had the keyboard when the form was last left.
+    bool focusLost_ = false;   ///< What had the keyboard can have it no longer.
+    bool blocked_ = false;
+    const ControlWindow* emptied_ = nullptr;
     const Control* pageShown_ = nullptr; ///< The frame that came to light last.
     std::unordered_set<const Frame*> navigation_;
     std::vector<std::unique_ptr<ControlWindow>> controls_;

@@ -1,5 +1,6 @@
 #include "platform/win32/view_form.h"
 
+#include "platform/win32/view_foremost.h"
 #include "platform/win32/view_frame.h"
 
 // What reaches a form from outside: messages, keys, the focus.
@@ -24,7 +25,11 @@ LRESULT FormWindow::handle(UINT message, WPARAM wide, LPARAM low) {
     }
     switch (message) {
     case WM_CLOSE:
-        screen_.close();
+        if (IsWindowEnabled(window_)) {
+            screen_.close();
+        } else {
+            SetForegroundWindow(foremostUsable());
+        }
         return 0;
     case WM_COMMAND:
         if (LOWORD(wide) == IDCANCEL && !screen_.canMinimize) {
@@ -82,14 +87,33 @@ bool FormWindow::takes(MSG& message) {
     } else if (up && screen_.onKeyUp) {
         screen_.dispatch([&] { screen_.onKeyUp(key); });
     }
+    const bool isKey = message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST;
+    if (isKey && !canUseKeys(message.hwnd)) {
+        return true;
+    }
     return IsDialogMessageA(window_, &message) != FALSE;
+}
+
+/// What a key going down has hidden or disabled still gets the messages that belong to the same key. There is
+/// no way on from such a window for the keyboard, and the system would look for one for ever.
+bool FormWindow::canUseKeys(HWND window) const {
+    if (!IsWindowVisible(window)) {
+        return false;
+    }
+    while (window && window != window_ && IsWindowEnabled(window)) {
+        window = GetParent(window);
+    }
+    return window == window_ && IsWindowEnabled(window_);
 }
 
 void FormWindow::activated(bool active) {
     if (!active) {
         focusKept_ = GetFocus();
+    } else if (blocked_) {
+        // Whatever brought it here, the user has the box in front of it to deal with.
+        SetForegroundWindow(foremostUsable());
     } else if (!IsIconic(window_)) {
-        if (IsChild(window_, focusKept_) && IsWindowVisible(focusKept_) && IsWindowEnabled(focusKept_)) {
+        if (IsChild(window_, focusKept_) && canUseKeys(focusKept_)) {
             SetFocus(focusKept_);
         } else {
             giveFocus();
@@ -119,16 +143,17 @@ void FormWindow::giveFocus() {
     if (!next) {
         next = GetNextDlgTabItem(window_, nullptr, FALSE);
     }
-    if (next && IsWindowVisible(next) && IsWindowEnabled(next)) {
+    if (next && canUseKeys(next)) {
         SetFocus(next);
     }
 }
 
 void FormWindow::moveFocus(WPARAM wide, LPARAM low) {
     const bool isWindow = LOWORD(low) != 0;
-    const HWND next =
-        isWindow ? reinterpret_cast<HWND>(wide) : GetNextDlgTabItem(window_, GetFocus(), wide != 0);
-    if (next) {
+    const HWND now = GetFocus();
+    const HWND from = now != window_ && canUseKeys(now) ? now : nullptr;
+    const HWND next = isWindow ? reinterpret_cast<HWND>(wide) : GetNextDlgTabItem(window_, from, wide != 0);
+    if (next && canUseKeys(next)) {
         SetFocus(next);
     }
 }

@@ -1,6 +1,8 @@
 #include "platform/win32/win32_dialogs.h"
 
 #include "platform/win32/shell_items.h"
+#include "platform/win32/view.h"
+#include "platform/win32/view_foremost.h"
 #include "platform/win32/windows_api.h"
 
 #include <commdlg.h>
@@ -48,21 +50,46 @@ Answer answerFrom(int button) {
     }
 }
 
+/// What a box or dialog belongs to and stands in front of; for as long as it lives, nothing else of the
+/// program can be used.
+class Owner {
+public:
+    explicit Owner(Win32View& view)
+        : view_(view)
+        , isActive_(GetActiveWindow() != nullptr)
+        , window_(foremostUsable()) {
+        view_.block(window_);
+    }
+    Owner(const Owner&) = delete;
+    ~Owner() { view_.unblock(); }
+
+    HWND window() const { return window_; }
+    /// The user is in another program.
+    bool isInBackground() const { return !isActive_; }
+
+private:
+    Win32View& view_;
+    bool isActive_;
+    HWND window_;
+};
+
 } // namespace
 
 Answer Win32Dialogs::message(const MessageBox& box) {
-    const HWND owner = GetActiveWindow();
-    const UINT modality = owner ? 0 : MB_TASKMODAL | MB_SETFOREGROUND;
+    const Owner owner(view_);
+    const UINT modality =
+        (owner.window() ? 0 : MB_TASKMODAL) | (owner.isInBackground() ? MB_SETFOREGROUND : 0);
     const char* title = box.title.empty() ? applicationTitle : box.title.c_str();
-    return answerFrom(MessageBoxA(owner, box.text.c_str(), title,
+    return answerFrom(MessageBoxA(owner.window(), box.text.c_str(), title,
                                   buttonFlags(box.buttons) | iconFlags(box.icon) | modality));
 }
 
 bool Win32Dialogs::getOpenFileName(OpenFileRecord& record) {
+    const Owner owner(view_);
     OPENFILENAMEA request{};
     // The record without its newer tail: the form of it that every Windows takes.
     request.lStructSize = OPENFILENAME_SIZE_VERSION_400A;
-    request.hwndOwner = GetActiveWindow();
+    request.hwndOwner = owner.window();
     request.hInstance = GetModuleHandleA(nullptr);
     request.lpstrFilter = record.filter.c_str();
     request.nFilterIndex = record.filterIndex;
@@ -74,8 +101,9 @@ bool Win32Dialogs::getOpenFileName(OpenFileRecord& record) {
 }
 
 bool Win32Dialogs::browseForFolder(const std::string& title, std::uint32_t flags, char* buffer) {
+    const Owner owner(view_);
     BROWSEINFOA request{};
-    request.hwndOwner = GetActiveWindow();
+    request.hwndOwner = owner.window();
     request.lpszTitle = title.c_str();
     request.ulFlags = flags;
     return pathFromItems(SHBrowseForFolderA(&request), buffer);

@@ -33,11 +33,12 @@ public:
     int runMessageLoop() { return messages_.run(); }
 
 private:
+    Win32View view_;
     Win32CodePage codePage_;
     Win32Files files_;
     Win32SystemFolders folders_;
     Win32CryptoService crypto_;
-    Win32Dialogs dialogs_;
+    Win32Dialogs dialogs_{view_};
     Win32Processes processes_;
     Win32Registry registry_;
     Win32Clock clock_;
@@ -45,7 +46,6 @@ private:
     Win32Shortcuts shortcuts_;
     Win32Power power_;
     Win32Desktop desktop_;
-    Win32View view_;
     Win32MessageQueue messages_{view_};
 };
 

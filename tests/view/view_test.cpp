@@ -178,6 +178,30 @@ TEST_F(View, TheMouseGivesLooks) {
     EXPECT_EQ(course, "down up click") << "A label hears of the press as well";
 }
 
+TEST_F(View, AKeyThatGoesElsewhereLetsGo) {
+    int clicks = 0;
+    screen.action.onClick = [&] { ++clicks; };
+    const HWND action = windowAt(screen.action);
+    SetForegroundWindow(form);
+    SetFocus(action);
+    SendMessageA(action, WM_KEYDOWN, VK_SPACE, 1);
+    SetFocus(windowAt(screen.text));
+    SendMessageA(action, WM_LBUTTONUP, 0, MAKELPARAM(60, 16));
+    EXPECT_EQ(clicks, 0);
+    SetFocus(action);
+    SendMessageA(action, WM_KEYDOWN, VK_SPACE, 1);
+    SendMessageA(action, WM_KEYUP, VK_SPACE, static_cast<LPARAM>(0xC0000001));
+    EXPECT_EQ(clicks, 1);
+
+    // The character of the key comes behind the click, to a button that is hidden by then.
+    screen.button.onClick = [&] { screen.page.Visible = false; };
+    SetFocus(windowAt(screen.button));
+    PostMessageA(windowAt(screen.button), WM_KEYDOWN, VK_RETURN, 1);
+    pumpFor(60);
+    EXPECT_FALSE(screen.page.Visible());
+    EXPECT_EQ(GetFocus(), GetWindow(windowAt(screen.lit), GW_HWNDNEXT));
+}
+
 TEST_F(View, HiddenControlsStayWindows) {
     EXPECT_FALSE(IsWindowVisible(windowAt(screen.unseenText)));
     screen.unseenText.Caption = "scanner.exe";
@@ -293,10 +317,23 @@ TEST_F(View, ATreeMayBeFilledAnewByItsOwnClick) {
     const LRESULT newRoot = SendMessageA(tree, TVM_GETNEXTITEM, TVGN_ROOT, 0);
     EXPECT_EQ(textNow(newRoot), "new");
     EXPECT_EQ(textNow(SendMessageA(tree, TVM_GETNEXTITEM, TVGN_CHILD, newRoot)), "seen");
+    EXPECT_EQ(SendMessageA(tree, TVM_GETNEXTITEM, TVGN_CARET, 0), newRoot) << "It is still the same node";
 
+    // Every key may fill the tree anew, and the keyboard still gets on.
     screen.tree.onNodeClick = [&] { ++clicks; };
+    screen.tree.onKeyDown = [&](int) { fill("again"); };
+    SendMessageA(tree, WM_KEYDOWN, VK_RIGHT, 1);
+    platform.view().refresh();
     SendMessageA(tree, WM_KEYDOWN, VK_DOWN, 1);
-    EXPECT_GE(clicks, 2) << "The keyboard finds its way in where nothing is selected";
+    platform.view().refresh();
+    EXPECT_EQ(clicks, 2);
+    EXPECT_EQ(screen.tree.selected(), screen.tree.find("value"));
+
+    screen.tree.onKeyDown = {};
+    screen.tree.clear();
+    screen.tree.addRoot("other", "Other");
+    SendMessageA(tree, WM_KEYDOWN, VK_DOWN, 1);
+    EXPECT_EQ(clicks, 3) << "The keyboard finds its way in where nothing is selected";
 }
 
 TEST_F(View, ALitPictureTakesTheMouseAndLeavesTheKeyboard) {
@@ -309,7 +346,9 @@ TEST_F(View, ALitPictureTakesTheMouseAndLeavesTheKeyboard) {
         ++focused;
         screen.lit.Visible = true;
     };
-    screen.plain.onClick = [&] { clicked += "plain "; };
+    screen.plain.onFocusLost = [&] { screen.lit.Visible = false; };
+    screen.plain.onKeyPress = [&] { clicked += "press "; };
+    screen.plain.onKeyClick = [&] { clicked += "plain "; };
     screen.lit.onClick = [&] { clicked += "lit "; };
     SetForegroundWindow(form);
     SetFocus(plain);
@@ -320,8 +359,10 @@ TEST_F(View, ALitPictureTakesTheMouseAndLeavesTheKeyboard) {
     SendMessageA(lit, WM_LBUTTONDOWN, MK_LBUTTON, middle);
     EXPECT_EQ(GetFocus(), plain) << "It is gone as soon as the mouse moves on";
     SendMessageA(lit, WM_LBUTTONUP, 0, middle);
-    EXPECT_EQ(clicked, "plain lit ");
+    EXPECT_EQ(clicked, "press plain lit ");
     EXPECT_FALSE(isTabStop(screen.lit));
+    SetFocus(windowAt(screen.button));
+    EXPECT_FALSE(IsWindowVisible(lit));
 
     RECT place;
     GetWindowRect(lit, &place);
@@ -382,6 +423,25 @@ TEST_F(View, AHandlerMayOpenAnotherScreenAndSeesKeys) {
     EXPECT_TRUE(other.isLoaded());
     EXPECT_NE(FindWindowA("TarvelonForm", "Other"), nullptr);
     EXPECT_THAT(keys, testing::ElementsAre(VK_SHIFT, -VK_SHIFT));
+    const HWND otherForm = FindWindowA("TarvelonForm", "Other");
+
+    SetForegroundWindow(form);
+    other.show();
+    EXPECT_EQ(GetActiveWindow(), otherForm) << "It was covered";
+    ShowWindow(otherForm, SW_MINIMIZE);
+    other.show();
+    EXPECT_FALSE(IsIconic(otherForm));
+    EXPECT_EQ(GetActiveWindow(), otherForm);
+
+    SetTimer(nullptr, 0, 50, [](HWND, UINT, UINT_PTR timer, DWORD) {
+        KillTimer(nullptr, timer);
+        EXPECT_FALSE(IsWindowEnabled(FindWindowA("TarvelonForm", "Sample")));
+        EXPECT_FALSE(IsWindowEnabled(FindWindowA("TarvelonForm", "Other")));
+        SendMessageA(FindWindowA("#32770", "TarvelonLow"), WM_COMMAND, IDOK, 0);
+    });
+    platform.platform().dialogs.message({.text = "A box"});
+    EXPECT_TRUE(IsWindowEnabled(form) && IsWindowEnabled(otherForm));
+    EXPECT_EQ(GetActiveWindow(), otherForm);
     other.hide();
 }
 

@@ -40,6 +40,8 @@ TEST_F(WizardRun, NinePagesFromWelcomeToDone) {
     next();
     EXPECT_EQ(form().title.Caption(), "Anti-Virus Setup (1/2)");
     EXPECT_TRUE(form().vpath.Visible() && form().varg.Visible() && form().Label4.Visible());
+    app->mForm1.cSetW.click();
+    EXPECT_EQ(form().title.Caption(), "Anti-Virus Setup (1/2)") << "Asked for again, it stays where it was";
     form().Label2.click();
     EXPECT_EQ(form().title.Caption(), "Welcome to the Setup Wizard");
     next();

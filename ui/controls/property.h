@@ -14,6 +14,7 @@ enum class Aspect {
     Items,     ///< All rows anew.
     ItemAdded,
     ToolTip,
+    Front, ///< A screen that is shown already is wanted in front.
 };
 
 /// A value that tells its owner about each real change. The owner has `void changed(Aspect)`.

@@ -34,6 +34,10 @@ void Screen::load() {
 
 void Screen::show() {
     load();
+    Minimized = false;
+    if (Visible()) {
+        changed(Aspect::Front);
+    }
     Visible = true;
 }
 

@@ -39,6 +39,8 @@ public:
 
     /// Runs the load handler if the screen has not been loaded yet.
     void load();
+    /// Brings the screen to light, at its full size and in front of all others, also when it is shown
+    /// already.
     void show();
     /// A screen that is hidden by its own load handler stays hidden.
     void hide();
