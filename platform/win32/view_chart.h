@@ -11,6 +11,8 @@ public:
         : ControlWindow(form, chart)
         , chart_(chart) {}
 
+    bool takesKeys() const override { return false; }
+
 protected:
     Kind kind() const override;
     void paint(Canvas& canvas) override;

@@ -52,6 +52,8 @@ public:
 
     bool waitsForRefresh = false;
     bool isFocused() const { return GetFocus() == window_; }
+    /// Labels, bars, charts and frames do not.
+    virtual bool takesKeys() const { return true; }
     /// A list or tree without rows.
     virtual bool isEmpty() const { return false; }
 

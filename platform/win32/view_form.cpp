@@ -74,7 +74,7 @@ void FormWindow::createControls() {
         }
     }
     int id = firstControlId;
-    std::unordered_map<const Frame*, ControlKind> before;
+    std::unordered_map<const Frame*, std::optional<ControlKind>> before;
     for (Control* control : screen_.controls()) {
         if (control->kind() == ControlKind::Timer) {
             continue;
@@ -83,12 +83,13 @@ void FormWindow::createControls() {
         const ControlWindow* frame = control->frame() ? windowOf(*control->frame()) : nullptr;
         byControl_[control] = made.get();
         made->create(frame ? frame->window() : window_, id++);
-        // The arrow keys go round among neighbours of one kind.
-        const auto previous = before.find(control->frame());
-        if (previous == before.end() || previous->second != control->kind()) {
+        // The arrow keys go round among neighbours of one kind; what takes no keys is a group of its own.
+        std::optional<ControlKind>& previous = before[control->frame()];
+        const auto group = made->takesKeys() ? std::optional(control->kind()) : std::nullopt;
+        if (!group || group != previous) {
             SetWindowLongA(made->window(), GWL_STYLE, GetWindowLongA(made->window(), GWL_STYLE) | WS_GROUP);
         }
-        before[control->frame()] = control->kind();
+        previous = group;
         controls_.push_back(std::move(made));
     }
 }

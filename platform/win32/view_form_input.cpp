@@ -127,6 +127,8 @@ void FormWindow::followFocus(const ControlWindow& window) {
     if (!usable && focus && (focus == window.window() || IsChild(window.window(), focus))) {
         SetFocus(window_);
         focusLost_ = true;
+    } else if (usable && focus == window_) {
+        focusLost_ = true; // Nothing could take the keyboard so far.
     }
 }
 

@@ -11,6 +11,8 @@ public:
         : ControlWindow(form, frame)
         , frame_(frame) {}
 
+    bool takesKeys() const override { return false; }
+
 protected:
     Kind kind() const override;
     LRESULT handle(UINT message, WPARAM wide, LPARAM low) override;

@@ -11,6 +11,8 @@ public:
         : ControlWindow(form, label)
         , label_(label) {}
 
+    bool takesKeys() const override { return false; }
+
 protected:
     Kind kind() const override { return {"STATIC"}; }
     LRESULT handle(UINT message, WPARAM wide, LPARAM low) override;

@@ -10,6 +10,7 @@ namespace tarvelon {
 class PictureWindow : public PressWindow {
 public:
     PictureWindow(FormWindow& form, Picture& picture);
+    bool takesKeys() const override { return !lit_; }
 
 protected:
     Kind kind() const override;

@@ -12,6 +12,8 @@ public:
 
     void refresh() override;
 
+    bool takesKeys() const override { return false; }
+
 protected:
     Kind kind() const override;
     void paint(Canvas& canvas) override;
