@@ -32,11 +32,6 @@ INPUT mouseInput(DWORD event) {
     return input;
 }
 
-void mouse(DWORD event) {
-    INPUT input = mouseInput(event);
-    SendInput(1, &input, sizeof input);
-}
-
 /// Waits until a click on a row cannot pass for the second half of a double click.
 void awaitSingleClick() {
     static DWORD last = 0;
@@ -68,9 +63,9 @@ void pointAt(HWND control, const RECT& place, const std::function<bool()>& ready
 /// A real click, through the system's input queue.
 void clickAt(HWND control, const RECT& place, const std::function<bool()>& ready) {
     pointAt(control, place, ready);
-    mouse(MOUSEEVENTF_LEFTDOWN);
+    sendMouse(MOUSEEVENTF_LEFTDOWN);
     Sleep(hand);
-    mouse(MOUSEEVENTF_LEFTUP);
+    sendMouse(MOUSEEVENTF_LEFTUP);
 }
 
 void clickOn(HWND control) {
@@ -165,14 +160,23 @@ void doubleClickOn(HWND control, const RECT& place) {
     SendInput(4, all, sizeof press);
 }
 
-void pressKey(WORD key) {
+void sendKey(WORD key, DWORD flags) {
     INPUT input{};
     input.type = INPUT_KEYBOARD;
     input.ki.wVk = key;
+    input.ki.dwFlags = flags;
     SendInput(1, &input, sizeof input);
+}
+
+void sendMouse(DWORD event) {
+    INPUT input = mouseInput(event);
+    SendInput(1, &input, sizeof input);
+}
+
+void pressKey(WORD key) {
+    sendKey(key, 0);
     Sleep(hand);
-    input.ki.dwFlags = KEYEVENTF_KEYUP;
-    SendInput(1, &input, sizeof input);
+    sendKey(key, KEYEVENTF_KEYUP);
 }
 
 std::string plainBreaks(const std::string& text) {

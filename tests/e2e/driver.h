@@ -39,6 +39,11 @@ void doubleClickOn(HWND control, const RECT& place);
 /// Presses and releases a key, which goes to where the keyboard is.
 void pressKey(WORD key);
 
+/// One half of that; `flags` is 0 or KEYEVENTF_KEYUP.
+void sendKey(WORD key, DWORD flags);
+/// One press or release of the mouse where it stands, such as MOUSEEVENTF_LEFTDOWN.
+void sendMouse(DWORD event);
+
 /// One top-level window of the program. Controls are found by the text that the user reads.
 class Form {
 public:
@@ -139,6 +144,12 @@ public:
     void kill() const;
     /// True when the process has ended by itself within `limit`.
     bool ends(Milliseconds limit = patience) const;
+    /// What it has ended with.
+    DWORD exitCode() const;
+
+    DWORD id() const { return process_.dwProcessId; }
+    /// The visible windows, from the front to the back.
+    std::vector<HWND> windows() const;
 
     /// The files that the process is made of: its program and the libraries loaded by now.
     std::vector<std::string> modules() const;
@@ -147,7 +158,6 @@ public:
     std::string describe() const;
 
 private:
-    std::vector<HWND> windows() const;
     std::optional<HWND> formNow(const std::string& captionPart) const;
 
     PROCESS_INFORMATION process_{};

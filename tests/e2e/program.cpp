@@ -127,6 +127,12 @@ bool Program::ends(Milliseconds limit) const {
     return WaitForSingleObject(process_.hProcess, static_cast<DWORD>(limit.count())) == WAIT_OBJECT_0;
 }
 
+DWORD Program::exitCode() const {
+    DWORD code = 0;
+    GetExitCodeProcess(process_.hProcess, &code);
+    return code;
+}
+
 std::string Program::describe() const {
     if (ends(Milliseconds(0))) {
         return "the program has ended";

@@ -51,20 +51,12 @@ class HeldKey {
 public:
     explicit HeldKey(WORD key)
         : key_(key) {
-        send(0);
+        sendKey(key_, 0);
     }
     HeldKey(const HeldKey&) = delete;
-    ~HeldKey() { send(KEYEVENTF_KEYUP); }
+    ~HeldKey() { sendKey(key_, KEYEVENTF_KEYUP); }
 
 private:
-    void send(DWORD flags) const {
-        INPUT input{};
-        input.type = INPUT_KEYBOARD;
-        input.ki.wVk = key_;
-        input.ki.dwFlags = flags;
-        SendInput(1, &input, sizeof input);
-    }
-
     WORD key_;
 };
 

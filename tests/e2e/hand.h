@@ -1,0 +1,68 @@
+#pragma once
+
+#include "driver.h"
+
+#include <cstdint>
+#include <map>
+#include <random>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace e2e {
+
+/// What is drawn for one event. The same seed and number draw the same, whatever went before.
+class Chance {
+public:
+    Chance(std::uint32_t seed, std::uint32_t number);
+
+    std::uint32_t below(std::size_t count) { return draw_() % static_cast<std::uint32_t>(count); }
+    bool oneIn(std::uint32_t count) { return below(count) == 0; }
+    template<class Many>
+    const auto& of(const Many& all) {
+        return all[below(std::size(all))];
+    }
+
+private:
+    std::mt19937 draw_;
+};
+
+/// A user's hand on the keyboard and the mouse, which does at random what can be done to what stands on the
+/// screen. All of it goes through the system's input queue.
+class Hand {
+public:
+    /// `scanner` is the file that it picks where a file is asked for.
+    Hand(const Program& program, std::string scanner)
+        : program_(program)
+        , scanner_(std::move(scanner)) {}
+    Hand(const Hand&) = delete;
+    ~Hand();
+
+    /// One event. Tells what was done.
+    std::string act(Chance& chance);
+
+    /// True when that event may have ended the program: a window was closed, a box answered, or a control
+    /// used that says so.
+    bool left() const { return left_; }
+
+private:
+    std::string pressSomeKey(Chance& chance);
+    std::string holdOrLetGo(WORD key);
+    std::string clickSomething(Chance& chance);
+    std::string useFrame(Chance& chance);
+    std::string comeBack(HWND window);
+    std::string useSystemDialog(const Box& box, Chance& chance);
+    std::vector<HWND> targets(HWND window) const;
+    HWND chooseTarget(const std::vector<HWND>& all, Chance& chance);
+
+    const Program& program_;
+    const std::string scanner_;
+    std::set<WORD> held_;
+    std::map<std::string, int> used_; ///< How often each control has been clicked.
+    bool left_ = false;
+};
+
+/// True for a dialog that is the system's own, not a message box.
+bool isSystemDialog(HWND window);
+
+} // namespace e2e

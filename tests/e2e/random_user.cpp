@@ -1,0 +1,256 @@
+// Uses the program at random, by real keys and the real mouse, and sees after each event that it can still be
+// used:
+//
+//     random_user PROGRAM [--seed N] [--plays N] [--events N] [--minutes N] [--shut-down 1]
+//
+// A play is so many events from one seed, in a fresh folder with findings; the next play has the next seed.
+// Plays go on until there were so many, or until the minutes have passed. What a play does hangs on its seed
+// and on what stands on the screen. Only with --shut-down is the shut-down dialog opened. Ends with the
+// number of plays that failed.
+
+#include "demands.h"
+#include "hand.h"
+#include "planted_value.h"
+#include "recorder.h"
+#include "seen_windows.h"
+#include "workplace.h"
+
+#include <algorithm>
+#include <atomic>
+#include <cstdio>
+#include <map>
+#include <memory>
+
+namespace e2e {
+namespace {
+
+struct Options {
+    std::uint32_t seed = 1;
+    std::uint32_t plays = 1;
+    std::uint32_t events = 250;
+    std::uint32_t minutes = 0; ///< In place of the plays, unless it is 0.
+    std::uint32_t shutDown = 0;
+};
+
+/// How the program is started, out of ten times.
+constexpr const char* usualStarts[] = {"", "", "", "", "", "", "/r", "/r", "/r", "/a"};
+constexpr const char* shutDownStarts[] = {"/s", "/s", "/s", "/s", "/s", "/s", "/s", "/s", "/a", ""};
+
+/// Refuses whenever the system asks whether it may go down: this program was started first, so it is asked
+/// first.
+class Guard {
+public:
+    Guard() { CloseHandle(CreateThread(nullptr, 0, stand, nullptr, 0, nullptr)); }
+    static int timesAsked() { return asked; }
+
+private:
+    static DWORD WINAPI stand(void*) {
+        WNDCLASSA kind{};
+        kind.lpfnWndProc = onMessage;
+        kind.lpszClassName = "Guard";
+        RegisterClassA(&kind);
+        CreateWindowA(kind.lpszClassName, "", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr);
+        for (MSG message{}; GetMessageA(&message, nullptr, 0, 0) > 0;) {
+            DispatchMessageA(&message);
+        }
+        return 0;
+    }
+    static LRESULT CALLBACK onMessage(HWND window, UINT message, WPARAM wide, LPARAM low) {
+        if (message == WM_QUERYENDSESSION) {
+            ++asked;
+            return FALSE;
+        }
+        return DefWindowProcA(window, message, wide, low);
+    }
+    static inline std::atomic<int> asked = 0;
+};
+
+/// Two folders under watch: one with more findings than are accepted in a moment, and one whose scan lasts.
+struct WatchedFolders {
+    const ProgramFolder many{"many"};
+    const ProgramFolder big{"big"};
+
+    WatchedFolders() {
+        for (int number = 1000; number < 5000; ++number) {
+            writeFile(many.path() + std::to_string(number) + ".dll", std::to_string(number));
+        }
+        for (const std::string name : {"a.drv", "b.drv", "c.dll", "d.dll", "e.exe", "f.exe"}) {
+            writeFile(big.path() + name, "");
+            PlantedFile::stretch(big.path() + name, 600'000'000);
+        }
+    }
+};
+
+/// Ends what the program has started, such as a browser; all else on the screen is the desktop's.
+void closeOtherPrograms(const Program& program) {
+    EnumWindows(
+        [](HWND window, LPARAM spared) {
+            DWORD desktop = 0;
+            DWORD owner = 0;
+            GetWindowThreadProcessId(GetDesktopWindow(), &desktop);
+            GetWindowThreadProcessId(window, &owner);
+            if (IsWindowVisible(window) != 0 && owner != desktop && owner != static_cast<DWORD>(spared) &&
+                owner != GetCurrentProcessId()) {
+                HANDLE const process = OpenProcess(PROCESS_TERMINATE, FALSE, owner);
+                TerminateProcess(process, 0);
+                CloseHandle(process);
+            }
+            return TRUE;
+        },
+        static_cast<LPARAM>(program.id()));
+}
+
+class Play {
+public:
+    Play(std::uint32_t seed, const WatchedFolders& watched, bool shutDown)
+        : seed_(seed)
+        , watched_(watched)
+        , shutDown_(shutDown) {
+        const std::string accept = Chance(seed, 0).oneIn(2) ? "1" : "0";
+        folder_.writeSettings({{"settings", "0,1,0,0,0,0," + accept + ",1\r\nsettings2=0,1,0,0,0,0"},
+                               {"antivirus", scanner_.path() + "|/scan"},
+                               {"1/path", watched_.many.path()},
+                               {"1/args", "1,0,0,0,0,0,1"},
+                               {"1/args2", "1,0,0,0,0,0,1"},
+                               {"2/path", watched_.big.path()},
+                               {"2/args", "1,1,0,0,1,0,1"}});
+    }
+
+    void run(std::uint32_t events) {
+        while (event_ < events) {
+            Chance chance(seed_, ++event_);
+            start(chance);
+            const std::uint32_t last = std::min(events, event_ + 30 + chance.below(60));
+            {
+                Hand hand(*program_, scanner_.path());
+                while (event_ < last && go(hand)) {
+                }
+            }
+            program_.reset(); // As if the power had gone.
+            demandWholeFiles(folder_);
+        }
+    }
+
+    std::uint32_t event() const { return event_; }
+    std::string describe() const { return program_ ? program_->describe() : ""; }
+
+private:
+    /// What is found may have been accepted by now, so most starts find it anew.
+    void start(Chance& chance) {
+        const char* const arguments = chance.of(shutDown_ ? shutDownStarts : usualStarts);
+        const bool firstTime = *arguments == '\0' && chance.oneIn(8);
+        if (firstTime) {
+            DeleteFileA((folder_.path() + "Data\\Integrity.dat").c_str());
+            DeleteFileA((folder_.path() + "Data\\integrity.bak").c_str());
+        } else if (event_ == 1 || !chance.oneIn(3)) {
+            for (const char* name : {"Integrity.dat", "1.dat", "2.dat"}) {
+                folder_.writeData(name, smallBaseline("DLL", ""));
+            }
+        }
+        std::printf("%u: starts it%s with \"%s\"\n", event_, firstTime ? " for the first time" : "",
+                    arguments);
+        endsByItself_ = *arguments != '\0';
+        program_ = std::make_unique<Program>(folder_.program(), arguments);
+        comesTrue([this] { return !program_->windows().empty() || program_->ends(Milliseconds(0)); });
+    }
+
+    /// One event and what must hold behind it. False when the program has ended.
+    bool go(Hand& hand) {
+        Chance chance(seed_, ++event_);
+        closeOtherPrograms(*program_);
+        std::printf("%u: ", event_);
+        std::printf("%s\n", hand.act(chance).c_str());
+        std::fflush(stdout);
+        sinceLeft_ = hand.left() ? 0 : sinceLeft_ + 1;
+        Sleep(pause);
+        demandUsable(*program_);
+        demandPowerStaysOn();
+        if (!program_->ends(Milliseconds(0))) {
+            return true;
+        }
+        if (program_->exitCode() != 0 || (!endsByItself_ && sinceLeft_ > 5)) {
+            throw NotSeen("the program has ended with " + std::to_string(program_->exitCode()));
+        }
+        std::printf("%u: it has ended\n", event_);
+        return false;
+    }
+
+    void demandPowerStaysOn() const {
+        if (!shutDown_ && Guard::timesAsked() > 0) {
+            throw NotSeen("the system is asked to go down");
+        }
+    }
+
+    static constexpr DWORD pause = 30; // milliseconds until an event has reached the program
+
+    const std::uint32_t seed_;
+    const WatchedFolders& watched_;
+    const bool shutDown_;
+    const ProgramFolder folder_{"random-user"};
+    const RecordingScanner scanner_{folder_.path() + "scanner.exe"};
+    const PlantedValue stranger_{HKEY_LOCAL_MACHINE, R"(Software\Microsoft\Windows\CurrentVersion\Run)",
+                                 "Stranger", systemDirectory() + "notepad.exe /silent"};
+    std::unique_ptr<Program> program_;
+    std::uint32_t event_ = 0;
+    bool endsByItself_ = false;
+    int sinceLeft_ = 0; ///< Events since one that may have ended it, which may take its time.
+};
+
+Options readOptions(int count, char** arguments) {
+    Options options;
+    const std::map<std::string, std::uint32_t*> numbers = {{"--seed", &options.seed},
+                                                           {"--plays", &options.plays},
+                                                           {"--events", &options.events},
+                                                           {"--minutes", &options.minutes},
+                                                           {"--shut-down", &options.shutDown}};
+    for (int i = 2; i + 1 < count; i += 2) {
+        const auto number = static_cast<std::uint32_t>(std::strtoul(arguments[i + 1], nullptr, 10));
+        const auto known = numbers.find(arguments[i]);
+        (known == numbers.end() ? throw NotSeen("unknown option") : *known->second) = number;
+    }
+    return options;
+}
+
+/// Gives the number of plays that failed.
+int play(const Options& options) {
+    const Guard guard;
+    const WatchedFolders watched;
+    const auto start = std::chrono::steady_clock::now();
+    const auto minutes = [&] {
+        return std::chrono::duration<double, std::ratio<60>>(std::chrono::steady_clock::now() - start)
+            .count();
+    };
+    std::uint32_t plays = 0;
+    std::uint32_t events = 0;
+    int failed = 0;
+    for (; options.minutes != 0 ? minutes() < options.minutes : plays < options.plays; ++plays) {
+        const std::uint32_t seed = options.seed + plays;
+        std::printf("Seed %u\n", seed);
+        Play one(seed, watched, options.shutDown != 0);
+        try {
+            one.run(options.events);
+        } catch (const std::exception& failure) {
+            std::printf("FAILED: seed %u, event %u: %s\n%s\n", seed, one.event(), failure.what(),
+                        one.describe().c_str());
+            ++failed;
+        }
+        events += one.event();
+    }
+    std::printf("%u plays, %u events, %.1f minutes, %d asked to go down, %d failed\n", plays, events,
+                minutes(), Guard::timesAsked(), failed);
+    return failed;
+}
+
+} // namespace
+} // namespace e2e
+
+int main(int count, char** arguments) {
+    try {
+        const e2e::Options options = e2e::readOptions(count, arguments);
+        e2e::setInputs({arguments[1], ""});
+        return e2e::play(options);
+    } catch (const std::exception& failure) {
+        std::fprintf(stderr, "%s\n", failure.what());
+        return 1;
+    }
+}
