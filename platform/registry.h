@@ -23,7 +23,8 @@ public:
 
     virtual ~Registry() = default;
 
-    /// `RegOpenKeyExA` with options 0. `key` stays as it was on failure.
+    /// `RegOpenKeyExA` with options 0. `key` is 0 on failure. The number of a closed key is given out again,
+    /// to whoever in the process opens something next.
     virtual std::int32_t openKey(Key root, const std::string& path, std::uint32_t access, Key& key) = 0;
 
     /// `RegEnumKeyA`: the sub-key's name with a zero, into `size` bytes.

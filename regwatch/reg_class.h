@@ -53,7 +53,7 @@ private:
     Registry& registry_;
     Registry::Key root_ = 0;
     std::string subKey_;
-    Registry::Key key_ = 0; ///< Kept when the key is closed.
+    Registry::Key key_ = 0; ///< Kept when the key is closed; 0 when it could not be opened.
     bool open_ = false;
 };
 

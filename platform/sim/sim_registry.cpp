@@ -16,6 +16,7 @@ namespace tarvelon {
 namespace {
 
 constexpr std::int32_t success = 0;
+constexpr Registry::Key firstKey = 0x100;
 
 std::string upper(const std::string& text) {
     static const CaseRules cases = [] {
@@ -164,6 +165,7 @@ SimRegistry::Node* SimRegistry::nodeOf(Key key, std::uint32_t rights, std::int32
 }
 
 std::int32_t SimRegistry::openKey(Key root, const std::string& path, std::uint32_t access, Key& key) {
+    key = 0;
     std::int32_t result = accessDenied;
     Node* const start = faults_.strikes(Operation::OpenKey) ? nullptr : nodeOf(root, 0, result);
     if (!start) {
@@ -176,8 +178,9 @@ std::int32_t SimRegistry::openKey(Key root, const std::string& path, std::uint32
     if ((node->denied & access) != 0) {
         return accessDenied;
     }
-    key = nextKey_;
-    nextKey_ += 4;
+    for (key = firstKey; open_.contains(key);) {
+        key += 4;
+    }
     open_[key] = {node, access};
     return success;
 }

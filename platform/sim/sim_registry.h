@@ -12,7 +12,8 @@ class Faults;
 
 /// A registry in memory. Keys and values are found without regard to case, in code page 1252, and keep the
 /// spelling they were made with. Sub-keys are listed by name, values in the order they were made in.
-/// `classesRoot` is the local machine's "Software\Classes". A call that is told to fail denies access.
+/// `classesRoot` is the local machine's "Software\Classes". A key that is opened gets the lowest free number,
+/// so that one closed before answers to its old number. A call that is told to fail denies access.
 class SimRegistry : public Registry {
 public:
     enum Type : std::uint32_t { None, Text, ExpandableText, Binary, Number, TextList = 7 };
@@ -70,7 +71,6 @@ private:
     Faults& faults_;
     std::map<Key, std::unique_ptr<Node>> roots_;
     std::map<Key, OpenKey> open_;
-    Key nextKey_ = 0x100;
 };
 
 } // namespace tarvelon

@@ -20,9 +20,7 @@ Registry::Key keyOf(HKEY handle) {
 std::int32_t Win32Registry::openKey(Key root, const std::string& path, std::uint32_t access, Key& key) {
     HKEY opened = nullptr;
     const LONG result = RegOpenKeyExA(handleOf(root), path.c_str(), 0, access, &opened);
-    if (result == ERROR_SUCCESS) {
-        key = keyOf(opened);
-    }
+    key = result == ERROR_SUCCESS ? keyOf(opened) : 0;
     return result;
 }
 

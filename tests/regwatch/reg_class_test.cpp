@@ -124,6 +124,11 @@ TEST_F(RegClassTest, OneKeyIsOpenAtATime) {
     EXPECT_EQ(key.RegistryRootKey(), root);
     EXPECT_EQ(key.SubDirectory(), "missing") << "Kept even so";
     EXPECT_EQ(registry.openKeys(), 0u);
+    RegClass stranger(registry);
+    EXPECT_TRUE(stranger.OpenRegistry(root, path));
+    EXPECT_FALSE(key.CloseRegistry());
+    EXPECT_EQ(registry.openKeys(), 1u) << "Whoever has the closed key's number by now";
+    stranger.CloseRegistry();
 
     EXPECT_TRUE(key.OpenRegistry(root, path));
     EXPECT_FALSE(key.OpenRegistry(0, "other"));
