@@ -9,7 +9,9 @@ namespace tarvelon {
 /// The setup wizard: nine pages that share one title and one description.
 struct WizardScreen : Screen {
     WizardScreen()
-        : Screen("Tarvelon - Setup Wizard", 640, 416) {}
+        : Screen("Tarvelon - Setup Wizard", 640, 416) {
+        vpath.Caption = "Anti-Virus Path";
+    }
 
     Label title{*this, "%Title%", at(32, 24, 576, 28), TextStyle::Heading};
     Label desc{*this, "%Description", at(32, 64, 576, 136)};

@@ -42,6 +42,7 @@ TEST_F(WizardRun, NinePagesFromWelcomeToDone) {
     EXPECT_TRUE(form().vpath.Visible() && form().varg.Visible() && form().Label4.Visible());
     app->mForm1.cSetW.click();
     EXPECT_EQ(form().title.Caption(), "Anti-Virus Setup (1/2)") << "Asked for again, it stays where it was";
+    EXPECT_EQ(form().vpath.Caption(), "Anti-Virus Path");
     form().Label2.click();
     EXPECT_EQ(form().title.Caption(), "Welcome to the Setup Wizard");
     next();
