@@ -24,6 +24,13 @@ OpenArguments argumentsFor(OpenMode mode) {
     return {GENERIC_READ | GENERIC_WRITE, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL};
 }
 
+/// Whoever else uses the file may go on. Systems before the NT family refuse an open that names deleting,
+/// which they do not know.
+DWORD sharing() {
+    static const bool ntFamily = GetVersion() < 0x80000000;
+    return FILE_SHARE_READ | FILE_SHARE_WRITE | (ntFamily ? FILE_SHARE_DELETE : 0);
+}
+
 /// The largest piece handed to one system call, whose counts have 32 bits.
 constexpr std::size_t largestPiece = std::size_t{1} << 30;
 
@@ -31,9 +38,8 @@ constexpr std::size_t largestPiece = std::size_t{1} << 30;
 
 std::unique_ptr<OpenFile> Win32OpenFile::open(const std::string& path, OpenMode mode) {
     const OpenArguments arguments = argumentsFor(mode);
-    const HANDLE file =
-        CreateFileA(path.c_str(), arguments.access, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
-                    nullptr, arguments.disposition, arguments.flags, nullptr);
+    const HANDLE file = CreateFileA(path.c_str(), arguments.access, sharing(), nullptr, arguments.disposition,
+                                    arguments.flags, nullptr);
     if (file == INVALID_HANDLE_VALUE) {
         return nullptr;
     }
