@@ -30,27 +30,24 @@ std::string_view withoutQuotes(std::string_view value) {
     return quoted ? value.substr(1, value.size() - 2) : value;
 }
 
+/// A `key=value` line, as opposed to all others. The key may be any name, so that one like a comment or a
+/// section head is found again.
+bool isEntry(std::string_view line) {
+    return line.find('=') != std::string_view::npos;
+}
+
 /// The name in a section head, or nothing for any other line.
-std::optional<std::string_view> sectionHead(std::string_view line) {
-    if (line.empty() || line.front() != '[') {
+std::optional<std::string_view> sectionHead(std::string_view trimmedLine) {
+    const std::size_t close = trimmedLine.find(']');
+    if (!trimmedLine.starts_with('[') || close == std::string_view::npos || isEntry(trimmedLine)) {
         return std::nullopt;
     }
-    const std::size_t close = line.find(']');
-    if (close == std::string_view::npos) {
-        return std::nullopt;
-    }
-    return trimBlanks(line.substr(1, close - 1));
+    return trimBlanks(trimmedLine.substr(1, close - 1));
 }
 
-/// A `key=value` line, as opposed to all others.
-bool isEntry(std::string_view trimmedLine) {
-    return trimmedLine.find('=') != std::string_view::npos && trimmedLine.front() != ';' &&
-           !sectionHead(trimmedLine);
-}
-
-/// What is written under an odd key, or as an odd value, may come out as several lines or as a section head.
+/// What is written under an odd key, or as an odd value, may come out as several lines.
 bool isOneLine(std::string_view line) {
-    return line.find('\n') >= line.size() - 1 && !sectionHead(trimBlanks(withoutLineEnd(line)));
+    return line.find('\n') >= line.size() - 1;
 }
 
 /// What a line is to be ended with before another follows; a file that was torn within a line end has half of
@@ -135,9 +132,7 @@ void ProfileImage::insertEntry(std::size_t part, const std::string& prefix, std:
         return;
     }
     PrefixSums& lines = parts_[part].lines;
-    if (const std::string_view line = trimBlanks(withoutLineEnd(entry)); isEntry(line)) {
-        noteKey(prefix, line, {part, lines.count()});
-    }
+    noteKey(prefix, entry, {part, lines.count()});
     lines.append(entry.size());
     partLengths_.add(part, entry.size());
 }

@@ -15,7 +15,8 @@ namespace tarvelon {
 
 /// The text of a profile file (`[section]` heads and `key=value` lines), with the rules of the system's two
 /// profile calls: keys and sections without regard to case, blanks around them ignored on reading, a
-/// surrounding pair of quotes dropped, comment lines and all other lines left as they stand.
+/// surrounding pair of quotes dropped, all other lines left as they stand. Every line with a "=" is an entry,
+/// also one that looks like a comment or like a section head.
 class ProfileImage {
 public:
     explicit ProfileImage(const CaseRules& cases)

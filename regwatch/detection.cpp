@@ -99,6 +99,11 @@ Detection::Found Detection::checkRegEntry(std::string& name, std::string& stored
         name = storedText;
     }
     std::replace(name.begin(), name.end(), '=', '-');
+    // The snapshot has one line for each value.
+    for (std::string* text : {&name, &storedText}) {
+        std::replace(text->begin(), text->end(), '\r', ' ');
+        std::replace(text->begin(), text->end(), '\n', ' ');
+    }
     const std::string& file = globals_.app.regFile;
     if (globals_.regWatch.regNew) {
         settings_.writeEntry(file, name, storedText, location.section);

@@ -25,7 +25,7 @@ public:
 
     /// Compares one value with its line in the snapshot, or records it. `name` and `storedText` come back as
     /// they stand in that line: the text cut at its first zero, an empty name replaced by the text, "=" by
-    /// "-".
+    /// "-", line ends by blanks.
     Found checkRegEntry(std::string& name, std::string& storedText, const Location& location);
 
 private:

@@ -80,9 +80,9 @@ std::optional<string> searched(const string& text, string_view section, string_v
     for (const string& part : split(text, '\n')) {
         const string_view line = stripped(string_view(part).substr(0, part.size() - part.ends_with('\r')));
         const std::size_t close = line.find(']'), equals = line.find('=');
-        if (line.starts_with('[') && close != string::npos) {
+        if (line.starts_with('[') && close != string::npos && equals == string::npos) {
             state = state > 0 ? 2 : cases.equal(stripped(line.substr(1, close - 1)), stripped(section));
-        } else if (state == 1 && !line.starts_with(';') && equals != string::npos &&
+        } else if (state == 1 && equals != string::npos &&
                    cases.equal(stripped(line.substr(0, equals)), stripped(key))) {
             const string_view it = stripped(line.substr(equals + 1));
             const bool quoted = it.size() > 1 && contains("\"'", it.substr(0, 1)) && it.ends_with(it[0]);
@@ -106,8 +106,8 @@ void profile(string_view input) {
         const string rest = before.substr(old ? std::min(before.find('\n', start), before.size()) : start);
         const string& text = kept.text();
         demand(text.starts_with(before.substr(0, start)) && text.ends_with(rest), "only one line changes");
-        const string all = section + key + value;
-        const bool entry = without(all, "=]") == all && stripped(key).find_first_of(";[") != 0;
+        const string all = section + key;
+        const bool entry = without(all, "=]") == all && without(value) == value;
         const bool same = searched("[" + parts[1] + "]\n" + parts[2] + "=", section, key).has_value();
         demand(!entry || same || kept.read(parts[1], parts[2]) == other, "other keys keep their values");
         const bool bare = stripped(value) == value && !value.ends_with('"') && !value.ends_with('\'');
@@ -276,7 +276,7 @@ void registry(string_view input) {
         const std::uint32_t type = text.size() % 3 + 1; // Text, expandable text or binary data.
         pc.registry.setValue(location.root, location.path, name, {type, text + '\0'});
         recordable = recordable && without(both) == both && both.size() < 80 && trim(name) == name &&
-                     !contains(name, "=") && name.find_first_of(";[(") != 0;
+                     !contains(name, "=") && !name.starts_with('(');
     }
     MForm1Screen& form = pc.app.mForm1;
     form.Command1.click();

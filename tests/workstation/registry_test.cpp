@@ -55,6 +55,8 @@ TEST_F(RegistryWatch, TheFirstStartRecordsSilently) {
     set(Registry::classesRoot, R"(comfile\shell\open\command)", "", R"("%1" %*)");
     pc.registry.setValue(Registry::localMachine, runOnceKey, "Expand",
                          {SimRegistry::ExpandableText, "%windir%\\x.exe\0"s});
+    set(Registry::localMachine, runOnceKey + "Ex", ";note", "x");
+    set(Registry::localMachine, runOnceKey + "Ex", "[head]", "two\r\nlines");
     ASSERT_FALSE(start());
     EXPECT_EQ(warnings(), Rows{noWarnings});
     const std::string snapshot = data("Registry.dat");
