@@ -9,11 +9,13 @@ namespace tarvelon {
 
 namespace {
 
+/// A value that is not plain text has its zero inside, and blanks behind it.
 std::string insideParentheses(const std::string& entry) {
     const std::size_t open = entry.find('(');
     const std::size_t start = open == std::string::npos ? 0 : open + 1;
     const std::size_t end = entry.find(')', start);
-    return end == std::string::npos ? entry : entry.substr(start, end - start);
+    const std::string inside = end == std::string::npos ? entry : entry.substr(start, end - start);
+    return inside.substr(0, inside.find('\0'));
 }
 
 std::string withoutArguments(const std::string& text) {

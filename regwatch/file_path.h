@@ -14,9 +14,10 @@ struct CutPath {
 };
 
 /// Cuts an entry of the form `name (command line)`, or a plain path, down to the file that it starts. Only
-/// the part in the first parentheses counts, of which a first ")" ends it; arguments are cut off behind the
-/// first blank that follows a dot; "%systemroot%" in lower case is the one variable known; a name without a
-/// backslash is looked for in the system folder, the Windows folder and the old system folder. Quotes stay.
+/// the part in the first parentheses counts, which a first ")" or a zero in it ends; arguments are cut off
+/// behind the first blank that follows a dot; "%systemroot%" in lower case is the one variable known; a name
+/// without a backslash is looked for in the system folder, the Windows folder and the old system folder.
+/// Quotes stay.
 CutPath cutToFilePath(const std::string& entry, const Utilities& utilities);
 
 } // namespace tarvelon

@@ -336,6 +336,7 @@ TEST_F(RegistryWatch, CommandsAreCutDownToTheirFile) {
                   expected ? expected : "(not found)")
             << entry;
     }
+    EXPECT_EQ(cutToFilePath("N (%windir%\\x.exe\0   )"s, utilities).path, R"(%windir%\x.exe)");
     // Rubbish of any kind gives some answer.
     std::mt19937 random(7);
     const std::string alphabet = "(). \\\"%a:\0\xe4"s;
