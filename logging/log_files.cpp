@@ -8,7 +8,18 @@
 #include "platform/platform.h"
 #include "ui/mform1_screen.h"
 
+#include <algorithm>
+
 namespace tarvelon {
+
+namespace {
+
+bool fitsNoFileName(char character) {
+    constexpr std::string_view reserved = "\\/:*?\"<>|";
+    return static_cast<unsigned char>(character) < ' ' || reserved.find(character) != std::string_view::npos;
+}
+
+} // namespace
 
 void LogFiles::writeLog(const std::string& listText, bool force) {
     if (!force && !passesGate(listText)) {
@@ -39,8 +50,11 @@ bool LogFiles::passesGate(const std::string& listText) {
 }
 
 std::string LogFiles::fileName() const {
-    return globals_.app.appPath + "Data\\Log\\" + reportDate(platform_.clock.dateText()) + "(" +
-           reportTimeStored(globals_.cases, platform_.clock.timeText()) + ").log";
+    std::string name = reportDate(platform_.clock.dateText()) + "(" +
+                       reportTimeStored(globals_.cases, platform_.clock.timeText()) + ").log";
+    // Letters that the code page lacks come as "?", in the date or where other systems have AM and PM.
+    std::replace_if(name.begin(), name.end(), fitsNoFileName, '_');
+    return globals_.app.appPath + "Data\\Log\\" + name;
 }
 
 } // namespace tarvelon

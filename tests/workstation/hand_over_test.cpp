@@ -221,6 +221,10 @@ TEST_F(HandOver, ReportNamesFollowTheRegionalForms) {
     pc.clock.date = "5.3.2006";
     EXPECT_EQ(app->logFiles.fileName(), folder + "5.3.2006(15_04_07).log");
 
+    pc.clock.date = "2006?3?5?";
+    pc.clock.time = "?? 3:04:07";
+    EXPECT_EQ(app->logFiles.fileName(), folder + "2006_3_5_(__3_04_07).log");
+
     app->mForm1.Check7.setValue(false);
     app->globals.app.shutAction = 8;
     app->logFiles.writeLog("Heading,A.DLL ");
