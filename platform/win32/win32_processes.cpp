@@ -24,11 +24,16 @@ static_assert(offsetof(VersionRecord, fixed) == 40);
 } // namespace
 
 Win32Processes::Win32Processes()
-    : instanceMark_(CreateMutexA(nullptr, FALSE, "TarvelonLow"))
-    , anotherInstance_(GetLastError() == ERROR_ALREADY_EXISTS) {}
+    : instanceMark_(CreateMutexA(nullptr, FALSE, "TarvelonLow")) {
+    // The mark of an instance that runs elevated or for another user is there, but may not be opened.
+    const DWORD error = GetLastError();
+    anotherInstance_ = error == ERROR_ALREADY_EXISTS || (!instanceMark_ && error == ERROR_ACCESS_DENIED);
+}
 
 Win32Processes::~Win32Processes() {
-    CloseHandle(instanceMark_);
+    if (instanceMark_) {
+        CloseHandle(instanceMark_);
+    }
 }
 
 std::string Win32Processes::programFile() {

@@ -182,6 +182,18 @@ private:
     std::unique_ptr<Win32Processes> secondInstance_;
 };
 
+TEST(Win32Processes, AnInstanceThatMayNotBeOpenedCounts) {
+    ACL nobody;
+    SECURITY_DESCRIPTOR rights;
+    ASSERT_TRUE(InitializeAcl(&nobody, sizeof nobody, ACL_REVISION) &&
+                InitializeSecurityDescriptor(&rights, SECURITY_DESCRIPTOR_REVISION) &&
+                SetSecurityDescriptorDacl(&rights, TRUE, &nobody, FALSE));
+    SECURITY_ATTRIBUTES attributes{sizeof attributes, &rights, FALSE};
+    const HANDLE mark = CreateMutexA(&attributes, FALSE, "TarvelonLow");
+    EXPECT_TRUE(Win32Processes().anotherInstance());
+    CloseHandle(mark);
+}
+
 } // namespace
 
 std::unique_ptr<ContractWorkstation> makeContractWorkstation() {
