@@ -8,14 +8,42 @@
 #include "platform/processes.h"
 #include "ui/mform1_screen.h"
 
+#include <algorithm>
+#include <numeric>
+
 namespace tarvelon {
 
 bool ScannerCommand::isSet() const {
     return !trim(exe).empty();
 }
 
-std::string ScannerCommand::line(const std::string& files) const {
-    return exe + " " + args + " " + files;
+std::string ScannerCommand::arguments(const std::string& files) const {
+    return args + " " + files;
+}
+
+std::vector<std::string> ScannerPair::lists(const std::vector<std::string>& items) const {
+    const auto aroundList = [](const ScannerCommand& scanner) {
+        return scanner.exe.size() + scanner.args.size() + 2;
+    };
+    const std::size_t taken = std::max(aroundList(first), aroundList(second));
+    const std::size_t room = Processes::longestCommandLine - std::min(taken, Processes::longestCommandLine);
+    std::vector<std::string> lists(1);
+    for (const std::string& item : items) {
+        if (!lists.back().empty() && lists.back().size() + item.size() > room) {
+            lists.emplace_back();
+        }
+        lists.back() += item;
+    }
+    return lists;
+}
+
+std::string joined(const std::vector<std::string>& items) {
+    return std::accumulate(items.begin(), items.end(), std::string());
+}
+
+std::string couldNotBeExecuted(const std::string& exe) {
+    return "Your Anti-Virus program could not be executed!!!\rPlease verify the path of the software:\r" +
+           exe;
 }
 
 std::string Scanner::toShortPath(const std::string& path) const {
@@ -30,13 +58,13 @@ std::string Scanner::toShortPath(const std::string& path) const {
     return trim(buffer.substr(0, blank - 1));
 }
 
-void Scanner::runScanner(const std::string& commandLine) const {
+void Scanner::runScanner(const std::string& exe, const std::string& arguments) const {
     const WindowStyle style =
         mForm1_.avfocus.value() == 1 ? WindowStyle::NormalFocus : WindowStyle::MinimizedFocus;
     // Without a scanner's name the first file would stand in its place, and the suspect itself be started.
-    const bool namesNoScanner = commandLine.starts_with(' ');
-    if (namesNoScanner || !platform_.processes.start(commandLine, style)) {
-        throw Failure("The scanner cannot be started:\r\n" + commandLine);
+    const bool namesNoScanner = exe.empty() || exe.starts_with(' ');
+    if (namesNoScanner || !platform_.processes.start(exe, arguments, style)) {
+        throw Failure("The scanner cannot be started:\r\n" + exe);
     }
 }
 
@@ -54,34 +82,35 @@ std::string Scanner::item(const std::string& name) const {
 }
 
 bool Scanner::batch(int first, int last, const std::function<std::string(int)>& row,
-                    const std::function<bool(const std::string&)>& flush) const {
-    std::string list;
+                    const std::function<bool(const std::vector<std::string>&)>& flush) const {
+    std::vector<std::string> items;
     int rows = 0;
     for (int index = first; index <= last; ++index) {
         ++rows;
         const std::string name = row(index);
         if (!trim(name).empty()) {
-            list += item(name);
+            items.push_back(item(name));
         }
         if (index >= last || rows >= globals_.settings.passCount) {
-            if (!flush(list)) {
+            if (!flush(items)) {
                 return false;
             }
-            list.clear();
+            items.clear();
             rows = 0;
         }
     }
     return true;
 }
 
-void Scanner::startBoth(const ScannerCommand& first, const ScannerCommand& second,
-                        const std::string& list) const {
-    if (list.empty()) {
+void Scanner::startBoth(const ScannerPair& scanners, const std::vector<std::string>& items) const {
+    if (items.empty()) {
         return;
     }
-    runScanner(first.line(list));
-    if (second.isSet()) {
-        runScanner(second.line(list));
+    for (const std::string& list : scanners.lists(items)) {
+        runScanner(scanners.first.exe, scanners.first.arguments(list));
+        if (scanners.second.isSet()) {
+            runScanner(scanners.second.exe, scanners.second.arguments(list));
+        }
     }
 }
 
@@ -96,8 +125,7 @@ bool Scanner::test(const std::string& exe) const {
              "files, then "
              "it is fully compatible with Tarvelon! If not, make sure you chose the correct EXE file in your "
              "anti-virus folder."});
-    runScanner(exe + " " + quoted(shortened(globals_.app.settFile)) + " " +
-               quoted(shortened(globals_.app.intFile)));
+    runScanner(exe, quoted(shortened(globals_.app.settFile)) + " " + quoted(shortened(globals_.app.intFile)));
     return true;
 }
 

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace tarvelon {
 
@@ -15,9 +16,26 @@ struct ScannerCommand {
     std::string args;
 
     bool isSet() const;
-    /// `<exe> <args> <files>`; with empty args two blanks stand between program and files.
-    std::string line(const std::string& files) const;
+    /// What stands behind the program: `<args> <files>`. With empty args two blanks stand between program and
+    /// files.
+    std::string arguments(const std::string& files) const;
 };
+
+/// The user's first and second scanner. What goes to one goes to the other.
+struct ScannerPair {
+    ScannerCommand first;
+    ScannerCommand second;
+
+    /// Joins items, each with its blank, to as few lists as the length of a command line allows: one, also
+    /// for no items, unless they are very many. An item that is too long by itself makes a list of its own.
+    std::vector<std::string> lists(const std::vector<std::string>& items) const;
+};
+
+/// All items in one text.
+std::string joined(const std::vector<std::string>& items);
+
+/// What the user is told when a scanner cannot be started.
+std::string couldNotBeExecuted(const std::string& exe);
 
 /// Starts the user's scanners and shapes what stands on their command lines.
 class Scanner {
@@ -30,10 +48,10 @@ public:
     /// The 8.3 form of a path. Empty for a file that is not there.
     std::string toShortPath(const std::string& path) const;
 
-    /// Starts a command line and does not wait for it: with the focus and a normal window if the option
-    /// `avfocus` is ticked now, else minimised. Throws `Failure` when it cannot be started, or begins with a
-    /// blank where the scanner should stand.
-    void runScanner(const std::string& commandLine) const;
+    /// Starts a program with these arguments and does not wait for it: with the focus and a normal window if
+    /// the option `avfocus` is ticked now, else minimised. Throws `Failure` when it cannot be started, or has
+    /// no name or one that begins with a blank.
+    void runScanner(const std::string& exe, const std::string& arguments) const;
 
     /// The name in its 8.3 form, if the user wants that.
     std::string shortened(const std::string& name) const;
@@ -41,14 +59,15 @@ public:
     /// The name in quotes, if the user wants that.
     std::string quoted(const std::string& name) const;
 
-    /// Walks rows `first` to `last` and cuts them into lists of at most `passCount` rows. Empty rows count,
-    /// but add nothing. Each list, which may be empty, goes to `flush`; false from it ends the walk. Gives
-    /// whether the walk came to its end.
+    /// Walks rows `first` to `last` and cuts them into batches of at most `passCount` rows. Empty rows count,
+    /// but add nothing. Each batch, which may be empty, goes to `flush` as its items; false from it ends the
+    /// walk. Gives whether the walk came to its end.
     bool batch(int first, int last, const std::function<std::string(int)>& row,
-               const std::function<bool(const std::string&)>& flush) const;
+               const std::function<bool(const std::vector<std::string>&)>& flush) const;
 
-    /// Starts both scanners with the list; nothing is started for an empty list.
-    void startBoth(const ScannerCommand& first, const ScannerCommand& second, const std::string& list) const;
+    /// Starts both scanners with the items, in as many runs as it takes; nothing is started for no items.
+    /// Throws `Failure` at the first scanner that cannot be started.
+    void startBoth(const ScannerPair& scanners, const std::vector<std::string>& items) const;
 
     /// Has a scanner that is not saved yet look at the settings file and the baseline, without arguments.
     /// False, with a notice, when there is no such file. Throws `Failure` when it cannot be started.

@@ -11,8 +11,7 @@ namespace tarvelon {
 void restartWithoutBackup(Globals& globals, Platform& platform, const std::string& backup) {
     platform.dialogs.message({.text = "Tarvelon needs to be re-started"});
     platform.files.remove(backup);
-    // In quotes, so that a program of a shorter name along the path is not started in its place.
-    platform.processes.start("\"" + globals.app.appPath + "TarvelonLow.exe\"", WindowStyle::MinimizedFocus);
+    platform.processes.start(globals.app.appPath + "TarvelonLow.exe", "", WindowStyle::MinimizedFocus);
     platform.processes.end();
 }
 

@@ -64,9 +64,7 @@ void ResultAction::Label12_Click() {
         }
         acceptFindings();
     } catch (const Failure&) {
-        parts_.platform.dialogs.message({.text = "Your Anti-Virus program could not be executed!!!\rPlease "
-                                                 "verify the path of the software:\r" +
-                                                 screen_.Text1.Caption()});
+        parts_.platform.dialogs.message({.text = couldNotBeExecuted(screen_.Text1.Caption())});
     }
 }
 
@@ -106,16 +104,16 @@ bool ResultAction::handOver() {
 /// Hands the list over in batches and collects them in `all`. Without a scanner the walk ends at the first
 /// batch, so that only this one reaches the report.
 ResultAction::Handed ResultAction::startScanners(bool noScanner, std::string& all) {
-    const ScannerCommand first{screen_.Text1.Caption(), screen_.Text2.Caption()};
-    const ScannerCommand second{screen_.textav1.Caption(), screen_.textav2.Caption()};
+    const ScannerPair scanners{{screen_.Text1.Caption(), screen_.Text2.Caption()},
+                               {screen_.textav1.Caption(), screen_.textav2.Caption()}};
     // One row past the end, which reads as empty and only hands over the last batch.
     const int lastRow = screen_.List1.count();
     const bool ended = parts_.scanner.batch(
         0, lastRow, [this](int row) { return withoutNewMark(screen_.List1.item(row)); },
-        [&](const std::string& batch) {
-            all += batch;
+        [&](const std::vector<std::string>& batch) {
+            all += joined(batch);
             if (!noScanner) {
-                parts_.scanner.startBoth(first, second, batch);
+                parts_.scanner.startBoth(scanners, batch);
             }
             return !noScanner;
         });

@@ -138,14 +138,12 @@ void LogBrowser::scan() {
     try {
         parts_.scanner.batch(
             1, screen_.List4.count() - 1, [this](int row) { return screen_.List4.item(row); },
-            [&](const std::string& list) {
-                parts_.scanner.startBoth({first.exe, first.args}, {second.exe, second.args}, list);
+            [&](const std::vector<std::string>& items) {
+                parts_.scanner.startBoth({{first.exe, first.args}, {second.exe, second.args}}, items);
                 return true;
             });
     } catch (const Failure&) {
-        parts_.platform.dialogs.message({.text = "Your Anti-Virus program could not be executed!!!\rPlease "
-                                                 "verify the path of the software:\r" +
-                                                 first.exe});
+        parts_.platform.dialogs.message({.text = couldNotBeExecuted(first.exe)});
         return;
     }
     parts_.platform.dialogs.message({.text = "Anti-Virus program executed successfully!"});

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdlib>
 #include <string>
 
@@ -23,8 +24,16 @@ public:
     /// Major, minor and revision number of the program's version record; zeros when it has none.
     virtual std::array<int, 3> programVersion() = 0;
 
-    /// Starts a command line and does not wait for it. False when it cannot be started.
-    virtual bool start(const std::string& commandLine, WindowStyle style) = 0;
+    /// The most characters that a command line may have: the system's 32,767, less the final zero and quotes
+    /// around the program's name.
+    static constexpr std::size_t longestCommandLine = 32'764;
+
+    /// Starts a program with the command line `<program> <arguments>`, or `<program>` for empty arguments,
+    /// and does not wait for it. Only this program is started, whatever stands where a part of its name would
+    /// lead. A name without a folder is looked for where the system looks for programs, and one without an
+    /// extension may be that of an ".exe". A program that asks for more rights than this process has gets
+    /// them if the user agrees. False when it cannot be started, as with a command line that is too long.
+    virtual bool start(const std::string& program, const std::string& arguments, WindowStyle style) = 0;
 
     /// Whether another process of this program was there when this one started.
     virtual bool anotherInstance() = 0;

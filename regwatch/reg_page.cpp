@@ -160,7 +160,7 @@ void RegPage::offerRegistryEditor() {
                                          .title = "Caution",
                                          .buttons = Buttons::YesNo});
     if (answer != Answer::No) {
-        parts_.platform.processes.start("regedit.exe", WindowStyle::MinimizedFocus);
+        parts_.platform.processes.start("regedit.exe", "", WindowStyle::MinimizedFocus);
     }
 }
 
@@ -180,7 +180,7 @@ void RegPage::Command11_Click() {
     if (path.find('"') == std::string::npos) {
         path = parts_.scanner.quoted(parts_.scanner.shortened(path));
     }
-    runBoth(path);
+    runBoth({path});
 }
 
 void RegPage::cScnUpd_Click() {
@@ -189,20 +189,34 @@ void RegPage::cScnUpd_Click() {
     if (source.count() == 1) {
         return;
     }
-    std::string files;
+    std::vector<std::string> files;
     for (int row = 1; row < source.count(); ++row) {
-        files += " " + fileOfRow(rowToScan(row));
+        files.push_back(" " + fileOfRow(rowToScan(row)));
     }
-    runBoth(files);
+    if (!runBoth(files)) {
+        refuseToAccept();
+        return;
+    }
     globals_.regWatch.regNew = true;
     parts_.detection.setReg();
     passOver([&] {
         parts_.logFiles.writeLog(
             (pending ? "Precautionary Scan - These files were to be renamed/deleted/overwritten at startup,"
                      : "Registry Action - Scan and Update Multiple Entries,") +
-            files);
+            joined(files));
     });
     globals_.regWatch.regNew = false;
+}
+
+/// The rows stay as they are. In a shut-down nobody is asked, but the end must not say that all is clean.
+void RegPage::refuseToAccept() {
+    if (globals_.app.shutAction != -1) {
+        globals_.shutDown.scanLogged = 1;
+        return;
+    }
+    std::string exe;
+    passOver([&] { exe = stored("ANTIVIRUS").exe; });
+    parts_.platform.dialogs.message({.text = couldNotBeExecuted(exe)});
 }
 
 /// The row in the form that is scanned, which it also takes on the screen.
@@ -231,17 +245,32 @@ std::string RegPage::fileOfRow(const std::string& row) {
     return path.empty() ? path : parts_.scanner.quoted(path);
 }
 
-/// A scanner that cannot be started goes unnoticed here.
-void RegPage::runBoth(const std::string& files) const {
+/// A scanner that is not there goes unnoticed. False when one that is there did not get all of the files.
+bool RegPage::runBoth(const std::vector<std::string>& files) const {
+    bool handedOver = false;
     passOver([&] {
-        const auto first = splitExeAndArgs(parts_.settings.getSetting("ANTIVIRUS")).value_or(ExeAndArgs{});
-        passOver([&] { parts_.scanner.runScanner(ScannerCommand{first.exe, first.args}.line(files)); });
-        const auto av2 = splitExeAndArgs(parts_.settings.getSetting("AV2")).value_or(ExeAndArgs{});
-        const ScannerCommand second{av2.exe, av2.args};
-        if (second.isSet()) {
-            passOver([&] { parts_.scanner.runScanner(second.line(files)); });
+        const ScannerPair scanners{stored("ANTIVIRUS"), stored("AV2")};
+        handedOver = true;
+        for (const std::string& list : scanners.lists(files)) {
+            handedOver &= run(scanners.first, list);
+            handedOver &= !scanners.second.isSet() || run(scanners.second, list);
         }
     });
+    return handedOver;
+}
+
+bool RegPage::run(const ScannerCommand& scanner, const std::string& list) const {
+    bool started = false;
+    passOver([&] {
+        parts_.scanner.runScanner(scanner.exe, scanner.arguments(list));
+        started = true;
+    });
+    return started || !parts_.utilities.fileThere(scanner.exe);
+}
+
+ScannerCommand RegPage::stored(const std::string& request) const {
+    const ExeAndArgs scanner = splitExeAndArgs(parts_.settings.getSetting(request)).value_or(ExeAndArgs{});
+    return {scanner.exe, scanner.args};
 }
 
 // ---- Pending boot operations

@@ -1,12 +1,14 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace tarvelon {
 
 struct Globals;
 struct MForm1Screen;
 struct Platform;
+struct ScannerCommand;
 class Detection;
 class LogFiles;
 class Scanner;
@@ -33,8 +35,9 @@ public:
     /// The page comes to light: its lists are as they were left, and nothing can be acted on yet.
     void opened();
 
-    /// Hands the files behind all rows of the shown list to the scanners in one run, and accepts the registry
-    /// as it stands. Also called by the shut-down, which asks and tells nothing.
+    /// Hands the files behind all rows of the shown list to the scanners, and accepts the registry as it
+    /// stands; what could not be handed over to a scanner that is there is told, and nothing is accepted
+    /// then. Also called by the shut-down, which asks and tells nothing.
     void cScnUpd_Click();
 
 private:
@@ -50,7 +53,10 @@ private:
     void cMod_Click();
     std::string rowToScan(int row);
     std::string fileOfRow(const std::string& row);
-    void runBoth(const std::string& files) const;
+    bool runBoth(const std::vector<std::string>& files) const;
+    bool run(const ScannerCommand& scanner, const std::string& list) const;
+    ScannerCommand stored(const std::string& request) const;
+    void refuseToAccept();
     void enableEntryButtons(bool enabled);
 
     MForm1Screen& screen_;

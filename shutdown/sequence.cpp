@@ -48,17 +48,18 @@ void Sequence::CheckWinInit() {
 }
 
 void Sequence::scanWininit() {
-    std::string batch;
+    std::vector<std::string> batch;
     for (const PendingFile& entry : wininitEntries(globals_.cases, parts_.platform, parts_.utilities)) {
-        batch += item(entry.file);
+        batch.push_back(item(entry.file));
     }
     runScanners(batch);
-    if (!batch.empty()) {
+    const std::string all = joined(batch);
+    if (!all.empty()) {
         passOver([&] {
             parts_.logFiles.writeLog(
                 "The following Files were scanned as a precaution (being renamed or deleted "
                 "from Wininit)," +
-                batch);
+                all);
         });
     }
     sProg_.ProgressBar1.setValue(50);
@@ -69,18 +70,18 @@ void Sequence::scanPendingRenames() {
     if (files.empty()) {
         return;
     }
-    std::string batch;
+    std::vector<std::string> batch;
     std::string collected;
     int taken = 0;
     for (std::size_t i = 0; i < files.size(); ++i) {
         // Twice in one batch is once too often; the batch before is forgotten.
-        if (files[i] && batch.find(*files[i]) == std::string::npos) {
+        if (files[i] && joined(batch).find(*files[i]) == std::string::npos) {
             ++taken;
-            batch += item(*files[i]);
+            batch.push_back(item(*files[i]));
         }
         if (i + 1 == files.size() || taken >= globals_.settings.passCount) {
             runScanners(batch);
-            collected += batch;
+            collected += joined(batch);
             batch.clear();
             taken = 0;
         }
@@ -104,14 +105,19 @@ std::string Sequence::item(const std::string& file) const {
 
 /// The second scanner starts even when there is nothing to hand over. One that cannot be started goes
 /// unnoticed.
-void Sequence::runScanners(const std::string& batch) {
-    const ScannerCommand first{scanners_.Text5.Caption(), scanners_.Text6.Caption()};
-    const ScannerCommand second{scanners_.Text1.Caption(), scanners_.Text2.Caption()};
-    if (!batch.empty()) {
-        passOver([&] { parts_.scanner.runScanner(first.line(batch)); });
-    }
-    if (second.isSet()) {
-        passOver([&] { parts_.scanner.runScanner(second.line(batch)); });
+void Sequence::runScanners(const std::vector<std::string>& batch) {
+    const ScannerPair scanners{{scanners_.Text5.Caption(), scanners_.Text6.Caption()},
+                               {scanners_.Text1.Caption(), scanners_.Text2.Caption()}};
+    const auto run = [this](const ScannerCommand& scanner, const std::string& list) {
+        passOver([&] { parts_.scanner.runScanner(scanner.exe, scanner.arguments(list)); });
+    };
+    for (const std::string& list : scanners.lists(batch)) {
+        if (!list.empty()) {
+            run(scanners.first, list);
+        }
+        if (scanners.second.isSet()) {
+            run(scanners.second, list);
+        }
     }
 }
 

@@ -58,7 +58,7 @@ private:
     void Timer1_Tick();
     bool queryClose();
 
-    void runScanners(const std::string& batch);
+    void runScanners(const std::vector<std::string>& batch);
     std::string item(const std::string& file) const;
     void status(const std::string& text);
 

@@ -177,7 +177,7 @@ void MForm1::cUpdates_Click() {
         key.CloseRegistry();
     }
     if (!folder.empty()) {
-        platform_.processes.start(withBackslash(folder) + "Orbexa.exe Tarvelon2",
+        platform_.processes.start(withBackslash(folder) + "Orbexa.exe", "Tarvelon2",
                                   WindowStyle::MinimizedFocus);
         return;
     }

@@ -7,8 +7,10 @@ namespace tarvelon {
 SimProcesses::SimProcesses(Faults& faults)
     : faults_(faults) {}
 
-bool SimProcesses::start(const std::string& commandLine, WindowStyle style) {
-    if (faults_.strikes(Operation::StartProcess) || (canStart && !canStart(commandLine))) {
+bool SimProcesses::start(const std::string& program, const std::string& behind, WindowStyle style) {
+    const std::string commandLine = behind.empty() ? program : program + " " + behind;
+    if (faults_.strikes(Operation::StartProcess) || commandLine.size() > longestCommandLine ||
+        (canStart && !canStart(commandLine))) {
         return false;
     }
     started_.push_back({commandLine, style});

@@ -39,7 +39,7 @@ public:
     std::string programFile() override { return file; }
     std::string commandLine() override { return arguments; }
     std::array<int, 3> programVersion() override { return version; }
-    bool start(const std::string& commandLine, WindowStyle style) override;
+    bool start(const std::string& program, const std::string& behind, WindowStyle style) override;
     bool anotherInstance() override { return otherInstance; }
 
 protected:

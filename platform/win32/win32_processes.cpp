@@ -3,6 +3,8 @@
 #include "platform/command_line.h"
 #include "platform/win32/windows_api.h"
 
+#include <shellapi.h>
+
 #include <cstddef>
 #include <cstring>
 
@@ -20,6 +22,31 @@ struct VersionRecord {
     VS_FIXEDFILEINFO fixed;
 };
 static_assert(offsetof(VersionRecord, fixed) == 40);
+
+constexpr DWORD elevationRequired = 740; ///< The headers for Windows XP do not know it yet.
+constexpr INT_PTR lastShellFailure = 32;
+
+/// The program's file, looked for as the system does when it gets nothing but a command line, though by the
+/// whole name. Empty when it is not there.
+std::string fileOf(const std::string& program) {
+    const bool quoted = program.size() > 1 && program.front() == '"' && program.back() == '"';
+    const std::string name = quoted ? program.substr(1, program.size() - 2) : program;
+    for (const char* extension : {".exe", static_cast<const char*>(nullptr)}) {
+        char path[MAX_PATH];
+        const DWORD length = SearchPathA(nullptr, name.c_str(), extension, sizeof path, path, nullptr);
+        if (length > 0 && length < sizeof path) {
+            return {path, length};
+        }
+    }
+    return {};
+}
+
+/// With blanks in it the name stands in quotes, as the system puts it when it has to find the program by
+/// itself; else the program would take what stands behind the first blank for its own arguments.
+std::string asFirstArgument(const std::string& program) {
+    const bool parts = program.front() != '"' && program.find(' ') != std::string::npos;
+    return parts ? "\"" + program + "\"" : program;
+}
 
 } // namespace
 
@@ -69,20 +96,28 @@ std::array<int, 3> Win32Processes::programVersion() {
             HIWORD(version.fixed.dwFileVersionLS)};
 }
 
-bool Win32Processes::start(const std::string& commandLine, WindowStyle style) {
+bool Win32Processes::start(const std::string& program, const std::string& arguments, WindowStyle style) {
     // A bare name is looked for in the current folder too, and what is started looks there for its libraries:
     // it must not be a folder that the user has last opened or that a link has chosen.
-    const std::string program = programFile();
-    SetCurrentDirectoryA(program.substr(0, program.rfind('\\') + 1).c_str());
+    const std::string own = programFile();
+    SetCurrentDirectoryA(own.substr(0, own.rfind('\\') + 1).c_str());
+    const std::string file = fileOf(program);
+    if (file.empty() || program.size() + 1 + arguments.size() > longestCommandLine) {
+        return false;
+    }
+    std::string line = asFirstArgument(program);
+    line += arguments.empty() ? "" : " " + arguments;
     STARTUPINFOA startup{};
     startup.cb = sizeof startup;
     startup.dwFlags = STARTF_USESHOWWINDOW;
     startup.wShowWindow = style == WindowStyle::MinimizedFocus ? SW_SHOWMINIMIZED : SW_SHOWNORMAL;
     PROCESS_INFORMATION started;
-    std::string writable = commandLine;
-    if (!CreateProcessA(nullptr, writable.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
+    if (!CreateProcessA(file.c_str(), line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
                         &started)) {
-        return false;
+        // The shell asks the user for the rights that the program wants.
+        return GetLastError() == elevationRequired &&
+               reinterpret_cast<INT_PTR>(ShellExecuteA(nullptr, nullptr, file.c_str(), arguments.c_str(),
+                                                       nullptr, startup.wShowWindow)) > lastShellFailure;
     }
     CloseHandle(started.hThread);
     CloseHandle(started.hProcess);

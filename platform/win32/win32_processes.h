@@ -13,15 +13,15 @@ public:
     std::string programFile() override;
     std::string commandLine() override;
     std::array<int, 3> programVersion() override;
-    bool start(const std::string& commandLine, WindowStyle style) override;
+    bool start(const std::string& program, const std::string& arguments, WindowStyle style) override;
     bool anotherInstance() override { return anotherInstance_; }
 
 protected:
     [[noreturn]] void endNow() override;
 
 private:
-    void* instanceMark_; ///< A mutex that nobody waits for: it is there while the process is.
-    bool anotherInstance_;
+    void* instanceMark_; ///< A mutex that nobody waits for, there while the process is. Null if refused.
+    bool anotherInstance_ = false;
 };
 
 } // namespace tarvelon

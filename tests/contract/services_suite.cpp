@@ -147,9 +147,23 @@ TEST_F(Contract, ProgramsAreStartedAndNotAwaited) {
     EXPECT_THAT(file, testing::EndsWith(".exe"));
 
     const std::string made = folder + "made.txt";
-    const std::string command = "cmd.exe /c echo started> " + made;
-    EXPECT_TRUE(platform.processes.start(command, WindowStyle::MinimizedFocus));
-    EXPECT_TRUE(workstation->hasMade(made, command));
+    const std::string arguments = "/c echo started> " + made;
+    EXPECT_TRUE(platform.processes.start("cmd.exe", arguments, WindowStyle::MinimizedFocus));
+    EXPECT_TRUE(workstation->hasMade(made, "cmd.exe " + arguments));
+    const std::string rest = "/c rem " + std::string(Processes::longestCommandLine, 'x');
+    const std::size_t fitting = Processes::longestCommandLine - std::string("cmd.exe ").size();
+    EXPECT_TRUE(platform.processes.start("cmd.exe", rest.substr(0, fitting), WindowStyle::MinimizedFocus));
+    EXPECT_FALSE(platform.processes.start("cmd.exe", rest.substr(0, fitting + 1), WindowStyle::NormalFocus));
+}
+
+TEST_F(Contract, OnlyTheProgramThatIsNamedIsStarted) {
+    const std::string program = folder + "two three.exe";
+    files.copy(platform.processes.programFile(), program); // On Windows this very test, which lists itself.
+    put(folder + "two.exe", "in the other's place");
+    const std::string made = folder + "made.json";
+    const std::string arguments = "--gtest_list_tests --gtest_output=json:" + made;
+    EXPECT_TRUE(platform.processes.start(program, arguments, WindowStyle::MinimizedFocus));
+    EXPECT_TRUE(workstation->hasMade(made, program + " " + arguments));
 }
 
 TEST_F(Contract, AnEmptyQueuePumpsAndHasNoInput) {

@@ -88,7 +88,7 @@ TEST_F(FirstRun, BackupIsOfferedAndRestoredOrDroppedForGood) {
     EXPECT_EQ(data("integrity.bak"), "(missing)");
     ASSERT_EQ(pc.processes.started().size(), 1u);
     EXPECT_EQ(pc.processes.started()[0],
-              (StartedProcess{"\"" + programFolder + "TarvelonLow.exe\"", WindowStyle::MinimizedFocus}));
+              (StartedProcess{programFolder + "TarvelonLow.exe", WindowStyle::MinimizedFocus}));
 }
 
 TEST_F(FirstRun, LeavingThePrimaryScanDeletesTheFileAndEnds) {

@@ -86,6 +86,20 @@ TEST_F(HandOver, BatchesFollowPassCountAndNamesTheOptions) {
     EXPECT_EQ(file(report), "(missing)") << "Auto-Logging is off";
 }
 
+TEST_F(HandOver, AllFilesAtOnceTakeAsManyRunsAsTheirNamesNeed) {
+    makeBaseline();
+    for (int i = 0; i < 200; ++i) {
+        pc.files.put(systemFolder + std::string(180, 'n') + std::to_string(i) + ".dll", "new");
+    }
+    configure("0,1", {.passCount = "99999"});
+    ASSERT_FALSE(start("/r"));
+    ASSERT_FALSE(settle());
+    app->intCheck.Label12.click();
+    EXPECT_EQ(lines().size(), 2u);
+    EXPECT_EQ(app->intCheck.List1.count(), 0);
+    EXPECT_TRUE(file(report).ends_with("n99.dll\r\n"));
+}
+
 TEST_F(HandOver, AScannerThatCannotStartLeavesEverythingToTryAgain) {
     makeBaseline();
     const std::string before = data("Integrity.dat");

@@ -269,6 +269,33 @@ TEST_F(RegistryWatch, OneFileOrAllGoToTheScannersAndAllIsAccepted) {
                                                           systemFolder + "found.exe,C:\\a,b\\x.exe\r\n");
 }
 
+TEST_F(RegistryWatch, WhatCannotBeHandedOverIsNotAccepted) {
+    ASSERT_FALSE(start());
+    for (int i = 0; i < 200; ++i) {
+        set(Registry::localMachine, runKey, std::to_string(i), "C:\\" + std::string(200, 'x') + ".exe");
+    }
+    refresh();
+    app->mForm1.cScnUpd.click();
+    EXPECT_EQ(lines().size(), 4u) << "Two runs of two scanners";
+    EXPECT_EQ(warnings(), Rows{noWarnings});
+
+    set(Registry::localMachine, runKey, "0", R"(C:\new.exe)");
+    refresh();
+    pc.processes.canStart = [](const std::string&) { return false; };
+    tells("Your Anti-Virus program could not be executed!!!\rPlease verify the path of the "
+          "software:\rC:\\av.exe");
+    app->mForm1.cScnUpd.click();
+    app->globals.app.shutAction = 8;
+    app->mForm1.cScnUpd.click();
+    EXPECT_EQ(app->globals.shutDown.scanLogged, 1) << "The end tells of files to look at";
+    refresh();
+    EXPECT_EQ(warnings().size(), 1u);
+    EXPECT_NE(warnings(), Rows{noWarnings});
+    pc.files.remove(R"(C:\av.exe)");
+    app->mForm1.cScnUpd.click();
+    EXPECT_EQ(warnings(), Rows{noWarnings}) << "A scanner that is not there goes unnoticed";
+}
+
 TEST_F(RegistryWatch, PendingOperationsAreShownAndScanned) {
     ASSERT_FALSE(start());
     MForm1Screen& form = app->mForm1;
