@@ -16,7 +16,6 @@ namespace tarvelon {
 namespace {
 
 using Rows = std::vector<std::string>;
-const int inMemory = std::filesystem::exists("/dev/shm") ? ::setenv("TMPDIR", "/dev/shm", 1) : 0;
 const Rows types = {"DLL", "DRV", "386", "SYS", "OCX", "EXE", "COM", "PIF", "SCR"};
 
 std::string upperCased(std::string text) {
