@@ -91,6 +91,10 @@ bool FormWindow::takes(MSG& message) {
     if (isKey && !canUseKeys(message.hwnd)) {
         return true;
     }
+    const bool isArrow = key >= VK_LEFT && key <= VK_DOWN;
+    if (down && isArrow && message.hwnd == window_) {
+        return true; // No control has the keyboard: there is no group to go round in.
+    }
     return IsDialogMessageA(window_, &message) != FALSE;
 }
 
