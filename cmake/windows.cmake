@@ -2,6 +2,9 @@
 if(WIN32)
     enable_language(RC)
     add_compile_definitions(WINVER=0x0501 _WIN32_WINNT=0x0501 _WIN32_IE=0x0600 WIN32_LEAN_AND_MEAN NOMINMAX STRICT)
+    if(CMAKE_CXX_COMPILER_VERSION VERSION_GREATER_EQUAL 13)
+        add_compile_options("$<$<COMPILE_LANGUAGE:CXX>:SHELL:-include ${CMAKE_CURRENT_LIST_DIR}/thread_types.h>")
+    endif()
     # One small file: optimised for size, but for the checksums, which set their own level.
     set(CMAKE_CXX_FLAGS_RELEASE "-Os -DNDEBUG")
     add_compile_options(-ffunction-sections -fdata-sections)

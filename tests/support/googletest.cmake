@@ -12,11 +12,11 @@ target_compile_options(gmock_main PRIVATE -w)
 target_include_directories(gmock_main SYSTEM
     PUBLIC ${GOOGLETEST_SOURCE_DIR}/googletest/include ${GOOGLETEST_SOURCE_DIR}/googlemock/include
     PRIVATE ${GOOGLETEST_SOURCE_DIR}/googletest ${GOOGLETEST_SOURCE_DIR}/googlemock)
-if(WIN32)
-    # The thread model of the Windows builds has no std::mutex; the tests have one thread.
+if(WIN32 AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+    # The thread model of the Windows builds has no std::mutex before GCC 13; the tests have one thread.
     target_compile_definitions(gmock_main PUBLIC GTEST_IS_THREADSAFE=0)
     target_compile_options(gmock_main PRIVATE -include ${CMAKE_CURRENT_LIST_DIR}/gtest_auto_handle.h)
-else()
+elseif(NOT WIN32)
     find_package(Threads REQUIRED)
     target_link_libraries(gmock_main PUBLIC Threads::Threads)
 endif()
