@@ -92,7 +92,7 @@ bool HostFile::empty() {
 }
 
 std::uint64_t HostFile::hostLength() const {
-    struct stat status {};
+    struct stat status = {};
     ::fstat(descriptor_, &status);
     return static_cast<std::uint64_t>(status.st_size);
 }

@@ -104,7 +104,7 @@ std::string SimFiles::hostPath(const std::string& path) const {
 void SimFiles::put(const std::string& path, std::string_view bytes) {
     makeFolders(path.substr(0, path.rfind('\\') + 1));
     const std::string host = hostPath(path);
-    struct stat before {};
+    struct stat before = {};
     ::stat(host.c_str(), &before);
     std::ofstream file(host, std::ios::binary | std::ios::trunc);
     file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
