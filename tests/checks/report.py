@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """Adds up the results of one run of ./test: report.py RESULTS-FOLDER
 
-The folder holds checks.tsv (outcome, tab, name) and one JUnit file of ctest for each configuration. A test program
-that ran under ctest as one test is counted by its cases, read from its output.
+The folder holds checks.tsv (outcome, name and reason, with tabs between them) and one JUnit file of ctest for each
+configuration. A test program that ran under ctest as one test is counted by its cases, read from its output.
 """
 
 import pathlib
@@ -50,8 +50,7 @@ def main():
     folder = pathlib.Path(sys.argv[1])
     everything = []
     for line in (folder / "checks.tsv").read_text().splitlines():
-        outcome, name = line.split("\t", 1)
-        everything.append((outcome, name, ""))
+        everything.append(tuple(line.split("\t")))
     for junit in sorted(folder.glob("*.xml")):
         everything += results(junit)
 
