@@ -187,14 +187,14 @@ std::vector<HWND> Hand::targets(HWND window) const {
 HWND Hand::chooseTarget(const std::vector<HWND>& all, Chance& chance) {
     const auto uses = [&](HWND control) {
         const bool dull = mayEnd(control) || (GetWindowLongA(control, GWL_STYLE) & WS_TABSTOP) == 0;
-        return used_[named(control)] + (dull ? 3 : 0);
+        return habits_[named(control)] + (dull ? 5 : 0);
     };
     HWND best = chance.of(all);
-    for (int more = 0; more < 2; ++more) {
+    for (int more = 0; more < 3; ++more) {
         HWND const other = chance.of(all);
         best = uses(other) < uses(best) ? other : best;
     }
-    ++used_[named(best)];
+    ++habits_[named(best)];
     return best;
 }
 

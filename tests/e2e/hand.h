@@ -31,10 +31,14 @@ private:
 /// screen. All of it goes through the system's input queue.
 class Hand {
 public:
-    /// `scanner` is the file that it picks where a file is asked for.
-    Hand(const Program& program, std::string scanner)
+    /// How often each control has been clicked.
+    using Habits = std::map<std::string, int>;
+
+    /// It likes best what it has clicked less. `scanner` is the file that it picks where a file is asked for.
+    Hand(const Program& program, std::string scanner, Habits& habits)
         : program_(program)
-        , scanner_(std::move(scanner)) {}
+        , scanner_(std::move(scanner))
+        , habits_(habits) {}
     Hand(const Hand&) = delete;
     ~Hand();
 
@@ -57,8 +61,8 @@ private:
 
     const Program& program_;
     const std::string scanner_;
+    Habits& habits_;
     std::set<WORD> held_;
-    std::map<std::string, int> used_; ///< How often each control has been clicked.
     bool left_ = false;
 };
 

@@ -120,9 +120,9 @@ public:
         while (event_ < events) {
             Chance chance(seed_, ++event_);
             start(chance);
-            const std::uint32_t last = std::min(events, event_ + 30 + chance.below(60));
+            const std::uint32_t last = std::min(events, event_ + 60 + chance.below(90));
             {
-                Hand hand(*program_, scanner_.path());
+                Hand hand(*program_, scanner_.path(), habits_);
                 while (event_ < last && go(hand)) {
                 }
             }
@@ -191,6 +191,7 @@ private:
     const PlantedValue stranger_{HKEY_LOCAL_MACHINE, R"(Software\Microsoft\Windows\CurrentVersion\Run)",
                                  "Stranger", systemDirectory() + "notepad.exe /silent"};
     std::unique_ptr<Program> program_;
+    Hand::Habits habits_;
     std::uint32_t event_ = 0;
     bool endsByItself_ = false;
     int sinceLeft_ = 0; ///< Events since one that may have ended it, which may take its time.
