@@ -4,6 +4,9 @@
 #include "seen_windows.h"
 
 #include <algorithm>
+#include <cctype>
+#include <set>
+#include <sstream>
 
 namespace e2e {
 
@@ -79,6 +82,20 @@ void demandLines(const std::string& name, const std::string& text, const std::st
     }
 }
 
+void demandOneFolder(const std::string& name, const std::string& text,
+                     char (*folderOf)(const std::string& name)) {
+    std::istringstream lines(text);
+    std::set<char> folders;
+    for (std::string line; std::getline(lines, line);) {
+        if (line.find('=') != std::string::npos) {
+            folders.insert(folderOf(line));
+        }
+    }
+    if (folders.size() > 1) {
+        throw NotSeen(name + " holds entries of several folders");
+    }
+}
+
 } // namespace
 
 void demandUsable(const Program& program) {
@@ -100,7 +117,7 @@ void demandUsable(const Program& program) {
     }
 }
 
-void demandWholeFiles(const ProgramFolder& folder) {
+void demandWholeFiles(const ProgramFolder& folder, char (*folderOf)(const std::string& name)) {
     for (const std::string& name : namesIn(folder.path() + "Data\\")) {
         const std::string text = folder.data(name).value_or("");
         if (name == "Tarvelon.dat") {
@@ -109,6 +126,9 @@ void demandWholeFiles(const ProgramFolder& folder) {
             demandLines(name, text, "=", 17);
         } else if (name != "Log") {
             demandLines(name, text, "*E", 9);
+            if (std::isdigit(static_cast<unsigned char>(name[0])) != 0) {
+                demandOneFolder(name, text, folderOf); // The system's own may hold names of the others.
+            }
         }
     }
 }

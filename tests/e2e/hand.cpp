@@ -247,17 +247,18 @@ std::string Hand::comeBack(HWND window) {
     return (iconic ? "restores " : "comes back to ") + named(window);
 }
 
+/// One that asks for a file has a field for its name, one that asks for a folder a tree.
 std::string Hand::useSystemDialog(const Box& box, Chance& chance) {
-    HWND const name = FindWindowExA(box.window, nullptr, "ComboBoxEx32", nullptr);
-    const bool asksForFile = name != nullptr;
-    const bool picks = asksForFile && chance.oneIn(3);
-    if (picks) {
-        send(name, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(scanner_.c_str()));
+    const Form dialog(box.window);
+    const bool asksForFile = !dialog.fields().empty();
+    const bool goesOn = chance.oneIn(2);
+    if (goesOn && asksForFile) {
+        dialog.fill(0, scanner_);
+    } else if (goesOn && chance.oneIn(2)) {
+        pressKey(VK_DOWN);
     }
-    const bool downTheTree = !asksForFile && chance.oneIn(3);
-    const WORD key = downTheTree ? VK_DOWN : picks || chance.oneIn(3) ? VK_RETURN : VK_ESCAPE;
-    pressKey(key);
-    return "\"" + box.title + "\": " + (picks ? "picks a file" : key == VK_ESCAPE ? "Esc" : "Enter or Down");
+    pressKey(goesOn ? VK_RETURN : VK_ESCAPE);
+    return std::string(goesOn ? "Enter" : "Esc") + " in \"" + box.title + "\"";
 }
 
 } // namespace e2e

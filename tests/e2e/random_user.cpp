@@ -5,8 +5,8 @@
 //
 // A play is so many events from one seed, in a fresh folder with findings; the next play has the next seed.
 // Plays go on until there were so many, or until the minutes have passed. What a play does hangs on its seed
-// and on what stands on the screen. Only with --shut-down is the shut-down dialog opened. Ends with the
-// number of plays that failed.
+// and on what stands on the screen. Only with --shut-down is the shut-down dialog opened. Ends with 0 when no
+// play failed.
 
 #include "demands.h"
 #include "hand.h"
@@ -17,6 +17,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <cctype>
 #include <cstdio>
 #include <map>
 #include <memory>
@@ -71,6 +72,8 @@ struct WatchedFolders {
     const ProgramFolder big{"big"};
 
     WatchedFolders() {
+        DeleteFileA(many.program().c_str());
+        DeleteFileA(big.program().c_str());
         for (int number = 1000; number < 5000; ++number) {
             writeFile(many.path() + std::to_string(number) + ".dll", std::to_string(number));
         }
@@ -78,6 +81,11 @@ struct WatchedFolders {
             writeFile(big.path() + name, "");
             PlantedFile::stretch(big.path() + name, 600'000'000);
         }
+    }
+
+    /// By a file's name: from the first, the second, or elsewhere.
+    static char folderOf(const std::string& name) {
+        return name.find('.') == 1 ? 'b' : std::isdigit(static_cast<unsigned char>(name[0])) != 0 ? 'm' : 's';
     }
 };
 
@@ -127,7 +135,7 @@ public:
                 }
             }
             program_.reset(); // As if the power had gone.
-            demandWholeFiles(folder_);
+            demandWholeFiles(folder_, WatchedFolders::folderOf);
         }
     }
 
@@ -149,6 +157,7 @@ private:
         }
         std::printf("%u: starts it%s with \"%s\"\n", event_, firstTime ? " for the first time" : "",
                     arguments);
+        sinceLeft_ = leavingLasts + 1;
         endsByItself_ = *arguments != '\0';
         program_ = std::make_unique<Program>(folder_.program(), arguments);
         comesTrue([this] { return !program_->windows().empty() || program_->ends(Milliseconds(0)); });
@@ -168,7 +177,7 @@ private:
         if (!program_->ends(Milliseconds(0))) {
             return true;
         }
-        if (program_->exitCode() != 0 || (!endsByItself_ && sinceLeft_ > 5)) {
+        if (program_->exitCode() != 0 || (!endsByItself_ && sinceLeft_ > leavingLasts)) {
             throw NotSeen("the program has ended with " + std::to_string(program_->exitCode()));
         }
         std::printf("%u: it has ended\n", event_);
@@ -181,7 +190,8 @@ private:
         }
     }
 
-    static constexpr DWORD pause = 30; // milliseconds until an event has reached the program
+    static constexpr DWORD pause = 30;     ///< Milliseconds until an event has reached the program.
+    static constexpr int leavingLasts = 5; ///< Events until a program that was left has ended.
 
     const std::uint32_t seed_;
     const WatchedFolders& watched_;
@@ -194,7 +204,7 @@ private:
     Hand::Habits habits_;
     std::uint32_t event_ = 0;
     bool endsByItself_ = false;
-    int sinceLeft_ = 0; ///< Events since one that may have ended it, which may take its time.
+    int sinceLeft_ = 0; ///< Events since one that may have ended it.
 };
 
 Options readOptions(int count, char** arguments) {
@@ -212,7 +222,7 @@ Options readOptions(int count, char** arguments) {
     return options;
 }
 
-/// Gives the number of plays that failed.
+/// Gives the exit code.
 int play(const Options& options) {
     const Guard guard;
     const WatchedFolders watched;
@@ -239,7 +249,7 @@ int play(const Options& options) {
     }
     std::printf("%u plays, %u events, %.1f minutes, %d asked to go down, %d failed\n", plays, events,
                 minutes(), Guard::timesAsked(), failed);
-    return failed;
+    return failed == 0 ? 0 : 1;
 }
 
 } // namespace
