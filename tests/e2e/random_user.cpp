@@ -74,7 +74,7 @@ struct WatchedFolders {
     WatchedFolders() {
         DeleteFileA(many.program().c_str());
         DeleteFileA(big.program().c_str());
-        for (int number = 1000; number < 5000; ++number) {
+        for (int number = 1000; number < 7000; ++number) {
             writeFile(many.path() + std::to_string(number) + ".dll", std::to_string(number));
         }
         for (const std::string name : {"a.drv", "b.drv", "c.dll", "d.dll", "e.exe", "f.exe"}) {
