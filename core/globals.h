@@ -89,7 +89,8 @@ struct RegWatchState {
 };
 
 struct ShutDownState {
-    std::int16_t scanLogged = 0; ///< 1: some list of files was logged during the shut-down.
+    /// 1: some list of files was logged during the shut-down, or its scan could not be made.
+    std::int16_t scanLogged = 0;
 };
 
 /// The state that all subsystems share; made once, in `Application`.

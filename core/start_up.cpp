@@ -3,6 +3,7 @@
 #include "core/failure.h"
 #include "core/globals.h"
 #include "core/settings_file.h"
+#include "core/unscanned.h"
 #include "core/utilities.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
@@ -53,7 +54,12 @@ void StartUp::actOnCommandLine() {
         app.autoLoadRun = true;
         hooks.hideMainWindow();
         passOver(hooks.showScan);
-        passOver(hooks.loadUp);
+        try {
+            hooks.loadUp();
+        } catch (const Failure& failure) {
+            tellUnscanned(platform_, failure);
+            platform_.processes.end();
+        }
         hooks.minimizeScan();
     } else if (app.cmdLine == "/s") {
         demandBaseline(

@@ -60,7 +60,7 @@ void IntCheck::LoadUp() {
         if (foldersJoin && !another) {
             // The joining folders have used the flags; they go back to what the system passes want.
             globals_.scan.want(false);
-            passOver([this] { wantFromWithAutoScan(savedTypes()); });
+            wantFromWithAutoScan(savedTypes());
         }
     }
     screen_.pb2max.Caption = std::to_string(plan.grandTotal == 0 ? 1 : plan.grandTotal);

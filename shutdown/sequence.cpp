@@ -4,6 +4,7 @@
 #include "avshell/scanner.h"
 #include "core/failure.h"
 #include "core/globals.h"
+#include "core/unscanned.h"
 #include "core/utilities.h"
 #include "logging/log_files.h"
 #include "platform/dialogs.h"
@@ -127,15 +128,23 @@ void Sequence::PreShut1() {
     globals_.app.autoLoadRun = true;
     logoff_.hide();
     status("Scanning Files...");
-    bool planned = false;
-    passOver([&] {
+    try {
         hooks.loadUp();
-        planned = true;
-    });
-    sProg_.show();
-    if (!planned && globals_.app.shutAction != -1) {
-        passOver([this] { PreShut2(); }); // No scan's end will bring it.
+        sProg_.show();
+    } catch (const Failure& failure) {
+        sProg_.show();
+        goOnWithoutScan(failure);
     }
+}
+
+/// No scan's end will bring what follows.
+void Sequence::goOnWithoutScan(const Failure& failure) {
+    tellUnscanned(parts_.platform, failure);
+    if (globals_.app.shutAction == -1) {
+        parts_.platform.processes.end();
+    }
+    globals_.shutDown.scanLogged = 1; // The machine must not go down as if all were well.
+    passOver([this] { PreShut2(); });
 }
 
 void Sequence::PreShut2() {
@@ -163,14 +172,15 @@ void Sequence::startCountDown() {
     logoff_.Timer1.Enabled = globals_.shutDown.scanLogged == 1;
 }
 
-/// The clock goes on behind the second minute, so that a refused action is not tried again.
+/// The clock goes on behind the second minute. The action comes once: refused, it is not tried again, and a
+/// machine that has slept meanwhile is left awake.
 void Sequence::Timer1_Tick() {
     sProg_.ProgressBar1.setValue(sProg_.ProgressBar1.value() + 1);
     if (++secondsPast == 60) {
         secondsPast = 0;
         ++minutesPast;
     }
-    if (minutesPast == 2) {
+    if (minutesPast == 2 && secondsPast == 0) {
         parts_.power.ShutDown(globals_.app.shutAction);
     }
 }

@@ -11,6 +11,7 @@ struct MForm1Screen;
 struct Platform;
 struct SAvirScreen;
 struct SProgScreen;
+class Failure;
 class LogFiles;
 class PowerAction;
 class Scanner;
@@ -54,6 +55,7 @@ private:
     void scanWininit();
     void scanPendingRenames();
     void PreShut1();
+    void goOnWithoutScan(const Failure& failure);
     void startCountDown();
     void Timer1_Tick();
     bool queryClose();

@@ -110,7 +110,22 @@ TEST_F(ShutDownRun, FindingsAreHandedOverInOrderAndTwoMinutesAreGiven) {
     EXPECT_EQ(ticks(), 120);
     EXPECT_EQ(pc.power.calls().back(), "exitWindows 19 4294967295");
     pc.messages.advance(180'000);
-    EXPECT_EQ(pc.power.calls().size(), 2u + 2u * 59u) << "again at each second of the minute, then no more";
+    EXPECT_EQ(pc.power.calls().size(), 2u) << "once";
+}
+
+TEST_F(ShutDownRun, WithSettingsOutOfReachNoSwitchPassesForAScan) {
+    pc.files.lock(dataFolder + "Tarvelon.dat");
+    const std::string notice =
+        "The settings file cannot be read:\r\n" + dataFolder + "Tarvelon.dat\r\n\r\nNothing was scanned.";
+    for (const char* typed : {"/r", "/a"}) {
+        tells(notice);
+        EXPECT_TRUE(start(typed)) << typed;
+    }
+    ASSERT_FALSE(start("/s"));
+    tells(notice);
+    app->frmLogoff.Image4.click();
+    EXPECT_EQ(status(), "Status: Some files were scanned...Shutting Down in 2 minutes");
+    EXPECT_TRUE(pc.power.calls().empty());
 }
 
 TEST_F(ShutDownRun, TheCountDownCanBeCutShortOrCancelled) {

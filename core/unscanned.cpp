@@ -1,0 +1,14 @@
+#include "core/unscanned.h"
+
+#include "core/failure.h"
+#include "platform/dialogs.h"
+#include "platform/platform.h"
+
+namespace tarvelon {
+
+void tellUnscanned(Platform& platform, const Failure& failure) {
+    platform.dialogs.message(
+        {.text = std::string(failure.what()) + "\r\n\r\nNothing was scanned.", .icon = Icon::Warning});
+}
+
+} // namespace tarvelon
