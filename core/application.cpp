@@ -80,7 +80,7 @@ void Application::bindScan() {
 
 void Application::bindPages() {
     mainForm.hooks = {.loadSettings = [this] { settingsPages.loadSettings(); },
-                      .showCustomFolders = [this] { iCust.show(); },
+                      .showCustomFolders = [this] { customFolders.open(); },
                       .showScanners = [this] { s_avir.show(); },
                       .regPageOpened = [this] { regPage.opened(); },
                       .advancedPageOpened = [this] { advancedPage.opened(); }};
@@ -94,6 +94,7 @@ void Application::bindPages() {
         wizard.LoadUp();
     };
     customFolders.loadf = [this] { folderScanPage.loadf(); };
+    customFolders.scanRuns = [this] { return scan.runs(); };
     logBrowser.norms2 = [this] { mainForm.norms2(); };
 }
 

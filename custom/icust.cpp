@@ -56,7 +56,6 @@ void ICust::bind() {
         screen_.List2.add(row);
         screen_.List4.add(row);
     }
-    screen_.onLoad = [this] { begin(); };
     screen_.onQueryClose = [this] { return queryClose(); };
     screen_.onMouseMove = [this] { norms(); };
     screen_.List1.onClick = [this] { List1_Click(); };
@@ -69,7 +68,14 @@ void ICust::bind() {
     screen_.Command3.onClick = [this] { Command3_Click(); };
 }
 
-/// The window as it is when it opens for the first time.
+void ICust::open() {
+    if (!screen_.Visible()) {
+        begin();
+    }
+    screen_.show();
+}
+
+/// What an earlier opening has left unsaved is forgotten.
 void ICust::begin() {
     custDirty = 0;
     startup();
@@ -257,7 +263,8 @@ void ICust::Command3_Click() {
         settings.writeEntry(file, "args2", screen_.List5.item(row), slot);
     }
     for (int slot = 1; slot <= folderSlots; ++slot) {
-        if (!isEmptyRow(slot - 1) && !parts_.utilities.fileThere(parts_.checksum.getCustomDat(slot))) {
+        if (!scanRuns() && !isEmptyRow(slot - 1) &&
+            !parts_.utilities.fileThere(parts_.checksum.getCustomDat(slot))) {
             globals_.scan.customIndex = static_cast<std::int16_t>(slot);
         }
     }
@@ -275,7 +282,6 @@ bool ICust::queryClose() {
         }
     }
     passOver(loadf);
-    begin(); // Closed by its frame, the window forgets what was not saved.
     return true;
 }
 

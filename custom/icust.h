@@ -32,6 +32,11 @@ public:
 
     /// Fills the main window's list of folders anew.
     std::function<void()> loadf;
+    /// A scan is planned or under way: its findings go by the run's state, which is not to be touched.
+    std::function<bool()> scanRuns;
+
+    /// Shows the window. Unless it is open already, it begins anew with the settings as they are.
+    void open();
 
     /// Fills the lists from the settings.
     void startup();

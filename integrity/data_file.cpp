@@ -54,13 +54,20 @@ DataFile::DataFile(Globals& globals, Platform& platform, SettingsFile& settings,
     , utilities_(utilities) {}
 
 void DataFile::loadIntFile(const std::string& path) {
+    intFile_ = path;
     intFileRead_ = false;
-    const std::string text = read(path);
-    intFileRead_ = true;
-    fill(text, globals_.baselines.sectionText, globals_.baselines.sectionName);
+    const auto text = read(path);
+    intFileRead_ = text.has_value();
+    fill(text.value_or(""), globals_.baselines.sectionText, globals_.baselines.sectionName);
 }
 
-void DataFile::loadCustomDat(const std::string& path) {
+void DataFile::needIntFile(const std::string& path) {
+    if (!intFileRead_ || intFile_ != path) {
+        loadIntFile(path);
+    }
+}
+
+bool DataFile::loadCustomDat(const std::string& path) {
     const std::string backup = backupOf(path);
     if (!utilities_.fileThere(path) && utilities_.fileThere(backup)) {
         const Answer answer =
@@ -82,19 +89,19 @@ void DataFile::loadCustomDat(const std::string& path) {
             buildCustomDat(folder, path, number);
         }
     }
-    fill(read(path), globals_.baselines.customText, globals_.baselines.customName);
+    const auto text = read(path);
+    fill(text.value_or(""), globals_.baselines.customText, globals_.baselines.customName);
+    return text.has_value();
 }
 
-std::string DataFile::read(const std::string& path) const {
-    auto file = platform_.files.open(path, OpenMode::ReadOrCreate);
-    if (!file) {
-        file = platform_.files.open(path, OpenMode::Read);
-    }
-    const auto text = file ? readAll(*file) : std::nullopt;
-    if (!text) {
+/// Empty when the file is not there. None is made in its place: it would pass for one of a folder that has
+/// been scanned.
+std::optional<std::string> DataFile::read(const std::string& path) const {
+    auto text = readWholeFile(platform_.files, path);
+    if (!text && platform_.files.length(path)) {
         throw Failure("The data file cannot be read:\r\n" + path);
     }
-    return *text;
+    return text;
 }
 
 void DataFile::fill(const std::string& text, Blocks& blocks, Names& names) const {
@@ -126,8 +133,8 @@ std::string DataFile::entry(const Blocks& blocks, std::optional<std::size_t> num
 
 void DataFile::saveIntFile() {
     // What could not be read is empty in memory, and must not take the place of the whole file.
-    demand(intFileRead_, "The data file could not be read, and is left as it is:", globals_.app.intFile);
-    save(globals_.app.intFile, globals_.app.appPath + "Data\\integrity.bak", globals_.baselines.sectionText);
+    demand(intFileRead_, "The data file could not be read, and is left as it is:", intFile_);
+    save(intFile_, globals_.app.appPath + "Data\\integrity.bak", globals_.baselines.sectionText);
 }
 
 void DataFile::saveCustomDat(const std::string& path) {

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <functional>
+#include <optional>
 #include <string>
 
 namespace tarvelon {
@@ -27,22 +28,26 @@ public:
     std::function<bool(const std::string& folder, const std::string& datFile, const std::string& number)>
         buildCustomDat;
 
-    /// Loads the system baseline. A missing file is made, empty, and gives nine empty blocks. Throws
-    /// `Failure` when the file cannot be read. Window messages run once all is in place.
+    /// Loads a system baseline. A missing file gives nine empty blocks. Throws `Failure` when the file cannot
+    /// be read. Window messages run once all is in place.
     void loadIntFile(const std::string& path);
 
+    /// The same unless memory holds that baseline already.
+    void needIntFile(const std::string& path);
+
     /// Loads a custom folder's baseline. A missing one is restored from its backup or built anew, each after
-    /// a question. Throws like `loadIntFile`.
-    void loadCustomDat(const std::string& path);
+    /// a question; false when there is none behind that either, and the blocks are empty. Throws like
+    /// `loadIntFile`.
+    bool loadCustomDat(const std::string& path);
 
     /// The checksum stored for a bare file name, whatever its letter case; empty when there is none, "NULL"
     /// for a file that was listed but not yet checksummed. Window messages run inside.
     std::string getEntry(const std::string& key, const std::string& section) const;
     std::string getCustomEntry(const std::string& key, const std::string& section) const;
 
-    /// Rewrites the system baseline from memory and keeps the old file as "Data\integrity.bak", under every
-    /// algorithm. Throws `Failure` at the first step that fails, with the baseline on the disk whole, and
-    /// when the last `loadIntFile` failed.
+    /// Rewrites the system baseline that was loaded last from memory and keeps the old file as
+    /// "Data\integrity.bak", under every algorithm. Throws `Failure` at the first step that fails, with the
+    /// baseline on the disk whole, and when the last `loadIntFile` found no file or failed.
     void saveIntFile();
 
     /// The same for a custom folder's baseline; its backup lies beside it.
@@ -52,7 +57,7 @@ private:
     using Blocks = std::array<EntryBlock, sectionCount>;
     using Names = std::array<std::string, sectionCount>;
 
-    std::string read(const std::string& path) const;
+    std::optional<std::string> read(const std::string& path) const;
     void fill(const std::string& text, Blocks& blocks, Names& names) const;
     void save(const std::string& path, const std::string& backup, const Blocks& blocks);
     std::string entry(const Blocks& blocks, std::optional<std::size_t> number, const std::string& key) const;
@@ -61,7 +66,8 @@ private:
     Platform& platform_;
     SettingsFile& settings_;
     const Utilities& utilities_;
-    bool intFileRead_ = false; ///< The system baseline in memory is that of the disk, changes aside.
+    std::string intFile_;      ///< The file of the system baseline that was loaded last,
+    bool intFileRead_ = false; ///< and whether memory holds what it held, changes aside.
 };
 
 } // namespace tarvelon

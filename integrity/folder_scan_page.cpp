@@ -114,12 +114,15 @@ void FolderScanPage::bSCAN_Click() {
     hooks.leaveScan();
     parts_.platform.messages.pump();
     const int index = screen_.Combo1.listIndex();
-    if (index > 0) {
-        parts_.dataFile.loadCustomDat(parts_.checksum.getCustomDat(index));
-        scan.customFolder = screen_.Combo1.text();
-        scan.customIndex = static_cast<std::int16_t>(index);
+    const std::string folder = screen_.Combo1.text();
+    if (index > 0 && !parts_.dataFile.loadCustomDat(parts_.checksum.getCustomDat(index))) {
+        return; // Its first scan was refused.
     }
     parts_.platform.messages.pump();
+    if (index > 0) { // Set where no input comes between this and the plan.
+        scan.customFolder = folder;
+        scan.customIndex = static_cast<std::int16_t>(index);
+    }
     hooks.loadUp();
 }
 

@@ -70,7 +70,12 @@ void IntCheck::bind() {
 
 // ---- The passes
 
+bool IntCheck::runs() const {
+    return busy_ > 0 || screen_.Timer1.Enabled();
+}
+
 void IntCheck::Timer1_Tick() {
+    const Busy busy(busy_);
     screen_.Timer1.Enabled = false;
     globals_.scan.scanCancelled = false;
     screen_.pb1max.Caption = "0";

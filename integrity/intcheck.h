@@ -48,6 +48,9 @@ public:
     /// when the settings cannot be read.
     void LoadUp();
 
+    /// A scan is being planned, is planned, or is under way.
+    bool runs() const;
+
     /// The leave action: asks what there is to ask, then ends the program or goes back to the main window.
     void Command1_Click();
 
@@ -57,6 +60,16 @@ public:
 
 private:
     struct Plan;
+
+    struct Busy {
+        explicit Busy(int& count)
+            : count_(count) {
+            ++count_;
+        }
+        Busy(const Busy&) = delete;
+        ~Busy() { --count_; }
+        int& count_;
+    };
 
     void bind();
     void readScanners();
@@ -94,6 +107,7 @@ private:
     std::int32_t cntOCX = 0;
     std::int32_t cntEXE = 0;
     std::int32_t cntPIF = 0;
+    int busy_ = 0;       ///< Plans and scans on the stack; one can run inside another.
     std::string extList; ///< The wanted extensions of the folder being counted, one behind the other.
 };
 

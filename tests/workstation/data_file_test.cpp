@@ -93,8 +93,8 @@ TEST_F(DataFiles, ACustomFoldersMissingFileIsRestoredOrBuilt) {
          Answer::No);
     tells("You have chosen not to scan this Custom Folder.  You need to run the scan before using this "
           "Custom Folder Integrity Checker.");
-    app->dataFile.loadCustomDat(path);
-    EXPECT_EQ(file(path), "") << "the load itself leaves an empty file";
+    EXPECT_FALSE(app->dataFile.loadCustomDat(path));
+    EXPECT_EQ(file(path), "(missing)") << "the next choice of the folder asks again";
 
     pc.files.remove(path);
     pc.files.remove(dataFolder + "7.bak");

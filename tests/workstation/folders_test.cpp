@@ -56,6 +56,14 @@ TEST_F(Folders, AFolderIsAddedScannedChangedFoundAcceptedAndRemoved) {
     pc.files.put(R"(C:\Tools\t.exe)", "changed");
     app->mForm1.bFULL.click();
     app->mForm1.bSCAN.click();
+    pc.messages.when([this] { return app->intCheck.Label6.Caption() == "1"; },
+                     [this] { // A further folder, while this one is scanned.
+                         app->mForm1.addRem.click();
+                         tells("Folder Added.");
+                         addFolder(R"(C:\More)");
+                         tells("Save Successful!");
+                         app->iCust.Command3.click();
+                     });
     EXPECT_FALSE(settle());
     EXPECT_EQ(app->intCheck.List1.items(), (Rows{"C:\\Tools\\t.exe"}));
     app->intCheck.Label2.click();
@@ -108,7 +116,9 @@ TEST_F(Folders, AddingIsRefusedForTheDefaultADoubleAndATwentyFirst) {
     app->iCust.cButton2.click();
 
     asks("Do you wish to Save your changes?", Answer::No);
+    pc.files.lock(dataFolder + "Tarvelon.dat"); // No matter by the next opening.
     app->iCust.close();
+    pc.files.unlock(dataFolder + "Tarvelon.dat");
     EXPECT_EQ(setting(1, "path"), "NULL");
     app->mForm1.addRem.click();
     EXPECT_EQ(app->iCust.List1.item(0), "1) Empty:") << "what was not saved is forgotten";
