@@ -27,7 +27,8 @@ std::string checksumByProgram(const std::string& algorithm, const std::string& h
     SimWorkstation machine(hostFile.substr(0, slash));
     Globals globals;
     globals.settings.algoName = algorithm;
-    return Checksum(globals, machine.platform()).getChecksum("C:\\" + hostFile.substr(slash + 1));
+    return Checksum(globals.settings, globals, machine.platform())
+        .getChecksum("C:\\" + hostFile.substr(slash + 1));
 }
 
 std::string checksumByService(const std::string& algorithm, const std::string& hostFile) {

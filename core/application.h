@@ -72,13 +72,15 @@ public:
 
     Utilities utilities{platform};
     SettingsFile settingsFile{globals, platform};
-    Checksum checksum{globals, platform};
+    Checksum checksum{globals.settings, globals, platform};
+    Checksum scanChecksum{globals.scan.algorithm, globals, platform};
     SnapshotFile snapshotFile{globals, platform};
     DataFile dataFile{globals, platform, settingsFile, utilities};
     Baseline baseline{globals, platform, dataFile, utilities, mForm1};
-    Comparison comparison{intCheck, sProg, globals, platform, settingsFile, checksum, dataFile, utilities};
+    Comparison comparison{intCheck,     sProg,        globals,  platform,
+                          settingsFile, scanChecksum, dataFile, utilities};
     IntCheck scan{intCheck,
-                  {globals, platform, settingsFile, checksum, dataFile, baseline, utilities, comparison}};
+                  {globals, platform, settingsFile, scanChecksum, dataFile, baseline, utilities, comparison}};
     Scanner scanner{mForm1, globals, platform};
     LogFiles logFiles{mForm1, globals, platform};
     SAvir scannerChoice{s_avir, globals, platform, settingsFile, utilities};
@@ -93,7 +95,7 @@ public:
     Sequence shutDownSequence{
         frmLogoff, sProg, mForm1, s_avir, {globals, platform, utilities, scanner, logFiles, powerAction}};
     ResultAction resultAction{
-        intCheck, {globals, platform, settingsFile, checksum, dataFile, utilities, scanner, logFiles}};
+        intCheck, {globals, platform, settingsFile, scanChecksum, dataFile, utilities, scanner, logFiles}};
     FolderScanPage folderScanPage{mForm1,
                                   {globals, platform, settingsFile, checksum, dataFile, baseline, utilities}};
     OwnShortcuts ownShortcuts{globals, platform, utilities};

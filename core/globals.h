@@ -13,7 +13,7 @@ namespace tarvelon {
 struct AppState {
     std::string appPath;  ///< The program's folder, with a backslash.
     std::string settFile; ///< The settings file.
-    std::string intFile;  ///< The system baseline; its name follows `algoName`.
+    std::string intFile;  ///< The system baseline of the next scan; its name follows `algoName`.
     std::string regFile;  ///< The registry snapshot.
     std::string cmdLine;  ///< The switch as typed, trimmed.
     /// -1: no shut-down pending; 0 hibernate, 1 suspend, 2 restart, 8 turn off.
@@ -22,13 +22,17 @@ struct AppState {
     bool schedRun = false;    ///< A scheduled scan plans for all file types.
 };
 
-/// What the user chose, as `loadSettings` read it.
-struct Settings {
+/// How files are checksummed. The baselines are named after it.
+struct Algorithm {
     std::string algoName;
     std::int32_t readBuffer = 65536; ///< Bytes read at a time by every file checksum.
-    std::int32_t passCount = 500;    ///< Files handed to a scanner at a time.
-    std::int16_t useWsh = 0;         ///< 1: shortcuts are made by the scripting host.
-    std::string quoteChar;           ///< One double quote, or empty.
+};
+
+/// What the user chose, as `loadSettings` read it.
+struct Settings : Algorithm {
+    std::int32_t passCount = 500; ///< Files handed to a scanner at a time.
+    std::int16_t useWsh = 0;      ///< 1: shortcuts are made by the scripting host.
+    std::string quoteChar;        ///< One double quote, or empty.
     bool shortPaths = false;
     bool autoScanFailed = false;
 };
@@ -54,6 +58,9 @@ constexpr int folderSlots = 20;
 
 /// What a scan's starters, driver, engine and result action share.
 struct ScanRun {
+    /// In force since the plan, for the scan and for accepting what it found, whatever is chosen meanwhile.
+    Algorithm algorithm;
+    bool accepting = false;       ///< Findings are being accepted into the baselines.
     bool pageScan = false;        ///< The scan belongs to the main window.
     bool noAutoAction = false;    ///< The result action does not run by itself.
     bool customFirstScan = false; ///< First scan of a custom folder: its outcome is the new baseline.
@@ -84,6 +91,11 @@ struct ScanRun {
     }
 };
 
+struct DigestState {
+    /// The cryptographic service's provider, one for the process; 0 before its first use.
+    std::uintptr_t provider = 0;
+};
+
 struct RegWatchState {
     bool regNew = false; ///< The next pass over the registry records instead of comparing.
 };
@@ -100,6 +112,7 @@ struct Globals {
     Settings settings;
     Baselines baselines;
     ScanRun scan;
+    DigestState digest;
     RegWatchState regWatch;
     ShutDownState shutDown;
 };

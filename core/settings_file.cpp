@@ -6,6 +6,7 @@
 #include "platform/files.h"
 #include "platform/platform.h"
 
+#include <algorithm>
 #include <array>
 
 namespace tarvelon {
@@ -56,6 +57,18 @@ std::optional<std::size_t> placeOf(const CaseRules& cases, const std::array<std:
         }
     }
     return std::nullopt;
+}
+
+/// A baseline without any section, as a file of no bytes gives it, gets all of them.
+void giveSections(std::array<EntryBlock, sectionCount>& blocks,
+                  std::array<std::string, sectionCount>& names) {
+    if (std::any_of(names.begin(), names.end(), [](const std::string& name) { return !name.empty(); })) {
+        return;
+    }
+    for (std::size_t i = 0; i < sectionCount; ++i) {
+        names[i] = sectionNames[i];
+        blocks[i].setText("[" + names[i] + "]\r\nNULL*E\r\n");
+    }
 }
 
 } // namespace
@@ -120,11 +133,14 @@ void SettingsFile::writeToMemory(const std::string& key, const std::string& valu
                                  const std::string& section) {
     Baselines& baselines = globals_.baselines;
     const bool custom = !globals_.scan.customFolder.empty();
-    const auto number = custom ? findCustomSection(section) : findSection(section);
+    auto& blocks = custom ? baselines.customText : baselines.sectionText;
+    auto& names = custom ? baselines.customName : baselines.sectionName;
+    giveSections(blocks, names);
+    const auto number = placeOf(globals_.cases, names, section);
     if (!number) {
         throw Failure("The baseline has no section \"" + section + "\".");
     }
-    EntryBlock& block = (custom ? baselines.customText : baselines.sectionText)[*number - 1];
+    EntryBlock& block = blocks[*number - 1];
     const CaseRules& cases = globals_.cases;
 
     const std::string lineStart = std::string(lineEnd) + key;

@@ -41,9 +41,7 @@ void chooseAlgorithm(clsHash& hash, std::string_view upperName) {
     }
 }
 
-std::string digestText(Platform& platform, FileReader& reader, std::string_view upperName,
-                       const std::string& path) {
-    clsHash hash(platform, reader);
+std::string digestText(clsHash hash, std::string_view upperName, const std::string& path) {
     chooseAlgorithm(hash, upperName);
     hash.CreateHash();
     hash.CalculateFile3(path, path);
@@ -56,23 +54,28 @@ std::string digestText(Platform& platform, FileReader& reader, std::string_view 
 
 } // namespace
 
-Checksum::Checksum(Globals& globals, Platform& platform)
-    : globals_(globals)
+Checksum::Checksum(Algorithm& algorithm, Globals& globals, Platform& platform)
+    : algorithm_(algorithm)
+    , globals_(globals)
     , platform_(platform)
-    , reader_(platform, globals.settings) {}
+    , reader_(platform, algorithm) {}
 
 std::string Checksum::getChecksum(const std::string& path) {
     // Blanks around the name do not hinder the data file's name, but here they make it an unknown one.
-    const std::string& name = globals_.settings.algoName;
+    const std::string& name = algorithm_.algoName;
     const std::string upperName = globals_.cases.upper(name);
     if (upperName == crc32Name || trim(name).empty()) {
         return crcText(reader_, path);
     }
-    return digestText(platform_, reader_, upperName, path);
+    return digestText(clsHash(platform_, reader_, globals_.digest.provider), upperName, path);
 }
 
 void Checksum::setDatName() {
-    globals_.app.intFile = dataFile("Integrity");
+    globals_.app.intFile = getIntFile();
+}
+
+std::string Checksum::getIntFile() const {
+    return dataFile("Integrity");
 }
 
 std::string Checksum::getCustomDat(int number) const {
@@ -80,7 +83,7 @@ std::string Checksum::getCustomDat(int number) const {
 }
 
 std::string Checksum::dataFile(const std::string& stem) const {
-    const std::string name = trim(globals_.settings.algoName);
+    const std::string name = trim(algorithm_.algoName);
     std::string path = globals_.app.appPath + "Data\\" + stem;
     if (!name.empty() && globals_.cases.upper(name) != crc32Name) {
         path.append("-").append(globals_.cases.lower(name));

@@ -6,13 +6,15 @@
 
 namespace tarvelon {
 
+struct Algorithm;
 struct Globals;
 struct Platform;
 
-/// Checksum texts of files under the algorithm in force, and the names of the baselines that hold them.
+/// Checksum texts of files under an algorithm, and the names of the baselines that hold them.
 class Checksum {
 public:
-    Checksum(Globals& globals, Platform& platform);
+    /// `algorithm` may change at any time: that of the settings, or that of the scan in hand.
+    Checksum(Algorithm& algorithm, Globals& globals, Platform& platform);
 
     /// The file's checksum as it stands in the baselines. CRC-32: upper-case hexadecimal without leading
     /// zeros, "0" for an empty or unreadable file. MD4, MD5, SHA-1: the digest's bytes as decimal numbers
@@ -20,8 +22,11 @@ public:
     /// buffer.
     std::string getChecksum(const std::string& path);
 
-    /// Makes `intFile` follow `algoName`.
+    /// Makes `intFile` the system baseline of this algorithm.
     void setDatName();
+
+    /// The file of the system baseline.
+    std::string getIntFile() const;
 
     /// The baseline file of a custom folder's slot, 1 to 20.
     std::string getCustomDat(int number) const;
@@ -29,6 +34,7 @@ public:
 private:
     std::string dataFile(const std::string& stem) const;
 
+    Algorithm& algorithm_;
     Globals& globals_;
     Platform& platform_;
     FileReader reader_;

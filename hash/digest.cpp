@@ -41,9 +41,10 @@ void appendHexadecimal(std::string& text, unsigned char byte) {
 
 } // namespace
 
-clsHash::clsHash(Platform& platform, FileReader& reader)
+clsHash::clsHash(Platform& platform, FileReader& reader, CryptoService::Handle& provider)
     : platform_(platform)
-    , reader_(reader) {}
+    , reader_(reader)
+    , provider_(provider) {}
 
 void clsHash::HashAlgorithm(std::int32_t index) {
     if (index < 0 || index > 3) {

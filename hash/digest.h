@@ -15,7 +15,9 @@ struct Platform;
 /// `CalculateFile3`, `GetDigestedData`, `DestroyHash`.
 class clsHash {
 public:
-    clsHash(Platform& platform, FileReader& reader);
+    /// `provider` is shared by all objects, 0 until the first of them needs it, and never given up: the
+    /// system takes it back at the end of the process.
+    clsHash(Platform& platform, FileReader& reader, CryptoService::Handle& provider);
 
     /// 0 MD4, 1 MD5, 2 SHA-1, 3 none; other values are ignored. As long as nothing is chosen the service
     /// makes no digest.
@@ -44,7 +46,7 @@ private:
     FileReader& reader_;
     std::int32_t index_ = 0;
     std::uint32_t algorithm_ = 0;
-    CryptoService::Handle provider_ = 0;
+    CryptoService::Handle& provider_;
     CryptoService::Handle hash_ = 0;
     bool hashExists_ = false;
     std::array<unsigned char, 21> digest_{};

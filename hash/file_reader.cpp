@@ -13,9 +13,9 @@
 
 namespace tarvelon {
 
-FileReader::FileReader(Platform& platform, Settings& settings)
+FileReader::FileReader(Platform& platform, Algorithm& algorithm)
     : platform_(platform)
-    , settings_(settings) {}
+    , algorithm_(algorithm) {}
 
 FileReader::~FileReader() = default;
 
@@ -40,13 +40,13 @@ bool FileReader::readToEnd(OpenFile& file, std::uint64_t total, const Take& take
     clsDoEvents doEvents(platform_.messages);
     doEvents.QueueUsed(userInput);
     for (std::uint64_t position = 0;;) {
-        if (settings_.readBuffer == 0) {
-            settings_.readBuffer = 65536;
+        if (algorithm_.readBuffer == 0) {
+            algorithm_.readBuffer = 65536;
         }
-        if (settings_.readBuffer < 0) {
+        if (algorithm_.readBuffer < 0) {
             return false;
         }
-        const auto size = static_cast<std::size_t>(settings_.readBuffer);
+        const auto size = static_cast<std::size_t>(algorithm_.readBuffer);
         const auto count = static_cast<std::size_t>(std::min<std::uint64_t>(size, total - position));
         if (!provideBuffer(size) || !fill(file, position, count)) {
             return false;

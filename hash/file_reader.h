@@ -11,13 +11,13 @@
 namespace tarvelon {
 
 class OpenFile;
+struct Algorithm;
 struct Platform;
-struct Settings;
 
 /// Reads files from end to end by `readBuffer` bytes, one after another; its buffer serves them all.
 class FileReader {
 public:
-    FileReader(Platform& platform, Settings& settings);
+    FileReader(Platform& platform, Algorithm& algorithm);
     ~FileReader();
 
     using Take = std::function<void(std::span<const unsigned char>)>;
@@ -33,7 +33,7 @@ private:
     bool fill(OpenFile& file, std::uint64_t position, std::size_t count);
 
     Platform& platform_;
-    Settings& settings_;
+    Algorithm& algorithm_;
     std::unique_ptr<unsigned char[]> buffer_;
     std::size_t bufferSize_ = 0;
     std::vector<std::unique_ptr<OpenFile>> unfinished_;

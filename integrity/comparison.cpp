@@ -138,7 +138,7 @@ void Comparison::noteNew(Pass& pass, const std::string& name, const std::string&
     }
     const std::string& dataFile = pass.arguments.dataFile;
     passOver([&] {
-        settings_.writeEntry(dataFile.empty() ? globals_.app.intFile : dataFile, name, checksum + "*E",
+        settings_.writeEntry(dataFile.empty() ? checksum_.getIntFile() : dataFile, name, checksum + "*E",
                              section);
     });
 }

@@ -80,6 +80,8 @@ void IntCheck::Timer1_Tick() {
     globals_.scan.scanCancelled = false;
     screen_.pb1max.Caption = "0";
     screen_.pbm.Caption = "0";
+    // Behind a plan of its own the start-up loads the baseline of the settings, which it has read since.
+    passOver([this] { parts_.dataFile.needIntFile(parts_.checksum.getIntFile()); });
     int turn = 0;
     std::size_t folders = 0;
     do {
@@ -147,7 +149,7 @@ void IntCheck::finish() {
     ScanRun& scan = globals_.scan;
     if (baselines.primaryScan) {
         baselines.primaryScan = false;
-        passOver([this] { parts_.dataFile.loadIntFile(globals_.app.intFile); });
+        passOver([this] { parts_.dataFile.loadIntFile(parts_.checksum.getIntFile()); });
         screen_.hide();
         hooks.showMainWindow();
     }
@@ -229,14 +231,17 @@ void IntCheck::Command1_Click() {
     screen_.load();
     scan.customQueue.clear();
     setPaused(false);
-    parts_.baseline.checkIntFile();
+    const std::string intFile = parts_.checksum.getIntFile();
+    if (!parts_.utilities.fileThere(intFile)) {
+        parts_.baseline.checkIntFile(); // An algorithm chosen meanwhile is no matter before the next plan.
+    }
     if (!confirmLeave()) {
         return;
     }
     scan.scanCancelled = true;
     screen_.Timer1.Enabled = false;
     if (scan.customFolder.empty()) {
-        parts_.dataFile.loadIntFile(globals_.app.intFile);
+        parts_.dataFile.loadIntFile(intFile);
     }
     screen_.hide();
 }
@@ -251,7 +256,7 @@ bool IntCheck::queryClose() {
     globals_.scan.scanCancelled = true;
     screen_.Timer1.Enabled = false;
     screen_.hide();
-    parts_.dataFile.loadIntFile(globals_.app.intFile);
+    parts_.dataFile.loadIntFile(parts_.checksum.getIntFile());
     return true;
 }
 
@@ -278,7 +283,7 @@ bool IntCheck::confirmLeave() {
         if (answer != Answer::Yes) {
             return false;
         }
-        platform_.files.remove(globals_.app.intFile);
+        platform_.files.remove(parts_.checksum.getIntFile());
     }
     platform_.processes.end();
 }

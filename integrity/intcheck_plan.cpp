@@ -4,7 +4,9 @@
 #include "core/globals.h"
 #include "core/settings_file.h"
 #include "core/utilities.h"
+#include "hash/checksum.h"
 #include "integrity/baseline.h"
+#include "integrity/data_file.h"
 #include "integrity/intcheck.h"
 #include "integrity/intcheck_screen.h"
 #include "platform/files.h"
@@ -36,8 +38,12 @@ struct IntCheck::Plan {
 };
 
 void IntCheck::LoadUp() {
+    const Busy busy(busy_);
     screen_.load();
+    globals_.scan.algorithm = globals_.settings;
+    parts_.checksum.setDatName();
     parts_.baseline.checkIntFile();
+    parts_.dataFile.needIntFile(parts_.checksum.getIntFile());
     resetCaptions();
     setPaused(false);
     screen_.Frame1.Visible = true;

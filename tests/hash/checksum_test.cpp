@@ -44,7 +44,7 @@ protected:
 
     SimWorkstation machine;
     Globals globals;
-    Checksum checksum{globals, machine.platform()};
+    Checksum checksum{globals.settings, globals, machine.platform()};
 };
 
 TEST_F(ChecksumTest, ReadsByBuffersAndLooksForInputOnlyBetweenThem) {
@@ -108,7 +108,7 @@ TEST_F(ChecksumTest, ReplacesABufferOfNothingForGood) {
 TEST_F(ChecksumTest, GivesNoValueAfterAnErrorAndHoldsTheFileUntilTheEnd) {
     const std::ptrdiff_t openBefore = openFiles();
     {
-        Checksum ended(globals, machine.platform());
+        Checksum ended(globals.settings, globals, machine.platform());
         globals.settings.readBuffer = 4;
         machine.files.put(file, "123456789");
         machine.faults.failNth(Operation::ReadFile, 2);

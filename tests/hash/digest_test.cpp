@@ -31,7 +31,7 @@ protected:
     SimWorkstation machine;
     Globals globals;
     FileReader reader{machine.platform(), globals.settings};
-    clsHash hash{machine.platform(), reader};
+    clsHash hash{machine.platform(), reader, globals.digest.provider};
 };
 
 TEST_F(DigestTest, GivesThePublishedDigestsInThreeForms) {
@@ -63,12 +63,12 @@ TEST_F(DigestTest, IgnoresAnIndexOutOfRangeAndKeepsTheAlgorithmForNone) {
     EXPECT_EQ(digest(3, 1), digest(1, 1));
 }
 
-TEST_F(DigestTest, AsksForTheProvidersInOrderOncePerObject) {
+TEST_F(DigestTest, AsksForTheProvidersInOrderOncePerProcess) {
     machine.crypto.providers.erase("Microsoft Enhanced Cryptographic Provider v1.0");
     globals.settings.readBuffer = 3;
     digest(2, 1);
     hash.CreateHash();
-    hash.CreateHash();
+    clsHash(hash).CreateHash();
     EXPECT_THAT(
         machine.crypto.log(),
         ElementsAre("CryptAcquireContextA \"\" \"Microsoft Enhanced Cryptographic Provider v1.0\" 1 0",
@@ -91,7 +91,7 @@ TEST_F(DigestTest, TellsTheUserPerFileThatThereIsNoServiceAndGoesOn) {
     machine.dialogs.expect(box);
     machine.dialogs.expect(box);
     globals.settings.algoName = "MD4";
-    Checksum checksum(globals, machine.platform());
+    Checksum checksum(globals.settings, globals, machine.platform());
     EXPECT_EQ(checksum.getChecksum("C:\\abc.bin"), "");
     EXPECT_EQ(checksum.getChecksum("C:\\abc.bin"), "");
     EXPECT_EQ(machine.dialogs.problems(), "");
