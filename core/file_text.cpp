@@ -6,15 +6,10 @@ namespace tarvelon {
 
 namespace {
 
-/// Has the new state made in a file beside `path`, which then takes its place.
-template<class Make>
-bool replace(Files& files, const std::string& path, const Make& make) {
-    const std::string beside = path + ".new";
-    if (make(beside) && files.move(beside, path)) {
-        return true;
-    }
-    files.remove(beside);
-    return false;
+/// On the disk itself when that succeeds: a name must not come to stand for bytes that a loss of power takes.
+bool writeThrough(Files& files, const std::string& path, const std::string& text) {
+    const auto file = files.open(path, OpenMode::Create);
+    return file && file->writeAt(0, text) && file->flush();
 }
 
 } // namespace
@@ -39,14 +34,17 @@ std::optional<std::string> readWholeFile(Files& files, const std::string& path) 
 }
 
 bool writeWholeFile(Files& files, const std::string& path, const std::string& text) {
-    return replace(files, path, [&](const std::string& beside) {
-        const auto file = files.open(beside, OpenMode::Create);
-        return file && file->writeAt(0, text);
-    });
+    const std::string beside = path + ".new";
+    if (writeThrough(files, beside, text) && files.move(beside, path)) {
+        return true;
+    }
+    files.remove(beside);
+    return false;
 }
 
 bool copyWholeFile(Files& files, const std::string& from, const std::string& to) {
-    return replace(files, to, [&](const std::string& beside) { return files.copy(from, beside); });
+    const auto text = readWholeFile(files, from);
+    return text && writeWholeFile(files, to, *text);
 }
 
 } // namespace tarvelon

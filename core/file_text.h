@@ -15,8 +15,8 @@ std::optional<std::string> readAll(OpenFile& file);
 std::optional<std::string> readWholeFile(Files& files, const std::string& path);
 
 /// Makes the file, or puts the text in place of what it held. The text is written beside it first, under the
-/// name with ".new" behind, so that the file itself is never seen half-written. False when that fails, and
-/// all is as before.
+/// name with ".new" behind, and reaches the disk before it takes the file's place, so that the file itself is
+/// never seen half-written, a loss of power included. False when that fails, and all is as before.
 bool writeWholeFile(Files& files, const std::string& path, const std::string& text);
 
 /// Copies a file over another or to a new name, in the same way.

@@ -37,6 +37,9 @@ public:
     virtual bool writeAt(std::uint64_t position, std::string_view bytes) = 0;
 
     virtual bool setLength(std::uint64_t length) = 0;
+
+    /// Returns when what was written is on the disk itself, beyond all caches.
+    virtual bool flush() = 0;
 };
 
 /// Files and folders. Paths are in the system's 8-bit code page, with backslashes.
@@ -58,11 +61,9 @@ public:
     /// Length by name, without opening. Empty for what is not there and for a folder.
     virtual std::optional<std::uint64_t> length(const std::string& path) = 0;
 
-    /// Copies over an existing `to`.
-    /// A copy that breaks off may leave `to` lost or half-written.
-    virtual bool copy(const std::string& from, const std::string& to) = 0;
     /// Gives a file another name in its folder, that of another file too, which is then gone; but a read-only
-    /// one stays, and the move fails. On failure both are as they were.
+    /// one stays, and the move fails. On failure both are as they were. Waits up to half a second for another
+    /// program that holds one of the two.
     virtual bool move(const std::string& from, const std::string& to) = 0;
     virtual bool remove(const std::string& path) = 0;
     virtual bool createFolder(const std::string& path) = 0;

@@ -18,9 +18,8 @@ enum class Operation {
     WriteFileHalf, ///< Half of the bytes reach the disk before the call fails.
     FillDisk,      ///< The disk takes half of what the file is to grow by; from then on nothing grows.
     SetLength,
+    Flush,
     LengthByName,
-    CopyFile,
-    CopyFileHalf, ///< What stood there is gone, and half of the copy is in its place.
     MoveFile,
     RemoveFile,
     CreateFolder,

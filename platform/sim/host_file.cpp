@@ -2,16 +2,16 @@
 
 #include "platform/sim/faults.h"
 
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
 
 namespace tarvelon {
 
-HostFile::HostFile(int descriptor, Faults& faults)
+HostFile::HostFile(int descriptor, Faults& faults, std::set<ino_t>& unflushed)
     : descriptor_(descriptor)
-    , faults_(faults) {}
+    , faults_(faults)
+    , unflushed_(unflushed) {}
 
 HostFile::~HostFile() {
     ::close(descriptor_);
@@ -57,6 +57,7 @@ bool HostFile::writeAt(std::uint64_t position, std::string_view bytes) {
     if (faults_.strikes(Operation::WriteFile)) {
         return false;
     }
+    unflushed_.insert(status().st_ino);
     const std::uint64_t end = hostLength();
     const std::uint64_t growth = position + bytes.size() > end ? position + bytes.size() - end : 0;
     std::size_t fitting = bytes.size() - static_cast<std::size_t>(growth - faults_.roomFor(growth));
@@ -86,15 +87,20 @@ bool HostFile::setLength(std::uint64_t length) {
     return true;
 }
 
+bool HostFile::flush() {
+    unflushed_.erase(status().st_ino);
+    return !faults_.strikes(Operation::Flush);
+}
+
 bool HostFile::empty() {
     faults_.giveBack(hostLength());
     return ::ftruncate(descriptor_, 0) == 0;
 }
 
-std::uint64_t HostFile::hostLength() const {
+struct stat HostFile::status() const {
     struct stat status = {};
     ::fstat(descriptor_, &status);
-    return static_cast<std::uint64_t>(status.st_size);
+    return status;
 }
 
 } // namespace tarvelon

@@ -170,7 +170,7 @@ std::unique_ptr<OpenFile> SimFiles::open(const std::string& path, OpenMode mode)
     if (descriptor < 0) {
         return nullptr;
     }
-    auto file = std::make_unique<HostFile>(descriptor, faults_);
+    auto file = std::make_unique<HostFile>(descriptor, faults_, unflushed_);
     if (mode == OpenMode::Create && !file->empty()) {
         return nullptr;
     }
@@ -198,7 +198,7 @@ std::optional<std::uint64_t> SimFiles::length(const std::string& path) {
     return static_cast<std::uint64_t>(status.st_size);
 }
 
-/// The two ends of a copy or a move on the host, where the system lets it go ahead.
+/// The two ends of a move on the host, where the system lets it go ahead.
 std::optional<SimFiles::Way> SimFiles::findWay(const std::string& from, const std::string& to) const {
     const auto source = place(from);
     const auto target = place(to);
@@ -211,29 +211,6 @@ std::optional<SimFiles::Way> SimFiles::findWay(const std::string& from, const st
         return std::nullopt;
     }
     return Way{*foundSource, *foundTarget};
-}
-
-bool SimFiles::copy(const std::string& from, const std::string& to) {
-    const auto way = faults_.strikes(Operation::CopyFile) ? std::nullopt : findWay(from, to);
-    struct stat status;
-    if (!way || way->source == way->target || ::stat(way->source.c_str(), &status) != 0) {
-        return false;
-    }
-    std::ifstream in(way->source, std::ios::binary);
-    const std::string bytes(std::istreambuf_iterator<char>(in), {});
-    faults_.giveBack(lengthOf(way->target));
-    std::uint64_t fitting = faults_.roomFor(bytes.size());
-    if (faults_.strikes(Operation::CopyFileHalf)) {
-        fitting = std::min<std::uint64_t>(fitting, bytes.size() / 2);
-    }
-    std::ofstream out(way->target, std::ios::binary | std::ios::trunc);
-    out.write(bytes.data(), static_cast<std::streamsize>(fitting)).flush();
-    if (!in || !out || fitting < bytes.size()) {
-        return false;
-    }
-    // A copy keeps the time of the last write.
-    const timespec times[2] = {{0, UTIME_OMIT}, status.st_mtim};
-    return ::utimensat(AT_FDCWD, way->target.c_str(), times, 0) == 0;
 }
 
 bool SimFiles::remove(const std::string& path) {
@@ -254,6 +231,11 @@ bool SimFiles::move(const std::string& from, const std::string& to) {
     const auto way = faults_.strikes(Operation::MoveFile) ? std::nullopt : findWay(from, to);
     if (!way) {
         return false;
+    }
+    struct stat status = {};
+    ::stat(way->source.c_str(), &status);
+    if (unflushed_.contains(status.st_ino)) {
+        movedUnflushed_.push_back(to);
     }
     const std::uint64_t replaced = way->source == way->target ? 0 : lengthOf(way->target);
     if (::rename(way->source.c_str(), way->target.c_str()) != 0) {

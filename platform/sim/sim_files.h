@@ -3,6 +3,8 @@
 #include "platform/files.h"
 #include "platform/sim/sim_codepage.h"
 
+#include <sys/types.h>
+
 #include <map>
 #include <set>
 #include <string>
@@ -37,6 +39,8 @@ public:
     /// The file is read-only.
     void denyWrites(const std::string& path) { readOnly_.insert(lockName(path)); }
     void allowWrites(const std::string& path) { readOnly_.erase(lockName(path)); }
+    /// Where files were moved to with bytes that a loss of power would have taken.
+    const std::vector<std::string>& movedUnflushed() const { return movedUnflushed_; }
     /// The short path of what is there, in place of the one made from its names.
     void setShortPath(const std::string& path, const std::string& shortPath) {
         shortPaths_[lockName(path)] = shortPath;
@@ -46,7 +50,6 @@ public:
     std::string nextName() override;
     std::unique_ptr<OpenFile> open(const std::string& path, OpenMode mode) override;
     std::optional<std::uint64_t> length(const std::string& path) override;
-    bool copy(const std::string& from, const std::string& to) override;
     bool move(const std::string& from, const std::string& to) override;
     bool remove(const std::string& path) override;
     bool createFolder(const std::string& path) override;
@@ -88,6 +91,8 @@ private:
     std::set<std::string> locked_;
     std::set<std::string> readOnly_;
     std::map<std::string, std::string> shortPaths_;
+    std::set<ino_t> unflushed_; ///< Files by their numbers on the host.
+    std::vector<std::string> movedUnflushed_;
     std::vector<std::string> listing_;
     std::size_t nextInListing_ = 0;
 };

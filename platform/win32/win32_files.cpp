@@ -47,11 +47,21 @@ std::optional<std::uint64_t> Win32Files::length(const std::string& path) {
     return (std::uint64_t{data.nFileSizeHigh} << 32) | data.nFileSizeLow;
 }
 
-bool Win32Files::copy(const std::string& from, const std::string& to) {
-    return CopyFileA(from.c_str(), to.c_str(), FALSE) != FALSE;
+bool Win32Files::move(const std::string& from, const std::string& to) {
+    constexpr int waits = 10;
+    constexpr DWORD wait = 50;
+    for (int waited = 0; !moveAtOnce(from, to); ++waited) {
+        const DWORD error = GetLastError();
+        const bool isHeld = error == ERROR_SHARING_VIOLATION || error == ERROR_ACCESS_DENIED;
+        if (!isHeld || waited == waits) {
+            return false;
+        }
+        Sleep(wait);
+    }
+    return true;
 }
 
-bool Win32Files::move(const std::string& from, const std::string& to) {
+bool Win32Files::moveAtOnce(const std::string& from, const std::string& to) {
     if (MoveFileExA(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING)) {
         return true;
     }

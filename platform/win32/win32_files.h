@@ -15,7 +15,6 @@ public:
     std::string nextName() override;
     std::unique_ptr<OpenFile> open(const std::string& path, OpenMode mode) override;
     std::optional<std::uint64_t> length(const std::string& path) override;
-    bool copy(const std::string& from, const std::string& to) override;
     bool move(const std::string& from, const std::string& to) override;
     bool remove(const std::string& path) override;
     bool createFolder(const std::string& path) override;
@@ -24,6 +23,7 @@ public:
 
 private:
     void endListing();
+    static bool moveAtOnce(const std::string& from, const std::string& to);
 
     HANDLE listing_ = INVALID_HANDLE_VALUE;
     std::optional<SystemLibrary> imageHelp_; ///< Loaded at the first search.

@@ -126,4 +126,8 @@ bool Win32OpenFile::setLength(std::uint64_t length) {
     return moveTo(length) && SetEndOfFile(file_) != FALSE;
 }
 
+bool Win32OpenFile::flush() {
+    return FlushFileBuffers(file_) != FALSE;
+}
+
 } // namespace tarvelon

@@ -194,6 +194,22 @@ TEST(Win32Processes, AnInstanceThatMayNotBeOpenedCounts) {
     CloseHandle(mark);
 }
 
+TEST_F(Contract, AMoveOutlastsAProgramThatHoldsTheOtherFileForAMoment) {
+    ASSERT_TRUE(put(folder + "from", "new"));
+    ASSERT_TRUE(put(folder + "to", "old"));
+    auto lock = workstation->lock(folder + "to");
+    LPTHREAD_START_ROUTINE letGo = [](void* held) WINAPI -> DWORD {
+        Sleep(120);
+        static_cast<std::shared_ptr<void>*>(held)->reset();
+        return 0;
+    };
+    const HANDLE thread = CreateThread(nullptr, 0, letGo, &lock, 0, nullptr);
+    EXPECT_TRUE(files.move(folder + "from", folder + "to"));
+    WaitForSingleObject(thread, INFINITE);
+    CloseHandle(thread);
+    EXPECT_EQ(get(folder + "to"), "new");
+}
+
 } // namespace
 
 std::unique_ptr<ContractWorkstation> makeContractWorkstation() {

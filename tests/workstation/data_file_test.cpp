@@ -68,7 +68,7 @@ TEST_F(DataFiles, SavingKeepsTheOldFileAndLosesNothingWhenItFails) {
     EXPECT_EQ(data("integrity.bak"), before);
 
     const std::string saved = data("Integrity.dat");
-    pc.faults.failNth(Operation::CopyFile, 1);
+    pc.faults.failNth(Operation::WriteFile, 1);
     EXPECT_THROW(app->dataFile.saveIntFile(), Failure);
     EXPECT_EQ(file(dataFolder + "Integrity.dat"), saved);
     pc.faults.failNth(Operation::MoveFile, 2);

@@ -5,6 +5,7 @@ namespace tarvelon {
 void Session::TearDown() {
     EXPECT_EQ(pc.dialogs.problems(), "");
     EXPECT_TRUE(pc.messages.scriptDone());
+    EXPECT_EQ(pc.files.movedUnflushed(), Rows());
 }
 
 bool Session::start(const std::string& arguments) {
