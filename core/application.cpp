@@ -2,6 +2,7 @@
 
 #include "core/failure.h"
 #include "platform/dialogs.h"
+#include "ui/controls/hold.h"
 
 namespace tarvelon {
 
@@ -72,7 +73,13 @@ void Application::bindScan() {
     baseline.hooks = {.showScan = [this] { intCheck.show(); }, .leaveScan = leaveScan, .loadUp = loadUp};
     folderScanPage.hooks = {
         .norms2 = [this] { mainForm.norms2(); }, .leaveScan = leaveScan, .loadUp = loadUp};
-    resultAction.leaveScan = leaveScan;
+    resultAction.hooks = {.leaveScan = leaveScan, .undisturbed = [this](const std::function<void()>& action) {
+                              const std::vector<Control*> controls{
+                                  &mForm1.Image5,    &mForm1.Combo1,   &mForm1.addRem,   &mForm1.bSCAN,
+                                  &mForm1.cSave2,    &iCust.cButton2,  &iCust.Command2,  &iCust.Command3,
+                                  &intCheck.Image11, &intCheck.Label2, &intCheck.Label12};
+                              runHolding(controls, screens(), action);
+                          }};
     scan.hooks = {.resultAction = [this] { resultAction.Label12_Click(); },
                   .preShut2 = [this] { shutDownSequence.PreShut2(); },
                   .showMainWindow = [this] { mForm1.show(); }};

@@ -149,7 +149,9 @@ void Baseline::buildPrimary() {
 }
 
 bool Baseline::buildCustomDat(std::string folder, const std::string& datFile, const std::string&) {
-    if (!globals_.app.autoLoadRun) {
+    // While findings are accepted no scan starts either; they go into the blank file.
+    const bool blankOnly = globals_.app.autoLoadRun || globals_.scan.accepting;
+    if (!blankOnly) {
         const Answer answer = platform_.dialogs.message(
             {.text = "This Custom Folder " + folder +
                      " has not been fully scanned yet. The scan is required by the Integrity Checker.\r\n\r\n"
@@ -165,7 +167,7 @@ bool Baseline::buildCustomDat(std::string folder, const std::string& datFile, co
     makeEmpty(platform_.files, datFile);
     folder = withBackslash(std::move(folder));
     writeBlank(platform_.files, datFile, walk(globals_, platform_, folder));
-    if (globals_.app.autoLoadRun) {
+    if (blankOnly) {
         return true;
     }
 

@@ -32,7 +32,8 @@ public:
     void checkIntFile();
 
     /// Does the same for a custom folder; `number` is its slot. False when the user refuses the scan; no file
-    /// has been made then. In a run without questions the file stays blank and no scan is started here.
+    /// has been made then. In a run without questions, and while findings are
+    /// accepted, the file stays blank and no scan is started here.
     bool buildCustomDat(std::string folder, const std::string& datFile, const std::string& number);
 
 private:

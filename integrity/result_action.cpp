@@ -17,6 +17,7 @@
 #include "platform/processes.h"
 
 #include <optional>
+#include <utility>
 
 namespace tarvelon {
 
@@ -39,6 +40,19 @@ std::string nameOf(const std::string& path, clsDoEvents& pump) {
     return path.substr(name);
 }
 
+class Accepting {
+public:
+    explicit Accepting(bool& flag)
+        : flag_(flag) {
+        flag_ = true;
+    }
+    Accepting(const Accepting&) = delete;
+    ~Accepting() { flag_ = false; }
+
+private:
+    bool& flag_;
+};
+
 /// Where to go on behind a text, counted from 1: one past its position, and 1 when it is not there.
 std::size_t startBehind(const SearchIndex& text, const std::string& searched) {
     const std::size_t hit = text.find(searched);
@@ -53,10 +67,20 @@ ResultAction::ResultAction(IntCheckScreen& screen, const ResultActionParts& part
     , globals_(parts.globals) {}
 
 void ResultAction::Label12_Click() {
-    if (!globals_.scan.customFirstScan && screen_.Label12.Caption() == closeWindowCaption) {
-        leaveScan();
+    if (globals_.scan.accepting) {
         return;
     }
+    if (!globals_.scan.customFirstScan && screen_.Label12.Caption() == closeWindowCaption) {
+        hooks.leaveScan();
+        return;
+    }
+    hooks.undisturbed([this] {
+        const Accepting accepting(globals_.scan.accepting);
+        handOverAndAccept();
+    });
+}
+
+void ResultAction::handOverAndAccept() {
     try {
         // The first scan of a custom folder passes nothing to a scanner and logs nothing.
         if (!globals_.scan.customFirstScan && !handOver()) {
@@ -122,7 +146,9 @@ ResultAction::Handed ResultAction::startScanners(bool noScanner, std::string& al
 
 void ResultAction::acceptFindings() {
     screen_.Label13.Caption = "Updating Integrity File...";
-    UpdateDatFile();
+    if (!UpdateDatFile()) {
+        return;
+    }
     if (globals_.scan.customFirstScan) {
         screen_.hide();
         globals_.scan.customFirstScan = false;
@@ -137,13 +163,23 @@ void ResultAction::acceptFindings() {
     screen_.List1.clear();
 }
 
-void ResultAction::UpdateDatFile() {
+bool ResultAction::UpdateDatFile() {
     if (screen_.List1.count() == 0) {
-        return;
+        return true;
     }
+    const std::string caption = screen_.Caption();
     screen_.Caption = "Updating - Please Wait...";
+    std::string failures;
+    const auto save = [&failures](const auto& statement) {
+        try {
+            statement();
+        } catch (const Failure& failure) {
+            failures += failure.what() + std::string("\r\n\r\n");
+        }
+    };
     clsDoEvents pump(parts_.platform.messages);
     pump.QueueUsed(userInput);
+    const std::string intFile = parts_.checksum.getIntFile();
     const SearchIndex failList(globals_.scan.failList);
     const SearchIndex customFailList(globals_.scan.customFailList);
 
@@ -164,22 +200,30 @@ void ResultAction::UpdateDatFile() {
         if (row == count - 1) {
             for (int slot = 1; slot <= static_cast<int>(passFolderList.size()); ++slot) {
                 if (!passFolderList[static_cast<std::size_t>(slot - 1)].empty()) {
-                    passOver([&] { SpecialSave(slot); });
+                    save([&] { SpecialSave(slot); });
                 }
             }
         }
         globals_.scan.customFolder.clear();
         if (systemFileSeen) {
             const std::string name = nameOf(item, pump);
-            passOver([&] { parts_.settings.writeEntry(globals_.app.intFile, name, value + "*E", section); });
+            passOver([&] { parts_.settings.writeEntry(intFile, name, value + "*E", section); });
         }
         pump.GetInputState();
     }
+    save([this] { parts_.dataFile.saveIntFile(); });
+    passOver([&] { parts_.dataFile.loadIntFile(intFile); });
+    if (!failures.empty()) {
+        screen_.Caption = caption;
+        screen_.Label13.Caption = "Failed Files List";
+        parts_.platform.dialogs.message(
+            {.text = failures + "The files stay listed and can be accepted again.", .icon = Icon::Warning});
+        return false;
+    }
     screen_.Caption = "Integrity File(s) Updated";
-    passOver([this] { parts_.dataFile.saveIntFile(); });
-    passOver([this] { parts_.dataFile.loadIntFile(globals_.app.intFile); });
     screen_.Label13.Caption = "Integrity File Updated";
     screen_.Label12.Caption = closeWindowCaption;
+    return true;
 }
 
 /// The checksum that stands behind the item in the findings of the system directory.
@@ -216,10 +260,13 @@ void ResultAction::queueForCustom(const SearchIndex& copy, const std::string& it
 }
 
 void ResultAction::SpecialSave(int slot) {
+    std::string pending = std::exchange(passFolderList[static_cast<std::size_t>(slot - 1)], {});
+    if (parts_.settings.readIni(globals_.app.settFile, "path", slot) == "NULL") {
+        return; // The folder was removed after its scan.
+    }
     const std::string file = parts_.checksum.getCustomDat(slot);
     parts_.dataFile.loadCustomDat(file);
     globals_.scan.customFolder = "!"; // Any text: entries now go to the custom baseline.
-    std::string& pending = passFolderList[static_cast<std::size_t>(slot - 1)];
     while (!pending.empty()) {
         const std::string path = pending.substr(0, pending.find('('));
         const std::string value = getBetween(globals_.cases, pending, 1, ") ", ",");

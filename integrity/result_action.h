@@ -18,6 +18,14 @@ class SearchIndex;
 class SettingsFile;
 class Utilities;
 
+/// What the result action calls beside itself.
+struct ResultActionHooks {
+    std::function<void()> leaveScan; ///< The scan window's leave action.
+    /// Runs an action and keeps the user meanwhile from all that would load another baseline, change folders
+    /// or the algorithm, or leave.
+    std::function<void(const std::function<void()>&)> undisturbed;
+};
+
 /// What the result action works with.
 struct ResultActionParts {
     Globals& globals;
@@ -36,16 +44,17 @@ class ResultAction {
 public:
     ResultAction(IntCheckScreen& screen, const ResultActionParts& parts);
 
-    /// The scan window's leave action.
-    std::function<void()> leaveScan;
+    ResultActionHooks hooks;
 
     /// The action, by click or by itself at the end of a scan. A scanner that cannot be started ends it with
-    /// a message; nothing is logged or accepted then, and it can be tried again.
+    /// a message; nothing is logged or accepted then, and it can be tried again. It is not entered a second
+    /// time while it runs.
     void Label12_Click();
 
     /// Accepts every listed finding into the baseline it belongs to and saves the baselines. Failures are
-    /// passed over.
-    void UpdateDatFile();
+    /// passed over, but false when a baseline could not be saved: the user has been told, and the findings
+    /// stay listed.
+    bool UpdateDatFile();
 
     /// Accepts what is pending for a custom folder's slot, 1 to 20, and saves its baseline, the old file as
     /// its backup. Throws `Failure` when the baseline cannot be loaded or saved.
@@ -54,6 +63,7 @@ public:
 private:
     enum class Handed { All, FirstBatchOnly };
 
+    void handOverAndAccept();
     bool handOver();
     Handed startScanners(bool noScanner, std::string& all);
     void acceptFindings();

@@ -194,21 +194,95 @@ TEST_F(HandOver, AFailingUpdateNeverCostsTheBaseline) {
     makeBaseline();
     configure("0,0");
     const std::string before = file(dataFolder + "Integrity.dat");
-    const std::pair<Operation, const char*> faults[] = {{Operation::CopyFile, "copy"},
-                                                        {Operation::CopyFileHalf, "half a copy"},
-                                                        {Operation::WriteFile, "write"},
+    const std::string staysListed =
+        dataFolder + "Integrity.dat\r\n\r\nThe files stay listed and can be accepted again.";
+    const std::pair<Operation, const char*> faults[] = {{Operation::WriteFile, "write"},
+                                                        {Operation::WriteFileHalf, "half a write"},
+                                                        {Operation::Flush, "flush"},
+                                                        {Operation::MoveFile, "move"},
                                                         {Operation::FillDisk, "full disk"}};
     for (const auto& [operation, name] : faults) {
         findBoth();
         pc.faults.failNth(operation, 1);
+        tells("The data file cannot be backed up:\r\n" + staysListed);
         app->intCheck.Label12.click();
         pc.faults.clear(operation);
         EXPECT_EQ(file(dataFolder + "Integrity.dat"), before) << name;
+        EXPECT_EQ(app->intCheck.Label13.Caption(), "Failed Files List");
     }
-    findBoth();
     pc.files.denyWrites(dataFolder + "Integrity.dat");
+    tells("The data file cannot be replaced:\r\n" + staysListed);
     app->intCheck.Label12.click();
     EXPECT_EQ(file(dataFolder + "Integrity.dat"), before) << "read-only";
+    pc.files.allowWrites(dataFolder + "Integrity.dat");
+    app->intCheck.Label12.click();
+    EXPECT_THAT(data("Integrity.dat"), HasSubstr("long name.exe=" + crcText("new")));
+}
+
+TEST_F(HandOver, NothingComesBetweenFindingsAndTheirBaseline) {
+    pc.files.put(R"(C:\One\x.dll)", "x");
+    pc.files.put(R"(C:\Two\y.dll)", "y");
+    configure("0,0", {.folders = "[1]\r\npath=C:\\One\\\r\n[2]\r\npath=C:\\Two\\\r\n"});
+    makeBaseline();
+    pc.files.put(dataFolder + "1.dat", "");
+    pc.files.put(dataFolder + "2.dat", "");
+    ASSERT_FALSE(start());
+    MForm1Screen& form = app->mForm1;
+    form.Image5.click();
+    form.Combo1.select(1);
+    form.bFULL.click();
+    form.bSCAN.click();
+    ASSERT_FALSE(settle());
+    form.addRem.Enabled = false;
+    pc.messages.when([this] { return app->intCheck.Caption() == "Updating - Please Wait..."; },
+                     [&] {
+                         form.Combo1.select(2);
+                         for (FlatButton* button :
+                              {&form.bSCAN, &form.cSave2, &app->iCust.Command3, &app->intCheck.Image11}) {
+                             button->click();
+                         }
+                         app->intCheck.Label12.click();
+                         form.close();
+                     });
+    EXPECT_TRUE(ends([this] { app->intCheck.Label12.click(); })) << "closed when all is saved";
+    EXPECT_THAT(data("1.dat"), HasSubstr("[DLL]\r\nx.dll=" + crcText("x") + "*E\r\nNULL*E\r\n[DRV]"));
+    EXPECT_EQ(data("2.dat"), "");
+    EXPECT_EQ(lines().size(), 1u);
+    EXPECT_TRUE(form.bSCAN.Enabled());
+    EXPECT_FALSE(form.addRem.Enabled()) << "as it was before";
+}
+
+TEST_F(HandOver, AnotherAlgorithmCountsFromTheNextPlan) {
+    configure("0,0");
+    makeBaseline();
+    pc.files.put(systemFolder + "b.dll", "b");
+    ASSERT_FALSE(start());
+    const auto scan = [this] {
+        app->mForm1.Image5.click();
+        app->mForm1.bFULL.click();
+        app->mForm1.bSCAN.click();
+        EXPECT_FALSE(settle());
+    };
+    pc.messages.when([this] { return app->intCheck.Label6.Caption() == "1"; },
+                     [this] {
+                         app->mForm1.Option12.click();
+                         tells("Save Success!");
+                         app->mForm1.cSave2.click();
+                     });
+    scan();
+    EXPECT_EQ(app->intCheck.List1.items(), (Rows{systemFolder + "b.dll *NEW*"}));
+    app->intCheck.Label12.click();
+    app->intCheck.Label12.click();
+    EXPECT_THAT(data("Integrity.dat"), HasSubstr("b.dll=" + crcText("b") + "*E"));
+    EXPECT_EQ(data("Integrity-md5.dat"), "(missing)");
+
+    pc.files.put(dataFolder + "Integrity-md5.dat", "");
+    scan();
+    EXPECT_EQ(app->intCheck.List1.count(), 2);
+    app->intCheck.Label12.click();
+    EXPECT_THAT(data("Integrity-md5.dat"), HasSubstr("*E\r\nNULL*E\r\n[DRV]\r\nNULL*E\r\n[386]\r\n"));
+    scan();
+    EXPECT_TRUE(app->intCheck.Label14.isShown()) << "what was accepted stays accepted";
 }
 
 TEST_F(HandOver, AReportThatCannotBeWrittenStopsTheUpdate) {

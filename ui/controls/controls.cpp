@@ -248,8 +248,10 @@ void ItemControl::setListIndex(int index) {
 }
 
 void ItemControl::select(int index) {
-    setListIndex(index);
-    raise(onClick);
+    if (isUsable()) {
+        setListIndex(index);
+        raise(onClick);
+    }
 }
 
 ListBox::ListBox(ControlParent parent, Rect place, bool visible)

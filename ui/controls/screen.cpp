@@ -1,5 +1,7 @@
 #include "ui/controls/screen.h"
 
+#include <utility>
+
 namespace tarvelon {
 
 Screen::Screen(std::string caption, int width, int height)
@@ -48,11 +50,21 @@ void Screen::hide() {
 }
 
 void Screen::close() {
+    if (closingHeld_) {
+        closeWanted_ = true;
+        return;
+    }
     dispatch([this] {
         if (!onQueryClose || onQueryClose()) {
             Visible = false;
         }
     });
+}
+
+void Screen::closeIfWanted() {
+    if (std::exchange(closeWanted_, false)) {
+        close();
+    }
 }
 
 void Screen::dispatch(const Handler& handler) const {

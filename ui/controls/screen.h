@@ -64,6 +64,11 @@ public:
     /// What the close box does: asks `onQueryClose`, and hides the screen when that agrees.
     void close();
 
+    /// While it is held, the close box only notes that the screen is to be closed.
+    void holdClosing(bool held) { closingHeld_ = held; }
+    /// Does what the close box could not do while it was held.
+    void closeIfWanted();
+
     /// False for a dialog: its frame has no button for that, and Esc does what its close box does.
     bool canMinimize = true;
 
@@ -83,6 +88,8 @@ private:
     bool loading_ = false;
     bool loaded_ = false;
     bool hiddenWhileLoading_ = false;
+    bool closingHeld_ = false;
+    bool closeWanted_ = false;
     std::vector<Control*> controls_;
 };
 
