@@ -8,7 +8,8 @@ namespace tarvelon {
 
 void tellUnscanned(Platform& platform, const Failure& failure) {
     platform.dialogs.message(
-        {.text = std::string(failure.what()) + "\r\n\r\nNothing was scanned.", .icon = Icon::Warning});
+        {.text = std::string(failure.what()) + "\r\n\r\nThe Integrity Check was not made.",
+         .icon = Icon::Warning});
 }
 
 } // namespace tarvelon

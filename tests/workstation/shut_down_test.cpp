@@ -115,8 +115,8 @@ TEST_F(ShutDownRun, FindingsAreHandedOverInOrderAndTwoMinutesAreGiven) {
 
 TEST_F(ShutDownRun, WithSettingsOutOfReachNoSwitchPassesForAScan) {
     pc.files.lock(dataFolder + "Tarvelon.dat");
-    const std::string notice =
-        "The settings file cannot be read:\r\n" + dataFolder + "Tarvelon.dat\r\n\r\nNothing was scanned.";
+    const std::string notice = "The settings file cannot be read:\r\n" + dataFolder +
+                               "Tarvelon.dat\r\n\r\nThe Integrity Check was not made.";
     for (const char* typed : {"/r", "/a"}) {
         tells(notice);
         EXPECT_TRUE(start(typed)) << typed;
