@@ -6,6 +6,8 @@
 
 #include <commctrl.h>
 
+#include <cstring>
+
 namespace tarvelon {
 
 namespace {
@@ -270,6 +272,10 @@ TEST_F(View, TicksFlipByMouseAndSpace) {
 }
 
 TEST_F(View, NodesFollowAndAreClicked) {
+    std::string heard;
+    screen.tree.onDoubleClick = [&] { heard += "twice "; };
+    screen.tree.onExpandOrCollapse = [&] { heard += "opened "; };
+    screen.tree.onKeyDown = [&](int key) { heard += std::to_string(key); };
     std::string clicked;
     screen.tree.onNodeClick = [&] { clicked = Tree::fullPath(*screen.tree.selected()); };
     screen.tree.addRoot("gone", "Gone");
@@ -283,6 +289,14 @@ TEST_F(View, NodesFollowAndAreClicked) {
     const LRESULT child = ask(screen.tree, TVM_GETNEXTITEM, TVGN_CHILD, root);
     ask(screen.tree, TVM_SELECTITEM, TVGN_CARET, child);
     EXPECT_EQ(clicked, "1-2-2004\\10:30");
+
+    ask(screen.tree, TVM_EXPAND, TVE_EXPAND, root);
+    RECT place{};
+    std::memcpy(&place, &root, sizeof root);
+    ask(screen.tree, TVM_GETITEMRECT, TRUE, reinterpret_cast<LPARAM>(&place));
+    ask(screen.tree, WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(place.left + 2, place.top + 2));
+    ask(screen.tree, WM_KEYDOWN, VK_DELETE);
+    EXPECT_EQ(heard, "opened twice opened 46");
 }
 
 TEST_F(View, ATreeMayBeFilledAnewByItsOwnClick) {

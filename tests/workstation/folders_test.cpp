@@ -45,6 +45,12 @@ TEST_F(Folders, AFolderIsAddedScannedChangedFoundAcceptedAndRemoved) {
     EXPECT_FALSE(app->iCust.Visible());
     EXPECT_EQ(app->mForm1.Combo1.items(), (Rows{systemFolder, "C:\\Tools\\"}));
 
+    asks(scanQuestion, Answer::No);
+    tells(
+        "You have chosen not to scan this Custom Folder.  You need to run the scan before using this Custom "
+        "Folder Integrity Checker.");
+    app->mForm1.Combo1.select(1);
+    EXPECT_EQ(app->mForm1.Combo1.listIndex(), 0);
     asks(scanQuestion, Answer::Yes);
     tells("Initial Custom Folder Scan Completed Successfully!");
     app->mForm1.Combo1.select(1);

@@ -10,7 +10,7 @@ protected:
     void SetUp() override {
         pc.files.put(dataFolder + "Integrity.dat", "");
         pc.files.put(R"(C:\av.exe)", "");
-        putSettings({.passCount = "2", .antivirus = "C:\\av.exe|/s"});
+        putSettings({.passCount = "2", .antivirus = "C:\\av.exe|/s", .av2 = "C:\\two.exe|/t"});
         report("03-05-2006(3_04_07PM)", "Heading,C:\\A.DLL,C:\\B.DLL,C:\\C.DLL\r\n");
         report("03-05-2006(9_00_00AM)", "Only the heading\r\n");
         report("03-06-2006(3_04_07PM)", "Heading, x ,,never shown\r\n");
@@ -67,9 +67,9 @@ TEST_F(Reports, AReportIsShownAndItsFilesScannedAgain) {
     EXPECT_EQ(app->mForm1.List4.items(), (Rows{"Heading", "C:\\A.DLL", "C:\\B.DLL", "C:\\C.DLL"}));
     tells("Anti-Virus program executed successfully!");
     app->mForm1.cScnLog.click();
-    ASSERT_EQ(pc.processes.started().size(), 2u);
-    EXPECT_EQ(pc.processes.started()[0].commandLine, "C:\\av.exe /s \"C:\\A.DLL\" \"C:\\B.DLL\" ");
-    EXPECT_EQ(pc.processes.started()[1].commandLine, "C:\\av.exe /s \"C:\\C.DLL\" ");
+    EXPECT_EQ(lines(),
+              (Rows{R"(C:\av.exe /s "C:\A.DLL" "C:\B.DLL" )", R"(C:\two.exe /t "C:\A.DLL" "C:\B.DLL" )",
+                    R"(C:\av.exe /s "C:\C.DLL" )", R"(C:\two.exe /t "C:\C.DLL" )"}));
     pc.processes.canStart = [](const std::string&) { return false; };
     tells("Your Anti-Virus program could not be executed!!!\rPlease verify the path of the "
           "software:\rC:\\av.exe");

@@ -194,6 +194,15 @@ TEST_F(RegistryWatch, SelectionsFillTheEntryAndRowsEndInAParenthesis) {
     selectNode(R"(#1 (C:\foo.exe))");
     EXPECT_TRUE(form.Command3.Enabled());
     EXPECT_EQ(form.Label19.Caption(), R"(Foo (C:\foo.exe))");
+    EXPECT_EQ(form.Text4.Caption(), R"(Foo (C:\foo.exe))");
+    form.Image7.click();
+    EXPECT_FALSE(form.Command3.Enabled()) << "not after coming to the page anew";
+    form.List5.select(1);
+    tells("No files will be modified or deleted on Restart!");
+    form.cMod.click();
+    EXPECT_FALSE(form.Command3.Enabled()) << "nor among what is pending";
+    refresh();
+    selectNode(R"(#1 (C:\foo.exe))");
     form.TreeView1.expandOrCollapse();
     EXPECT_FALSE(form.Command11.Enabled());
 }

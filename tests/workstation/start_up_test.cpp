@@ -86,5 +86,37 @@ TEST_F(StartUpRun, DamagedSettingsNeverStopTheStart) {
     }
 }
 
+TEST_F(StartUpRun, EveryEntryOpensItsPageAndNoOther) {
+    pc.files.put(dataFolder + "Integrity.dat", "");
+    ASSERT_FALSE(start());
+    MForm1Screen& form = app->mForm1;
+    const auto opens = [&](auto& entry, const Frame& opened) {
+        entry.click();
+        for (const Frame* page :
+             {&form.intF, &form.regF, &form.appF, &form.setFq, &form.qSett, &form.advF, &form.Frame2}) {
+            EXPECT_EQ(page->isShown(), page == &opened) << entry.Caption();
+        }
+    };
+    opens(form.Image5, form.intF);
+    opens(form.Image7, form.regF);
+    opens(form.Image9, form.appF);
+    opens(form.Image11, form.setFq);
+    opens(form.cSettings, form.qSett);
+    opens(form.cCancelSett, form.setFq);
+    opens(form.cButton2, form.advF);
+    opens(form.cButton1, form.setFq);
+    opens(form.cButton7, form.Frame2);
+    pc.files.put(programFolder + "Help\\index.html", "");
+    form.chlp.click();
+    EXPECT_EQ(pc.shell.opened().size(), 1u);
+    pc.files.remove(programFolder + "Help\\index.html");
+    asks("The Help file wasn't found or cannot be executed! Would you like to browse Tarvelon help on the "
+         "web?",
+         Answer::No);
+    form.chlp.click();
+    EXPECT_EQ(pc.shell.opened().size(), 1u);
+    EXPECT_TRUE(ends([&] { form.cButton9.click(); }));
+}
+
 } // namespace
 } // namespace tarvelon

@@ -47,6 +47,7 @@ TEST_F(WizardRun, NinePagesFromWelcomeToDone) {
     EXPECT_EQ(form().title.Caption(), "Welcome to the Setup Wizard");
     next();
     next();
+    EXPECT_EQ(form().title.Caption(), "Anti-Virus Setup (2/2)");
     EXPECT_EQ(shown(), "Test It!;");
     tells(noScanner);
     next();
