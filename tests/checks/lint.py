@@ -15,7 +15,7 @@ import re
 import subprocess
 import sys
 
-NOT_PRODUCT = {"tests", "bench", "build"}
+NOT_PRODUCT = {"tests", "tools", "bench", "build"}
 
 
 def digest(*parts):

@@ -1,7 +1,7 @@
 #include "demands.h"
 
 #include "hand.h"
-#include "seen_windows.h"
+#include "tools/driver/seen_windows.h"
 
 #include <algorithm>
 #include <cctype>

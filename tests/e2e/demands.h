@@ -1,7 +1,7 @@
 #pragma once
 
-#include "driver.h"
-#include "workplace.h"
+#include "tools/driver/driver.h"
+#include "tools/driver/workplace.h"
 
 namespace e2e {
 

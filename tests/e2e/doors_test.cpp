@@ -1,8 +1,8 @@
 // What lies beside the program, or in the folder that happens to be current, is neither loaded nor started.
 
-#include "driver.h"
 #include "recorder.h"
-#include "workplace.h"
+#include "tools/driver/driver.h"
+#include "tools/driver/workplace.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -48,30 +48,22 @@ TEST(Doors, NothingOfTheProgramsOwnOrTheCurrentFolderIsLoadedOrStarted) {
     const CurrentFolder here(current);
 
     const Program program(folder.program());
+    program.play({{"Options"}, {"Advanced Settings"}, {"Compare Speeds"}});
     const Form window = program.form("Welcome to Tarvelon");
-    window.click("Options");
-    window.click("Advanced Settings");
-    window.click("Compare Speeds");
     EXPECT_TRUE(comesTrue([&] { return window.rows().size() == 18; })) << program.describe();
-    window.click("Cancel");
-    window.click("Settings Wizard");
-    const Form wizard = program.form("Setup Wizard");
-    wizard.click("Next >>>");
-    wizard.click("Help Me!");
-    const Form catalogue = program.form("Anti-Virus Shell Help");
-    catalogue.clickRow("AVG (All Operating Systems)");
-    catalogue.click("Search for this Selection...");
-    program.box().press("OK");
-    EXPECT_THAT(program.box().text, testing::HasSubstr("was not found!"));
-    program.box().press("OK");
-    catalogue.close();
-    wizard.fill(0, "stranger.exe");
-    wizard.click("Next >>>");
-    wizard.click("Test It!");
-    program.box().press("OK");
-    const Box refused = program.box();
-    EXPECT_THAT(refused.text, testing::HasSubstr("cannot be started")) << refused.text;
-    refused.press("OK");
+    program.play({{"Cancel"},
+                  {"Settings Wizard", "Welcome to the Setup Wizard"},
+                  {"Next >>>"},
+                  {"Help Me!"},
+                  {"AVG (All Operating Systems)"},
+                  {"Search for this Selection..."},
+                  {"OK", "The default executable for this program was not found! Make sure you selected the "
+                         "correct anti-virus program, and the correct operating system."},
+                  {"OK"}});
+    program.form("Anti-Virus Shell Help").close();
+    program.form("Setup Wizard").fill(0, "stranger.exe");
+    program.play({{"Next >>>"}, {"Test It!"}, {"OK"}});
+    EXPECT_THAT(program.box().text, testing::HasSubstr("cannot be started"));
 
     EXPECT_THAT(stranger.recordsNow(), IsEmpty());
     const std::vector<std::string> modules = program.modules();

@@ -31,7 +31,7 @@ def digest_texts(paths, algorithm):
     """Every byte of the digest as a decimal number, one behind the other; nothing for an empty file."""
     texts = {path: "" for path in paths}
     filled = [path for path in paths if path.stat().st_size > 0]
-    command = ["openssl", "dgst", "-provider", "legacy", "-provider", "default", f"-{algorithm}", "-r"]
+    command = ["openssl", "dgst", f"-{algorithm}", "-r"]
     output = subprocess.run(command + filled, check=True, capture_output=True, text=True).stdout
     for path, line in zip(filled, output.splitlines(), strict=True):
         texts[path] = "".join(str(byte) for byte in bytes.fromhex(line.split(" ", 1)[0]))
@@ -57,7 +57,7 @@ def main():
     on_disk = {path.name.lower(): path for path in folder.iterdir()}
     paths = [on_disk[name.lower()] for name in names]
     output.mkdir(parents=True, exist_ok=True)
-    for algorithm in ("crc32", "md5", "sha1", "md4"):
+    for algorithm in ("crc32", "md5"):
         texts = crc_texts(paths) if algorithm == "crc32" else digest_texts(paths, algorithm)
         suffix = "" if algorithm == "crc32" else "-" + algorithm
         file = output / f"Integrity{suffix}.dat"

@@ -1,6 +1,6 @@
 #include "hand.h"
 
-#include "seen_windows.h"
+#include "tools/driver/seen_windows.h"
 
 #include <algorithm>
 #include <array>
@@ -32,12 +32,6 @@ constexpr std::array endings = {"Exit", "Cancel", "Close Integrity Check Window"
 bool mayEnd(HWND control) {
     return std::ranges::count(endings, withoutMarks(shownText(control))) > 0 ||
            classOf(GetAncestor(control, GA_ROOT)) == "#32770";
-}
-
-RECT placeOf(HWND window) {
-    RECT place{};
-    GetWindowRect(window, &place);
-    return place;
 }
 
 LONG middleOfTitle(const RECT& window) {
@@ -115,7 +109,7 @@ std::string Hand::act(Chance& chance) {
             return useSystemDialog(*box, chance);
         }
         if (asksToCloseAStranger(program_, *box)) {
-            box->press("No");
+            program_.press("No");
             return "leaves the window of another program open";
         }
     }
@@ -250,7 +244,7 @@ std::string Hand::comeBack(HWND window) {
 /// One that asks for a file has a field for its name, one that asks for a folder a tree.
 std::string Hand::useSystemDialog(const Box& box, Chance& chance) {
     const Form dialog(box.window);
-    const bool asksForFile = !dialog.fields().empty();
+    const bool asksForFile = !childrenOfClass(box.window, "Edit").empty();
     const bool goesOn = chance.oneIn(2);
     if (goesOn && asksForFile) {
         dialog.fill(0, scanner_);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "driver.h"
+#include "tools/driver/driver.h"
 
 #include <cstdint>
 #include <map>

@@ -1,4 +1,4 @@
-#include "workplace.h"
+#include "tools/driver/workplace.h"
 
 #include <gtest/gtest.h>
 

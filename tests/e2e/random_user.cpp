@@ -10,10 +10,10 @@
 
 #include "demands.h"
 #include "hand.h"
-#include "planted_value.h"
 #include "recorder.h"
-#include "seen_windows.h"
-#include "workplace.h"
+#include "tools/driver/planted_value.h"
+#include "tools/driver/seen_windows.h"
+#include "tools/driver/workplace.h"
 
 #include <algorithm>
 #include <atomic>

@@ -1,7 +1,7 @@
 #include "recorder.h"
 
-#include "driver.h"
-#include "workplace.h"
+#include "tools/driver/driver.h"
+#include "tools/driver/workplace.h"
 
 #include <algorithm>
 

@@ -6,9 +6,9 @@
 // for the next start, and the two minutes that this gives are cut short. Ends with 0 when the system goes
 // down.
 
-#include "driver.h"
 #include "recorder.h"
-#include "workplace.h"
+#include "tools/driver/driver.h"
+#include "tools/driver/workplace.h"
 
 #include <cstdio>
 
@@ -32,13 +32,6 @@ HWND makeHiddenWindow() {
                          nullptr);
 }
 
-void cutTheTwoMinutesShort(const e2e::Program& program) {
-    using namespace e2e;
-    const Form progress = program.form("Scanning and Shutting Down...Please Wait");
-    progress.awaitText("Status: Some files were scanned...Shutting Down in 2 minutes");
-    progress.click("ShutDown Now");
-}
-
 void chooseAndWait(const std::string& programFile, const std::string& choice) {
     using namespace e2e;
     setInputs({programFile, ""});
@@ -53,9 +46,10 @@ void chooseAndWait(const std::string& programFile, const std::string& choice) {
                               findings ? "[Rename]\r\nNUL=" + pending.path() + "\r\n" : "");
     HWND const window = makeHiddenWindow();
     const Program program(folder.program(), "/s");
-    program.form("Secure Shut Down").click(choice);
+    program.press(choice);
     if (findings) {
-        cutTheTwoMinutesShort(program);
+        program.play(
+            {{"", "Status: Some files were scanned...Shutting Down in 2 minutes"}, {"ShutDown Now"}});
     }
     SetTimer(window, 1, static_cast<UINT>(patience.count()), nullptr);
     MSG message{};

@@ -1,8 +1,8 @@
 // Ends the program without warning while it writes, starts it again as its user would, and sees whether it
 // comes back to work: kills COUNT PROGRAM EXPECTED-BASELINES-FOLDER
 
-#include "tests/e2e/driver.h"
-#include "tests/e2e/workplace.h"
+#include "tools/driver/driver.h"
+#include "tools/driver/workplace.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -62,48 +62,47 @@ struct Place {
 
 using Click = std::function<void()>; // A work goes up to its last click, which it gives.
 
+Click pressing(Place& place, const char* text) {
+    return [&place, text] { place.program->press(text); };
+}
+
 Click firstFullScan(Place& place) {
     place.program = std::make_unique<Program>(place.folder.program());
-    return [box = place.program->box()] { box.press("Yes"); };
+    place.program->box();
+    return pressing(place, "Yes");
 }
 
 Click acceptance(Place& place) {
     place.configure("0");
-    const Form results = place.start("/r", "AutoCheck");
-    results.click("Repair and Update Failed Files...");
-    results.click("Scan Failing Files...");
-    return [box = place.program->box()] { box.press("OK"); };
+    place.start("/r", "AutoCheck");
+    place.program->play({{"Repair and Update Failed Files..."}, {"Scan Failing Files..."}});
+    place.program->box();
+    return pressing(place, "OK");
 }
 
 Click settings(Place& place) {
-    const Form window = place.start("", "Welcome to Tarvelon");
-    window.click("Options");
-    window.click("Edit Settings");
-    window.click("Auto-Logging");
-    window.click("SYS,386");
-    return [window] { window.click("Save Settings"); };
+    place.start("", "Welcome to Tarvelon");
+    place.program->play({{"Options"}, {"Edit Settings"}, {"Auto-Logging"}, {"SYS,386"}});
+    return pressing(place, "Save Settings");
 }
 
 Click wizard(Place& place) {
-    const Form window = place.start("", "Welcome to Tarvelon");
-    window.click("Options");
-    window.click("Settings Wizard");
-    const Form form = place.program->form("Setup Wizard");
-    form.click("Next >>>");
-    form.awaitText("Anti-Virus Setup (1/2)");
-    form.fill(0, place.folder.program());
-    for (int page = 0; page < 7; ++page) {
-        form.click("Next >>>");
-    }
-    return [form] { form.click("Save"); };
+    place.start("", "Welcome to Tarvelon");
+    place.program->play({{"Options"},
+                         {"Settings Wizard", "Welcome to the Setup Wizard"},
+                         {"Next >>>", "Anti-Virus Setup (1/2)"}});
+    place.program->form("Setup Wizard").fill(0, place.folder.program());
+    place.program->play(std::vector<Step>(7, {"Next >>>"}));
+    return pressing(place, "Save");
 }
 
 Click customFirstScan(Place& place) {
     const Form window = place.start("", "Welcome to Tarvelon");
-    window.click("Integrity Scan");
+    place.program->press("Integrity Scan");
     Sleep(1000); // The list of folders opens only once it stands.
     window.choose(place.watched.path());
-    return [box = place.program->box()] { box.press("Yes"); };
+    place.program->box();
+    return pressing(place, "Yes");
 }
 
 struct Work {
@@ -149,7 +148,7 @@ std::string answerUntil(const Program& program, const std::function<bool()>& hol
         const std::optional<Box> box = program.boxNow();
         if (box && !box->text.empty()) {
             asked += "\"" + box->text.substr(0, 40) + "...\" ";
-            box->press(std::ranges::count(box->buttons, "Yes") > 0 ? "Yes" : "OK");
+            program.press(std::ranges::count(box->buttons, "Yes") > 0 ? "Yes" : "OK");
         }
         return !box && holds();
     });

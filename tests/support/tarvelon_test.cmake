@@ -19,7 +19,7 @@ function(tarvelon_test name)
     endif()
     math(EXPR bits "${CMAKE_SIZEOF_VOID_P} * 8")
     set_target_properties(${name} PROPERTIES CROSSCOMPILING_EMULATOR
-        "${PROJECT_SOURCE_DIR}/tests/support/wine-run;${bits};${CMAKE_BINARY_DIR}/wine")
+        "${PROJECT_SOURCE_DIR}/tools/wine-run;${bits};${CMAKE_BINARY_DIR}/wine")
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES SKIP_RETURN_CODE 77 RESOURCE_LOCK wine TIMEOUT 300)
 endfunction()

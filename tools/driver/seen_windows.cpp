@@ -14,6 +14,10 @@ std::string classOf(HWND window) {
     return name;
 }
 
+bool isOfClass(HWND window, const char* name) {
+    return lstrcmpiA(classOf(window).c_str(), name) == 0;
+}
+
 LRESULT send(HWND window, UINT message, WPARAM first, LPARAM second) {
     DWORD_PTR result = 0;
     SendMessageTimeoutA(window, message, first, second, SMTO_NORMAL, answerTime, &result);
@@ -53,6 +57,47 @@ std::vector<HWND> visibleChildren(HWND parent) {
         },
         reinterpret_cast<LPARAM>(&children));
     return children;
+}
+
+std::vector<HWND> childrenOfClass(HWND parent, const char* name) {
+    std::vector<HWND> all = visibleChildren(parent);
+    std::erase_if(all, [&](HWND child) { return !isOfClass(child, name); });
+    return all;
+}
+
+RECT placeOf(HWND window) {
+    RECT place{};
+    GetWindowRect(window, &place);
+    return place;
+}
+
+std::vector<std::string> rowsOf(HWND list) {
+    std::vector<std::string> rows;
+    const LRESULT count = send(list, LB_GETCOUNT, 0, 0);
+    for (WPARAM row = 0; static_cast<LRESULT>(row) < count; ++row) {
+        // Wide, since the narrow message comes back unconverted from another process.
+        wchar_t wide[1024] = {};
+        SendMessageTimeoutW(list, LB_GETTEXT, row, reinterpret_cast<LPARAM>(wide), SMTO_NORMAL, answerTime,
+                            nullptr);
+        rows.push_back(narrow(wide));
+    }
+    return rows;
+}
+
+RECT placeOfRow(HWND list, std::ptrdiff_t row) {
+    RECT area{};
+    RECT place{};
+    GetClientRect(list, &area);
+    const auto ask = [&] {
+        send(list, LB_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&place));
+    };
+    ask();
+    if (place.top < area.top || place.bottom > area.bottom) {
+        send(list, LB_SETTOPINDEX, static_cast<WPARAM>(row), 0);
+        ask();
+    }
+    MapWindowPoints(list, nullptr, reinterpret_cast<POINT*>(&place), 2);
+    return place;
 }
 
 } // namespace e2e

@@ -15,6 +15,8 @@ inline constexpr UINT answerTime = 5'000;
 std::string narrow(const wchar_t* wide);
 
 std::string classOf(HWND window);
+/// Without regard to case.
+bool isOfClass(HWND window, const char* name);
 
 /// The window's answer; 0 when it gives none in time.
 LRESULT send(HWND window, UINT message, WPARAM first, LPARAM second);
@@ -31,5 +33,16 @@ std::string withoutMarks(const std::string& text);
 
 /// All below the window that can be seen.
 std::vector<HWND> visibleChildren(HWND parent);
+
+/// Those of one class.
+std::vector<HWND> childrenOfClass(HWND parent, const char* name);
+
+/// On the screen.
+RECT placeOf(HWND window);
+
+/// What stands in a list box.
+std::vector<std::string> rowsOf(HWND list);
+/// Where a row stands on the screen. Scrolls to it when it is out of sight.
+RECT placeOfRow(HWND list, std::ptrdiff_t row);
 
 } // namespace e2e

@@ -21,13 +21,8 @@ public:
     HTREEITEM child(HTREEITEM parent, const std::string& text, Milliseconds limit) const;
 
     std::string textOf(HTREEITEM item) const;
-    /// Of the entries below it.
-    std::vector<std::string> textsUnder(HTREEITEM parent) const;
-    /// The same for messages about failures.
+    /// The entries below it, for messages about failures.
     std::string describe(HTREEITEM parent) const;
-
-    /// Where the entry's text stands on the screen.
-    RECT placeOf(HTREEITEM item) const;
 
     void open(HTREEITEM item) const;
     void select(HTREEITEM item) const;
@@ -36,7 +31,6 @@ private:
     /// A piece of the other process's memory, through which its tree answers.
     struct Page {
         TVITEMW item;
-        RECT place;
         wchar_t text[MAX_PATH];
     };
 

@@ -1,11 +1,10 @@
 // Walks through every screen of the program and has a picture taken of each. usage: screens PROGRAM
 // PICTURES-FOLDER
 
-#include "driver.h"
 #include "pictures.h"
-#include "planted_value.h"
-#include "tree_view.h"
-#include "workplace.h"
+#include "tools/driver/planted_value.h"
+#include "tools/driver/tree_view.h"
+#include "tools/driver/workplace.h"
 
 namespace e2e {
 namespace {
@@ -20,14 +19,12 @@ public:
     /// Leaves a baseline behind.
     void firstScan() {
         const Program program(folder_.program());
-        const Box question = program.box();
+        program.box();
         take("question");
-        question.press("Yes");
-        const Form scan = program.form("AutoCheck");
-        scan.click("Pause");
-        scan.awaitText("Resume");
+        program.press("Yes");
+        holdScan(program);
         take("scan-progress");
-        scan.click("Resume");
+        program.press("Resume");
         program.form("Welcome to Tarvelon").close();
         program.ends();
     }
@@ -43,11 +40,9 @@ public:
         planted_.rewrite("changed");
         const PlantedFile added(long_ + "a-visitor.exe", "new");
         const Program program(folder_.program(), "/r");
-        const Form results = program.form("AutoCheck");
-        results.awaitText("Results");
+        program.awaitText("Results");
         take("scan-results");
-        results.click("Repair and Update Failed Files...");
-        results.awaitText("Failed Files List");
+        program.play({{"Repair and Update Failed Files...", "Failed Files List"}});
         take("scan-failed-files");
     }
 
@@ -60,48 +55,44 @@ public:
         const Program program(folder_.program());
         const Form window = program.form("Welcome to Tarvelon");
         take("about");
-        page(window, "Integrity Scan", "Scan Folder Now", "scan-page");
-        window.click("Add/Remove Custom Folders...");
+        visit(program, {"Integrity Scan", "Scan Folder Now"}, "scan-page");
+        program.press("Add/Remove Custom Folders...");
         const Form folders = program.form("Add/Remove Custom Integrity Scan Folders");
         take("folders");
         folders.close();
         registry(program, window);
-        window.click("AppWatch");
-        window.click("Refresh");
+        program.play({{"AppWatch", "Please Click On Refresh"}, {"Refresh"}});
         comesTrue([&] { return !window.rows().empty(); });
-        window.clickRow(window.rows().front());
-        take("windows");
-        window.click("Options");
-        window.click("Load Logs");
-        report(window);
-        page(window, "Edit Settings", "Main Tarvelon Settings:", "settings");
-        window.click("Click here to setup your anti-virus or anti-trojan application(s).");
+        visit(program, {window.rows().front()}, "windows");
+        program.play({{"Options"}, {"Load Logs"}});
+        report(program, window);
+        visit(program, {"Edit Settings", "Main Tarvelon Settings:"}, "settings");
+        program.press("Click here to setup your anti-virus or anti-trojan application(s).");
         const Form choice = program.form("Anti-Virus/Trojan Selection Screen");
         take("scanners");
-        choice.click("Help me find the correct exe file...");
+        program.press("Help me find the correct exe file...");
         const Form catalogue = program.form("Anti-Virus Shell Help");
         take("catalogue");
         catalogue.close();
-        choice.click("Cancel");
-        window.click("Cancel");
-        page(window, "Advanced Settings", "Integrity Checker Algorithm:", "advanced");
-        window.click("Enclose Files with Quotes");
-        window.click("Compare Speeds");
-        comesTrue([&] { return window.rows().size() == 18 && window.shows("Compare Speeds"); });
+        comesTrue([&] { return !catalogue.isVisible(); });
+        program.press("Cancel");
+        comesTrue([&] { return !choice.isVisible(); });
+        program.press("Cancel");
+        visit(program, {"Advanced Settings", "Integrity Checker Algorithm:"}, "advanced");
+        program.play({{"Enclose Files with Quotes"}, {"Compare Speeds"}});
+        comesTrue([&] { return window.rows().size() == 18 && program.shows("Compare Speeds"); });
         take("speeds");
-        window.click("Cancel");
-        wizard(program, window);
+        program.play({{"Cancel"}, {"Settings Wizard"}});
+        wizard(program);
     }
 
     void shutDown() {
         writeSettings(systemDirectory() + "rundll32.exe|");
         const Program program(folder_.program(), "/s");
-        const Form dialog = program.form("Secure Shut Down");
+        program.form("Secure Shut Down");
         take("shut-down");
-        dialog.click("Turn Off");
-        const Form progress = program.form("Scanning and Shutting Down...Please Wait");
-        progress.awaitText("Status: Some files were scanned...Shutting Down in 2 minutes");
-        take("count-down");
+        visit(program, {"Turn Off", "Status: Some files were scanned...Shutting Down in 2 minutes"},
+              "count-down");
     }
 
 private:
@@ -114,47 +105,40 @@ private:
     void registry(const Program& program, const Form& window) {
         const PlantedValue stranger(HKEY_LOCAL_MACHINE, R"(Software\Microsoft\Windows\CurrentVersion\Run)",
                                     "Stranger", R"(C:\Program Files\A stranger\stranger.exe /silent)");
-        window.click("RegWatch");
-        window.click("Refresh");
+        program.play({{"RegWatch"}, {"Refresh"}});
         comesTrue([&] { return window.rows().size() == 2; });
-        window.clickRow(window.rows().at(1));
-        take("registry");
-        window.click("Check for modifications/deletions on reboot");
-        program.box().press("OK");
+        visit(program, {window.rows().at(1)}, "registry");
+        program.play({{"Check for modifications/deletions on reboot"}, {"OK"}});
         take("pending");
     }
 
-    void report(const Form& window) {
+    void report(const Program& program, const Form& window) {
         const TreeView tree(window.tree());
         tree.open(tree.root());
         tree.open(tree.next(TVGN_NEXT, tree.root()));
-        const HTREEITEM entry = tree.next(TVGN_CHILD, tree.root());
-        tree.select(entry);
-        clickOn(window.tree(), tree.placeOf(entry));
+        tree.select(tree.next(TVGN_CHILD, tree.root()));
         take("options");
-        page(window, "View Log", "Delete this Report", "report");
-        window.click("Close");
+        visit(program, {"View Log", "Delete this Report"}, "report");
+        program.press("Close");
     }
 
     void take(const std::string& name) { pictures_.take(name); }
 
-    void page(const Form& window, const char* entry, const char* text, const char* name) {
-        window.click(entry);
-        window.awaitText(text);
+    void visit(const Program& program, const Step& step, const char* name) {
+        program.play({step});
         take(name);
     }
 
-    void wizard(const Program& program, const Form& window) {
-        window.click("Settings Wizard");
-        const Form wizard = program.form("Setup Wizard");
+    void wizard(const Program& program) {
+        program.form("Setup Wizard");
         for (int number = 1; number <= 9; ++number) {
             take("wizard-" + std::to_string(number));
             if (number == 9) {
                 break;
             }
-            wizard.click("Next >>>");
+            program.press("Next >>>");
             if (number == 3) {
-                program.box().press("OK");
+                program.press("OK");
             }
         }
     }

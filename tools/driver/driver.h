@@ -3,14 +3,13 @@
 #include <windows.h>
 
 #include <chrono>
-#include <cstdint>
 #include <functional>
 #include <optional>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
-/// Drives the program the way its user does: from another process, by what stands on the screen.
+/// Drives the program the way its user does: from another process, by the texts on the screen and the keys.
 namespace e2e {
 
 using Milliseconds = std::chrono::milliseconds;
@@ -27,14 +26,13 @@ public:
 /// Asks again and again until `holds` is true; false when `limit` has passed.
 bool comesTrue(const std::function<bool()>& holds, Milliseconds limit = patience);
 
-/// Every line break as a single "\n", whichever way the system stores it.
-std::string plainBreaks(const std::string& text);
+constexpr DWORD handTime = 60; ///< Milliseconds that a hand takes from pressing to releasing.
 
-/// Presses and releases the mouse in the middle of a part of a control, given in places of the screen.
+/// Presses and releases the mouse in the middle of a part of a control, given in places of the screen, as
+/// soon as that lies open and `ready` holds.
+void clickAt(HWND control, const RECT& place, const std::function<bool()>& ready);
+/// The same once the control's window has come to the front.
 void clickOn(HWND control, const RECT& place);
-
-/// The same twice, as a double click.
-void doubleClickOn(HWND control, const RECT& place);
 
 /// Presses and releases a key, which goes to where the keyboard is.
 void pressKey(WORD key);
@@ -44,7 +42,7 @@ void sendKey(WORD key, DWORD flags);
 /// One press or release of the mouse where it stands, such as MOUSEEVENTF_LEFTDOWN.
 void sendMouse(DWORD event);
 
-/// One top-level window of the program. Controls are found by the text that the user reads.
+/// One top-level window of the program.
 class Form {
 public:
     explicit Form(HWND window)
@@ -53,26 +51,7 @@ public:
     std::string caption() const;
     bool isVisible() const;
 
-    /// True when a visible control has exactly this text.
-    bool shows(const std::string& text) const;
-    /// Waits for that.
-    void awaitText(const std::string& text) const;
-
-    /// Presses and releases the mouse on the control with this text, once it is there. `which` counts from 0
-    /// through several with the same text, in the order of the keyboard.
-    void click(const std::string& text, std::size_t which = 0) const;
-
-    /// True when the check box or option button with this text is ticked.
-    bool isTicked(const std::string& text) const;
-
-    /// False while the control with this text answers to nothing.
-    bool isEnabled(const std::string& text) const;
-
-    /// What stands in the visible text field.
-    std::string field() const;
-    /// What stands in all visible text fields, in the order of the keyboard.
-    std::vector<std::string> fields() const;
-    /// Writes into one of them, once it is there.
+    /// Writes into one of the visible text fields, counted in the order of the keyboard, once it is there.
     void fill(std::size_t field, const std::string& text) const;
 
     /// The visible tree, for `TreeView`.
@@ -83,12 +62,8 @@ public:
 
     /// The rows of the visible list boxes, once there is one.
     std::vector<std::string> rows() const;
-    /// Clicks the row with this text in a list box, once it is there; scrolls to it when it is out of sight.
-    void clickRow(const std::string& text) const;
 
-    /// What the visible drop-down list shows as chosen.
-    std::string chosen() const;
-    /// Opens the drop-down list and clicks the row with this text.
+    /// Opens the visible drop-down list and clicks the row with this text.
     void choose(const std::string& text) const;
 
     /// What the close box in the window's frame does.
@@ -101,10 +76,7 @@ public:
     std::string describe() const;
 
 private:
-    HWND find(const std::string& text, std::size_t which = 0) const;
-    HWND await(const std::string& text, std::size_t which = 0) const;
-    std::vector<HWND> edits() const;
-    HWND dropDown() const;
+    HWND await(const char* kind) const;
 
     HWND window_;
 };
@@ -115,9 +87,12 @@ struct Box {
     std::string title;
     std::string text;
     std::vector<std::string> buttons; ///< Without the marks of their access keys.
+};
 
-    /// Clicks the button and waits until the box is gone.
-    void press(const std::string& button) const;
+/// What a user presses, and what must stand on the screen thereupon; either may be empty.
+struct Step {
+    std::string press;
+    std::string shows = "";
 };
 
 /// One running copy of the program. Destroying it ends the process if it still runs.
@@ -127,16 +102,23 @@ public:
     Program(const Program&) = delete;
     ~Program();
 
-    /// Waits for a visible window whose caption contains the text, and brings it back when it is minimised.
+    /// Presses and releases the mouse on what has exactly this text, once it is there and answers: a control,
+    /// a button of a message box, or a row of a list. Of several, the one in the window in front is meant,
+    /// and there the first in the order of the keyboard.
+    void press(const std::string& text) const;
+    /// True when a window, a control, a message box or a row of a list has exactly this text.
+    bool shows(const std::string& text) const;
+    /// Waits for that.
+    void awaitText(const std::string& text) const;
+    void play(const std::vector<Step>& steps) const;
+
+    /// Waits for a visible window whose caption contains the text.
     Form form(const std::string& captionPart) const;
     /// True when such a window is visible now.
     bool hasForm(const std::string& captionPart) const;
 
     /// Waits for a message box.
     Box box() const;
-    /// Waits for one with this text and title, and presses a button of it.
-    void answer(const std::string& text, const std::string& button = "OK",
-                const std::string& title = "TarvelonLow") const;
     /// The message box that is open now.
     std::optional<Box> boxNow() const;
 
@@ -158,6 +140,14 @@ public:
     std::string describe() const;
 
 private:
+    /// Where a text stands: a control, or a row of a list.
+    struct Spot {
+        HWND control;
+        std::optional<std::ptrdiff_t> row;
+    };
+
+    /// With `answering`, only what can be pressed.
+    std::optional<Spot> find(const std::string& text, bool answering) const;
     std::optional<HWND> formNow(const std::string& captionPart) const;
 
     PROCESS_INFORMATION process_{};

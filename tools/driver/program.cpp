@@ -9,6 +9,36 @@
 
 namespace e2e {
 
+namespace {
+
+/// Every line break as a single "\n", whichever way the system stores it.
+std::string plainBreaks(const std::string& text) {
+    std::string plain;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        plain += text[i] == '\r' ? '\n' : text[i];
+        i += text.compare(i, 2, "\r\n") == 0 ? 1 : 0;
+    }
+    return plain;
+}
+
+/// As the user reads it.
+std::string readText(HWND control) {
+    return plainBreaks(withoutMarks(shownText(control)));
+}
+
+bool isBox(HWND window) {
+    return classOf(window) == "#32770";
+}
+
+/// Waits until a click on a row cannot pass for the second half of a double click.
+void awaitSingleClick() {
+    static DWORD last = 0;
+    comesTrue([] { return GetTickCount() >= last + GetDoubleClickTime(); });
+    last = GetTickCount() + 2 * handTime;
+}
+
+} // namespace
+
 Program::Program(const std::string& file, const std::string& arguments) {
     std::string commandLine = "\"" + file + "\"" + (arguments.empty() ? "" : " " + arguments);
     STARTUPINFOA start{};
@@ -70,16 +100,78 @@ bool Program::hasForm(const std::string& captionPart) const {
 }
 
 Form Program::form(const std::string& captionPart) const {
-    // A window shows before its program is ready for a click.
-    WaitForInputIdle(process_.hProcess, answerTime);
     std::optional<HWND> window;
     if (!comesTrue([&] { return (window = formNow(captionPart)).has_value(); })) {
         throw NotSeen("no window \"" + captionPart + "\"; " + describe());
     }
-    if (IsIconic(*window) != 0) {
-        send(*window, WM_SYSCOMMAND, SC_RESTORE, 0);
-    }
     return Form(*window);
+}
+
+std::optional<Program::Spot> Program::find(const std::string& text, bool answering) const {
+    for (HWND window : windows()) {
+        std::vector<HWND> all = visibleChildren(window);
+        if (answering) {
+            std::erase_if(
+                all, [&](HWND part) { return IsWindowEnabled(window) == 0 || IsWindowEnabled(part) == 0; });
+        } else {
+            all.push_back(window);
+        }
+        const auto named = std::ranges::find(all, text, readText);
+        if (named != all.end()) {
+            return Spot{*named, std::nullopt};
+        }
+        for (HWND part : all) {
+            const std::vector<std::string> rows =
+                isOfClass(part, "ListBox") ? rowsOf(part) : std::vector<std::string>();
+            const auto row = std::ranges::find(rows, text);
+            if (row != rows.end()) {
+                return Spot{part, row - rows.begin()};
+            }
+        }
+    }
+    return std::nullopt;
+}
+
+bool Program::shows(const std::string& text) const {
+    return find(text, false).has_value();
+}
+
+void Program::awaitText(const std::string& text) const {
+    if (!comesTrue([&] { return shows(text); })) {
+        throw NotSeen("no \"" + text + "\"; " + describe());
+    }
+}
+
+void Program::press(const std::string& text) const {
+    WaitForInputIdle(process_.hProcess, answerTime);
+    std::optional<Spot> spot;
+    if (!comesTrue([&] { return (spot = find(text, true)).has_value(); })) {
+        throw NotSeen("nothing to press with \"" + text + "\"; " + describe());
+    }
+    HWND const window = GetAncestor(spot->control, GA_ROOT);
+    if (IsIconic(window) != 0) {
+        send(window, WM_SYSCOMMAND, SC_RESTORE, 0);
+    }
+    if (spot->row) {
+        awaitSingleClick();
+        clickOn(spot->control, placeOfRow(spot->control, *spot->row));
+        return;
+    }
+    clickOn(spot->control, placeOf(spot->control));
+    if (isBox(window) && !comesTrue([&] { return IsWindowVisible(window) == 0; })) {
+        throw NotSeen("\"" + text + "\" closes no box; " + describe());
+    }
+}
+
+void Program::play(const std::vector<Step>& steps) const {
+    for (const Step& step : steps) {
+        if (!step.press.empty()) {
+            press(step.press);
+        }
+        if (!step.shows.empty()) {
+            awaitText(step.shows);
+        }
+    }
 }
 
 Box Program::box() const {
@@ -92,30 +184,20 @@ Box Program::box() const {
 
 std::optional<Box> Program::boxNow() const {
     const std::vector<HWND> all = windows();
-    const auto found =
-        std::find_if(all.begin(), all.end(), [](HWND window) { return classOf(window) == "#32770"; });
+    const auto found = std::ranges::find_if(all, isBox);
     if (found == all.end()) {
         return std::nullopt;
     }
     Box box{*found, textOf(*found), "", {}};
     for (HWND child : visibleChildren(*found)) {
-        const std::string text = textOf(child);
+        const std::string text = readText(child);
         if (classOf(child) == "Button") {
-            box.buttons.push_back(withoutMarks(text));
+            box.buttons.push_back(text);
         } else if (!text.empty()) {
-            box.text = plainBreaks(text);
+            box.text = text;
         }
     }
     return box;
-}
-
-void Program::answer(const std::string& text, const std::string& button, const std::string& title) const {
-    const Box shown = box();
-    if (shown.text != text || shown.title != title) {
-        throw NotSeen("\"" + shown.title + ": " + shown.text + "\" in place of \"" + title + ": " + text +
-                      "\"");
-    }
-    shown.press(button);
 }
 
 void Program::kill() const {

@@ -1,7 +1,6 @@
 #include "pictures.h"
 
-#include "driver.h"
-#include "workplace.h"
+#include "tools/driver/workplace.h"
 
 #include <cstdio>
 #include <exception>
@@ -17,6 +16,14 @@ void Pictures::take(const std::string& name) const {
     Sleep(300); // the last paint reaches the screen
     say("@picture " + name + ".png");
     comesTrue([&] { return readFile(folder_ + name + ".png").has_value(); });
+}
+
+Form holdScan(const Program& program) {
+    const Form scan = program.form("AutoCheck");
+    // A percentage joins the caption with the first file; a pause before that would be forgotten.
+    comesTrue([&] { return scan.caption() != "AutoCheck"; });
+    program.play({{"Pause", "Resume"}});
+    return scan;
 }
 
 int takeWalk(int count, char** arguments, const std::function<void(const Pictures& pictures)>& walk) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tools/driver/driver.h"
+
 #include <functional>
 #include <string>
 
@@ -21,6 +23,9 @@ public:
 private:
     std::string folder_;
 };
+
+/// Holds the first scan once it is under way. Gives its window.
+Form holdScan(const Program& program);
 
 /// What `main` does for a walk through the program: the arguments are the program and the folder for the
 /// pictures. Gives the exit code; a walk that stops tells why.

@@ -3,9 +3,8 @@
 // started this for a picture of the screen. usage: tour PROGRAM
 // PICTURES-FOLDER
 
-#include "driver.h"
 #include "pictures.h"
-#include "workplace.h"
+#include "tools/driver/workplace.h"
 
 namespace e2e {
 namespace {
@@ -21,19 +20,16 @@ public:
     void firstScan() {
         say("The program starts for the first time. It asks:");
         const Program program(folder_.program());
-        const Box question = program.box();
-        say("  \"" + question.text + "\"");
+        say("  \"" + program.box().text + "\"");
         pictures_.take("1-question");
         say("The answer is Yes.");
-        question.press("Yes");
+        program.press("Yes");
         const auto start = std::chrono::steady_clock::now();
 
-        const Form scan = program.form("AutoCheck");
-        scan.click("Pause");
-        scan.awaitText("Resume");
+        const Form scan = holdScan(program);
         say("The scan is held for a moment; its window reads \"" + scan.caption() + "\".");
         pictures_.take("2-scan");
-        scan.click("Resume");
+        program.press("Resume");
 
         const Form window = program.form("Welcome to Tarvelon");
         const auto taken =
@@ -54,13 +50,12 @@ public:
         const PlantedFile visitor(systemDirectory() + addedFile, "Not here yesterday.\r\n");
         const Program program(folder_.program(), "/r");
         const Form results = program.form("AutoCheck");
-        results.awaitText("Results");
+        program.awaitText("Results");
         for (const char* label : {"Total Files Scanned:", "New Files:", "Failed Files:", "Passing Files:"}) {
             say("  " + std::string(label) + " " + results.beside(label));
         }
         pictures_.take("4-results");
-        results.click("Repair and Update Failed Files...");
-        results.awaitText("Failed Files List");
+        program.play({{"Repair and Update Failed Files...", "Failed Files List"}});
         say("The list of new and failed files:");
         for (const std::string& row : results.rows()) {
             say("  " + row);

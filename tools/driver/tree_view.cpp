@@ -1,7 +1,5 @@
 #include "tree_view.h"
 
-#include <cstring>
-
 namespace e2e {
 
 TreeView::TreeView(HWND window)
@@ -50,31 +48,12 @@ std::string TreeView::textOf(HTREEITEM item) const {
     return text;
 }
 
-std::vector<std::string> TreeView::textsUnder(HTREEITEM parent) const {
-    std::vector<std::string> texts;
-    for (HTREEITEM item = next(TVGN_CHILD, parent); item != nullptr; item = next(TVGN_NEXT, item)) {
-        texts.push_back(textOf(item));
-    }
-    return texts;
-}
-
 std::string TreeView::describe(HTREEITEM parent) const {
     std::string all;
-    for (const std::string& text : textsUnder(parent)) {
-        all += " [" + text + "]";
+    for (HTREEITEM item = next(TVGN_CHILD, parent); item != nullptr; item = next(TVGN_NEXT, item)) {
+        all += " [" + textOf(item) + "]";
     }
     return all;
-}
-
-RECT TreeView::placeOf(HTREEITEM item) const {
-    // The tree takes the entry out of the place that it then fills.
-    Page page{};
-    std::memcpy(&page.place, &item, sizeof item);
-    WriteProcessMemory(process_, there_, &page, sizeof page, nullptr);
-    SendMessageA(window_, TVM_GETITEMRECT, TRUE, reinterpret_cast<LPARAM>(&there_->place));
-    ReadProcessMemory(process_, there_, &page, sizeof page, nullptr);
-    MapWindowPoints(window_, nullptr, reinterpret_cast<POINT*>(&page.place), 2);
-    return page.place;
 }
 
 void TreeView::open(HTREEITEM item) const {

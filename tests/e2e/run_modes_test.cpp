@@ -1,0 +1,209 @@
+// From findings to accepted files, in each way that the program is started: what the scanners are given, what
+// the report says, what the baseline holds.
+
+#include "recorder.h"
+#include "tools/driver/driver.h"
+#include "tools/driver/planted_value.h"
+#include "tools/driver/workplace.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <shellapi.h>
+#include <shlobj.h>
+#include <shlwapi.h>
+
+namespace e2e {
+namespace {
+
+using Rows = std::vector<std::string>;
+using testing::Contains;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+const std::string guarded = "zzguarded.drv";
+const std::string visitor = "zzz visitor.drv";
+
+constexpr const char* automatic =
+    "0,1,0,0,0,0,1,1\r\nsettings2=0,1,0,0,0,0"; ///< Drivers, scanned and logged.
+
+/// As a scanner's command line holds it.
+std::string quoted(const std::string& file) {
+    return "\"" + file + "\" ";
+}
+
+/// A file that the system is to delete at its next start, while the object lives.
+class DoomedFile {
+public:
+    explicit DoomedFile(const std::string& path)
+        : file_(path, "to be deleted") {
+        MoveFileExA(path.c_str(), nullptr, MOVEFILE_DELAY_UNTIL_REBOOT);
+    }
+    ~DoomedFile() {
+        SHDeleteValueA(HKEY_LOCAL_MACHINE, R"(System\CurrentControlSet\Control\Session Manager)",
+                       "PendingFileRenameOperations");
+    }
+
+private:
+    const PlantedFile file_;
+};
+
+/// A workstation with a complete baseline and two scanners. One driver has changed since, and one is new.
+class RunModes : public testing::Test {
+protected:
+    RunModes() { folder_.writeData("Integrity.dat", before_); }
+
+    void configure(const std::string& settings) const {
+        folder_.writeSettings({{"settings", settings},
+                               {"antivirus", first_.path() + "| /scan /log:all "},
+                               {"av2", second_.path() + "| "}});
+    }
+
+    /// Both scanners were run once for each of the lists, and what was found is accepted.
+    void expectAccepted(const Rows& lists) const {
+        Rows first;
+        Rows second;
+        for (const std::string& files : lists) {
+            first.push_back("2 \"" + first_.path() + "\" /scan /log:all " + files);
+            second.push_back("2 " + second_.path() + "  " + files);
+        }
+        EXPECT_EQ(first_.records(lists.size()), first);
+        EXPECT_EQ(second_.records(lists.size()), second);
+        std::string accepted = withEntry(systemBaseline(), "DRV", guarded, crcText("something else"));
+        accepted = withEntry(accepted, "DRV", visitor, crcText("a stranger"));
+        accepted.erase(accepted.find("\r\n\r\n"), 2); // A rewrite leaves out the empty line behind the head.
+        EXPECT_TRUE(comesTrue([&] { return folder_.data("Integrity.dat") == accepted; }))
+            << folder_.data("Integrity.dat").value_or("no baseline");
+        EXPECT_EQ(folder_.data("integrity.bak"), before_);
+    }
+
+    const std::string before_ = withEntry(systemBaseline(), "DRV", guarded, crcText("as it was"));
+    const ProgramFolder folder_{"run modes"};
+    const ProgramFolder plainFolder_{"scanner"};
+    const RecordingScanner first_{folder_.path() + "first scanner.exe"};
+    const RecordingScanner second_{plainFolder_.path() + "second.exe"};
+    const PlantedFile guarded_{systemDirectory() + guarded, "something else"};
+    const PlantedFile visitor_{systemDirectory() + visitor, "a stranger"};
+    const std::string both_ = quoted(guarded_.path()) + quoted(visitor_.path());
+};
+
+TEST_F(RunModes, ByHand) {
+    configure("0,0,0,0,0,0,0,1");
+    const Program program(folder_.program());
+    program.play({{"Integrity Scan"}, {"Driver Files (DRV)"}, {"Scan Folder Now", "Results"}});
+    const Form results = program.form("AutoCheck");
+    EXPECT_EQ(results.beside("New Files:"), "1");
+    EXPECT_EQ(results.beside("Failed Files:"), "1");
+    program.press("Repair and Update Failed Files...");
+    program.awaitText("Failed Files List");
+    EXPECT_THAT(results.rows(), ElementsAre(guarded_.path(), visitor_.path() + " *NEW*"));
+    EXPECT_THAT(first_.recordsNow(), IsEmpty());
+    program.press("Scan Failing Files...");
+    program.awaitText("Integrity File Updated");
+    expectAccepted({both_});
+    EXPECT_THAT(folder_.logs(),
+                ElementsAre("Integrity Checker - These files were either New or Failed the Integrity Check," +
+                            guarded_.path() + "," + systemDirectory() + "zzz,visitor.drv\r\n"));
+    program.play({{"Close Integrity Window"},
+                  {"Scan Folder Now", "Scan Complete. No new or modified files were found."},
+                  {"Close Integrity Check Window"},
+                  {"Exit"}});
+    EXPECT_TRUE(program.ends()) << program.describe();
+}
+
+TEST_F(RunModes, AtLogOnFindingsWaitForTheUserAndACleanScanEnds) {
+    folder_.writeSettings({{"settings", "0,1,0,0,0,0,0,0"}}); // No scanner.
+    const Program program(folder_.program(), "/r");
+    program.play({{"", "Results"},
+                  {"Repair and Update Failed Files...", "Failed Files List"},
+                  {"Cancel", "Some files failed the integrity check!  Are you sure you want to exit?"},
+                  {"No"}});
+    EXPECT_EQ(folder_.data("Integrity.dat"), before_);
+    program.play({{"Scan Failing Files..."}, {"OK", "Integrity File Updated"}});
+    expectAccepted({});
+    EXPECT_THAT(folder_.logs(),
+                ElementsAre(HasSubstr("logged because you didn't setup an Anti-Virus Scanner")));
+    program.press("Close Integrity Window");
+    EXPECT_TRUE(program.ends()) << program.describe();
+    const Program again(folder_.program(), "/r");
+    EXPECT_TRUE(again.ends()) << again.describe();
+}
+
+TEST_F(RunModes, ByTheShortcutThatTheSystemStartsAtLogOn) {
+    char startUp[MAX_PATH] = {};
+    SHGetSpecialFolderPathA(nullptr, startUp, CSIDL_COMMON_STARTUP, TRUE);
+    const PlantedFile link(std::string(startUp) + "\\Tarvelon.lnk", "");
+    DeleteFileA(link.path().c_str());
+    configure(automatic);
+    {
+        const Program program(folder_.program());
+        program.play({{"Options"},
+                      {"Edit Settings", "Main Tarvelon Settings:"},
+                      {"Auto-Load at Startup"},
+                      {"Save Settings", "Settings Saved Successfully"},
+                      {"OK"}});
+    }
+    EXPECT_THAT(first_.recordsNow(), IsEmpty());
+    ShellExecuteA(nullptr, nullptr, link.path().c_str(), nullptr, nullptr, SW_SHOWNORMAL);
+    expectAccepted({both_});
+    const auto hasEnded = [&] { return DeleteFileA(folder_.program().c_str()) != 0; };
+    EXPECT_TRUE(comesTrue(hasEnded)) << "a running program cannot be deleted";
+}
+
+TEST_F(RunModes, AtShutDown) {
+    configure(automatic);
+    const PlantedFile replaced(folder_.path() + "replaced.tmp", "to be replaced");
+    const PlantedFile wininit("C:\\windows\\wininit.ini",
+                              "[Rename]\r\nC:\\new.tmp=" + replaced.path() + "\r\nNUL=C:\\gone.tmp\r\n");
+    const std::string doomedPath = folder_.path() + "doomed.tmp";
+    const DoomedFile doomed(doomedPath);
+    {
+        const Program open(folder_.program());
+        open.form("Welcome to Tarvelon");
+        const Program program(folder_.program(), "/s");
+        program.play({{"", "You must close Tarvelon before using the Shut Down Feature."}, {"OK"}});
+        EXPECT_TRUE(program.ends()) << program.describe();
+    }
+    const Program program(folder_.program(), "/s");
+    const Form dialog = program.form("Secure Shut Down");
+    program.awaitText("hold SHIFT for Hibernate");
+    dialog.bringToFront();
+    sendKey(VK_SHIFT, 0);
+    EXPECT_TRUE(comesTrue([&] { return program.shows("Hibernate"); })) << program.describe();
+    sendKey(VK_SHIFT, KEYEVENTF_KEYUP);
+    EXPECT_TRUE(comesTrue([&] { return !program.shows("Hibernate"); })) << program.describe();
+    const std::string started = systemDirectory() + "notepad.exe";
+    const PlantedValue stranger(HKEY_LOCAL_MACHINE, R"(Software\Microsoft\Windows\CurrentVersion\Run)",
+                                "Stranger", started);
+    program.press("Turn Off");
+    const Form progress = program.form("Scanning and Shutting Down...Please Wait");
+    // The machine must not go down under the other tests: two minutes are left from here.
+    program.awaitText("Status: Some files were scanned...Shutting Down in 2 minutes");
+    progress.close();
+    program.play({{"", "Cancel Shutdown?"}, {"Yes"}});
+    EXPECT_TRUE(program.ends()) << program.describe();
+    expectAccepted({quoted(replaced.path()), quoted(doomedPath), both_, " \"" + started + "\""});
+    // Reports of the same second replace one another.
+    EXPECT_THAT(folder_.logs(),
+                Contains("Registry Action - Scan and Update Multiple Entries," + started + "\r\n"));
+    EXPECT_THAT(folder_.data("Registry.dat").value_or(""), HasSubstr("Stranger= (" + started + ")\r\n"));
+}
+
+TEST_F(RunModes, OnSchedule) {
+    configure(automatic);
+    const std::string doomedPath = folder_.path() + "doomed.tmp";
+    {
+        const DoomedFile doomed(doomedPath);
+        const Program program(folder_.program(), "/a");
+        EXPECT_TRUE(program.ends()) << program.describe();
+    }
+    const Rows lists = {quoted(doomedPath), both_};
+    expectAccepted(lists);
+    const Program clean(folder_.program(), "/a");
+    EXPECT_TRUE(clean.ends()) << clean.describe();
+    EXPECT_EQ(first_.recordsNow().size(), lists.size());
+}
+
+} // namespace
+} // namespace e2e

@@ -1,0 +1,100 @@
+// The system's own dialogs, in which a folder and a scanner are picked.
+
+#include "tools/driver/driver.h"
+#include "tools/driver/tree_view.h"
+#include "tools/driver/workplace.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace e2e {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+HTREEITEM drive(const TreeView& tree, const std::string& name) {
+    tree.open(tree.root());
+    for (HTREEITEM place = tree.next(TVGN_CHILD, tree.root()); place != nullptr;
+         place = tree.next(TVGN_NEXT, place)) {
+        tree.open(place);
+        if (HTREEITEM const found = tree.child(place, name, Milliseconds(200))) {
+            return found;
+        }
+    }
+    throw NotSeen("no drive " + name + " in the tree of folders:" + tree.describe(tree.root()));
+}
+
+/// Opens the tree of the folder dialog along the path, such as "C:\folder\", and picks the last folder.
+void pickFolder(const Program& program, const std::string& path) {
+    const TreeView tree(Form(program.box().window).tree());
+    HTREEITEM item = drive(tree, "(" + path.substr(0, 2) + ")");
+    for (std::size_t from = 3; from < path.size(); from = path.find('\\', from) + 1) {
+        const std::string name = path.substr(from, path.find('\\', from) - from);
+        tree.open(item);
+        HTREEITEM const found = tree.child(item, name, patience);
+        if (found == nullptr) {
+            throw NotSeen("no folder \"" + name + "\" in the tree:" + tree.describe(item));
+        }
+        item = found;
+    }
+    tree.select(item);
+    program.press("OK");
+}
+
+class SystemDialogs : public testing::Test {
+protected:
+    SystemDialogs() {
+        folder_.writeData("Integrity.dat", systemBaseline());
+        folder_.writeSettings({});
+    }
+
+    std::string settings() const { return folder_.data("Tarvelon.dat").value_or("no settings"); }
+
+    const ProgramFolder folder_{"dialogs"};
+};
+
+TEST_F(SystemDialogs, AFolderIsPickedAndScanned) {
+    const ProgramFolder watched("Watched Folder");
+    const PlantedFile letter(watched.path() + "letter.dll", "a letter");
+    const Program program(folder_.program());
+    const std::string title = "Please Choose a Folder to Add";
+    program.play({{"Integrity Scan"},
+                  {"Add/Remove Custom Folders...", "1) Empty:"},
+                  {"Add Folder...", title},
+                  {"Cancel"},
+                  {"Add Folder...", title}});
+    pickFolder(program, watched.path());
+    program.play({{"", "Folder Added."},
+                  {"OK"},
+                  {"1) " + watched.path(), "Currently Selected: 1) " + watched.path()},
+                  {"Scan this Folder at Startup (AutoLoad)", "Scan DLL Files"},
+                  {"Scan DLL Files"},
+                  {"Save and Exit", "Save Successful!"},
+                  {"OK"}});
+    EXPECT_THAT(settings(), HasSubstr("path=" + watched.path() + "\r\nargs=1,0,0,0,0,0,1\r\n"));
+    program.form("Welcome to Tarvelon").choose(watched.path());
+    program.play({{"Yes", "Initial Custom Folder Scan Completed Successfully!"}, {"OK"}});
+    EXPECT_THAT(folder_.data("1.dat").value_or("no baseline"),
+                HasSubstr("[DLL]\r\nletter.dll=" + crcText("a letter") + "*E\r\nNULL*E\r\n"));
+}
+
+TEST_F(SystemDialogs, AScannerIsPicked) {
+    const PlantedFile scanner(folder_.path() + "navw32.exe", "");
+    const Program program(folder_.program());
+    const Step choose{"Choose...", "Choose Anti-Virus Executable File"};
+    program.play({{"Options"},
+                  {"Edit Settings"},
+                  {"Click here to setup your anti-virus or anti-trojan application(s)."},
+                  choose,
+                  {"Cancel"},
+                  choose});
+    Form(program.box().window).fill(0, scanner.path());
+    program.play({{"Open", "Don't forget to Save!"}, {"OK"}, {"Save", "Save Success!"}, {"OK"}});
+    EXPECT_THAT(settings(), HasSubstr("antivirus=" + scanner.path() + "|/HEUR:3\r\n"));
+}
+
+} // namespace
+} // namespace e2e
