@@ -1,28 +1,27 @@
-// The windows of the desktop, other instances of the program, and what can be tried of shutting down without
-// doing it.
+// Windows, programs and documents, and links to them.
 
 #include "tests/contract/contract_fixture.h"
 
 #include <algorithm>
+#include <optional>
+#include <utility>
 
 namespace tarvelon {
 
 namespace {
 
 using testing::ElementsAre;
+using Window = Desktop::Window;
 
 constexpr std::uint32_t closeMessage = 16;
 
 class DesktopContract : public Contract {
 protected:
-    using Window = Desktop::Window;
-    using Windows = std::vector<Window>;
-
     Desktop& desktop = platform.desktop;
 
     /// Those of these windows that the walk meets, from the front to the back.
-    Windows walk(const Windows& wanted) {
-        Windows met;
+    std::vector<Window> walk(const std::vector<Window>& wanted) {
+        std::vector<Window> met;
         for (Window window = desktop.firstWindow(); window != 0; window = desktop.nextWindow(window)) {
             if (std::ranges::find(wanted, window) != wanted.end()) {
                 met.push_back(window);
@@ -31,67 +30,41 @@ protected:
         return met;
     }
 
-    std::string title(Window window, int size = 255) {
-        std::string buffer(255, '~');
-        desktop.windowText(window, buffer.data(), size);
-        return buffer.c_str();
-    }
-
-    std::string className(Window window, int size = 255) {
+    std::string text(void (Desktop::*call)(Window, char*, int), Window window, int size = 255) {
         std::string buffer(255, '~');
         buffer.back() = '\0';
-        desktop.className(window, buffer.data(), size);
+        (desktop.*call)(window, buffer.data(), size);
         return buffer.c_str();
     }
 };
 
-TEST_F(DesktopContract, AllTopLevelWindowsAreMet) {
+TEST_F(DesktopContract, WindowsAreMetFoundAndClosed) {
     const Window plain = workstation->openWindow("Contract Window", "ContractOne");
     const Window untitled = workstation->openWindow("", "ContractOne");
     const Window hidden = workstation->openWindow("Contract Hidden", "ContractTwo", false);
-    EXPECT_THAT(walk({plain, untitled, hidden}), testing::UnorderedElementsAre(plain, untitled, hidden));
+    const Window twin = workstation->openWindow("Contract Window", "ContractTwo");
+    EXPECT_EQ(text(&Desktop::windowText, plain), "Contract Window");
+    EXPECT_EQ(text(&Desktop::windowText, untitled), "");
+    EXPECT_EQ(text(&Desktop::className, hidden), "ContractTwo");
+    EXPECT_EQ(desktop.processOf(hidden), workstation->windowProcess);
+    EXPECT_EQ(text(&Desktop::windowText, plain, 9), "Contract") << "Cut, and ended by a zero";
+    EXPECT_EQ(text(&Desktop::className, plain, 9), "Contract");
 
-    EXPECT_EQ(title(plain), "Contract Window");
-    EXPECT_EQ(title(plain, 9), "Contract") << "Cut, and ended by a zero";
-    EXPECT_EQ(title(untitled), "");
-    EXPECT_EQ(title(hidden), "Contract Hidden");
-    EXPECT_EQ(className(hidden), "ContractTwo");
-    EXPECT_EQ(className(hidden, 9), "Contract");
-    EXPECT_EQ(desktop.processOf(plain), workstation->windowProcess());
-    EXPECT_EQ(desktop.processOf(hidden), workstation->windowProcess());
-}
-
-TEST_F(DesktopContract, WindowsAreFoundByTitleAndClass) {
-    const Window first = workstation->openWindow("Contract Window", "ContractOne");
-    const Window other = workstation->openWindow("Contract Windows", "ContractOne");
-    const Window hidden = workstation->openWindow("Contract Hidden", "ContractTwo", false);
-    EXPECT_EQ(desktop.find(std::nullopt, "Contract Window"), first);
-    EXPECT_EQ(desktop.find(std::nullopt, "contract WINDOWS"), other);
-    EXPECT_EQ(desktop.find("contractTWO", "Contract Hidden"), hidden);
+    for (const auto& [front, back] : {std::pair{plain, twin}, {twin, plain}}) {
+        desktop.bringToTop(front);
+        EXPECT_THAT(walk({plain, twin}), ElementsAre(front, back));
+        EXPECT_EQ(desktop.find(std::nullopt, "contract WINDOW"), front);
+    }
+    EXPECT_THAT(walk({untitled, hidden}), testing::UnorderedElementsAre(untitled, hidden));
+    EXPECT_EQ(desktop.find("contractONE", "Contract Window"), plain);
     EXPECT_EQ(desktop.find("ContractOne", "Contract Hidden"), 0u);
-    EXPECT_EQ(desktop.find("ContractNone", "Contract Window"), 0u);
     EXPECT_EQ(desktop.find(std::nullopt, "Contract"), 0u);
-}
 
-TEST_F(DesktopContract, OfEqualTitlesTheFrontWindowIsFound) {
-    const Window one = workstation->openWindow("Contract Twin", "ContractOne");
-    const Window two = workstation->openWindow("Contract Twin", "ContractTwo");
-    desktop.bringToTop(one);
-    EXPECT_THAT(walk({one, two}), ElementsAre(one, two));
-    EXPECT_EQ(desktop.find(std::nullopt, "Contract Twin"), one);
-    desktop.bringToTop(two);
-    EXPECT_THAT(walk({one, two}), ElementsAre(two, one));
-    EXPECT_EQ(desktop.find(std::nullopt, "Contract Twin"), two);
-    EXPECT_EQ(desktop.find("ContractOne", "Contract Twin"), one);
-}
-
-TEST_F(DesktopContract, AWindowThatWasAskedToCloseIsGone) {
-    const Window window = workstation->openWindow("Contract Window", "ContractOne");
-    desktop.send(window, closeMessage);
-    EXPECT_EQ(desktop.find(std::nullopt, "Contract Window"), 0u);
-    for (const Window none : {window, Window{0}}) {
-        EXPECT_EQ(title(none), "");
-        EXPECT_EQ(className(none), std::string(254, '~')) << "The buffer stays as it was";
+    desktop.send(hidden, closeMessage);
+    EXPECT_EQ(desktop.find(std::nullopt, "Contract Hidden"), 0u);
+    for (const Window none : {hidden, Window{0}}) {
+        EXPECT_EQ(text(&Desktop::windowText, none), "");
+        EXPECT_EQ(text(&Desktop::className, none), std::string(254, '~')) << "The buffer stays as it was";
         EXPECT_EQ(desktop.processOf(none), 0u);
         EXPECT_EQ(desktop.nextWindow(none), 0u);
         desktop.bringToTop(none);
@@ -99,22 +72,43 @@ TEST_F(DesktopContract, AWindowThatWasAskedToCloseIsGone) {
     }
 }
 
-TEST_F(Contract, AnotherInstanceIsSeen) {
-    EXPECT_FALSE(platform.processes.anotherInstance());
-    EXPECT_TRUE(workstation->startedAgain().anotherInstance());
+TEST_F(Contract, OnlyTheProgramThatIsNamedIsStartedAndNotAwaited) {
+    // On Windows this very test, which lists itself.
+    put("two three.exe", read(platform.processes.programFile()));
+    ASSERT_TRUE(put("two.exe", "in the other's place"));
+    const std::string made = folder + "made.json";
+    const std::string program = folder + "two three";
+    std::string arguments = "--gtest_list_tests --gtest_output=json:" + made + " ";
+    arguments.resize(Processes::longestCommandLine - program.size() - 1, 'x');
+    EXPECT_FALSE(platform.processes.start(program, arguments + "x", WindowStyle::MinimizedFocus));
+    EXPECT_TRUE(platform.processes.start(program, arguments, WindowStyle::MinimizedFocus));
+    EXPECT_TRUE(workstation->hasMade(made, program + " " + arguments));
 }
 
-TEST_F(Contract, TheRightToShutDownIsTakenAndTheSystemIsOfTheNtFamily) {
-    constexpr std::uint32_t enabledAndUsed = 0x80000003;
-    const std::string right = "SeShutdownPrivilege";
-    EXPECT_FALSE(workstation->holdsPrivilege(right));
-    platform.power.adjustPrivilege("NoSuchPrivilege", enabledAndUsed);
-    EXPECT_FALSE(workstation->holdsPrivilege(right));
-    platform.power.adjustPrivilege(right, enabledAndUsed);
-    EXPECT_TRUE(workstation->holdsPrivilege(right));
+TEST_F(Contract, DocumentsAreOpenedInTheirFolder) {
+    ASSERT_TRUE(put("open.bat", "@echo opened> opened.txt\r\n"));
+    EXPECT_EQ(platform.shell.open("missing.html", folder), Shell::fileNotFound);
+    EXPECT_EQ(platform.shell.open(folder + "missing.html", ""), Shell::fileNotFound);
+    EXPECT_GT(platform.shell.open("open.bat", folder), Shell::lastFailure);
+    EXPECT_TRUE(workstation->hasMade(folder + "opened.txt", "open.bat"));
+}
 
-    EXPECT_EQ(platform.power.version().platformId, 2u);
-    EXPECT_GT(platform.power.version().major, 4u);
+TEST_F(Contract, LinkFilesKeepWhatTheyWereTold) {
+    const std::string own = platform.processes.programFile();
+    const std::string description("Access Shortcut\0cut", 19);
+    EXPECT_TRUE(platform.shortcuts.saveShellLink(
+        folder + "Plain.lnk", {own, "", " /r", description, own, /* iconIndex */ 0, /* showCmd */ 5, 4}));
+    EXPECT_TRUE(
+        platform.shortcuts.saveShellLink(folder + "Full.lnk", {own, "C:\\", "", "Full", own, 3, 7, 4}));
+    EXPECT_TRUE(platform.shortcuts.saveScripted(folder + "Scripted.lnk", {"/r", "Tarvelon", own, 0}));
+    EXPECT_EQ(workstation->readLink(folder + "Plain.lnk"), own + "|| /r|Access Shortcut|" + own + "|0|5");
+    EXPECT_EQ(workstation->readLink(folder + "Full.lnk"), own + "|C:\\||Full|" + own + "|3|7");
+    EXPECT_EQ(workstation->readLink(folder + "Scripted.lnk"), own + "||/r|Tarvelon||0|0");
+
+    const std::string nowhere = folder + "missing\\A.lnk";
+    EXPECT_FALSE(platform.shortcuts.saveShellLink(nowhere, {.path = own, .description = "A"}));
+    EXPECT_FALSE(platform.shortcuts.saveScripted(nowhere, {.description = "A", .targetPath = own}));
+    EXPECT_EQ(workstation->readLink(nowhere), "");
 }
 
 } // namespace

@@ -1,0 +1,134 @@
+#pragma once
+
+#include "platform/win32/component.h"
+#include "platform/win32/win32_platform.h"
+
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <shlobj.h>
+#include <shlwapi.h>
+#include <wincrypt.h>
+
+#include <filesystem>
+
+namespace tarvelon {
+
+/// Windows to hold against the contract, and what a test does to it from outside the program.
+class ContractWorkstation {
+public:
+    ContractWorkstation() {
+        char temporary[MAX_PATH];
+        GetTempPathA(sizeof temporary, temporary);
+        static int made = 0; // A program that was started may still hold the folder of the test before.
+        folder = temporary + ("tarvelon-contract-" + std::to_string(GetCurrentProcessId()) + "-" +
+                              std::to_string(++made) + "\\");
+        empty();
+        std::filesystem::create_directory(folder);
+        makeKey(key);
+    }
+    ~ContractWorkstation() {
+        for (const HWND window : windows_) {
+            DestroyWindow(window);
+        }
+        empty();
+    }
+
+    Platform platform() { return win32_.platform(); }
+    /// False when this machine does not hold anybody back from writing: Wine does not, for its administrator.
+    bool makeReadOnly(const std::string& path) {
+        readOnly_ = path;
+        SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_READONLY);
+        return !CloseHandle(CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr));
+    }
+    /// Keeps the file open so that nobody else can, until the result goes.
+    std::shared_ptr<void> lock(const std::string& path) {
+        const HANDLE file = CreateFileA(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+        EXPECT_NE(file, INVALID_HANDLE_VALUE) << path;
+        return std::shared_ptr<void>(file, CloseHandle);
+    }
+    void makeKey(const std::string& path) {
+        HKEY made = nullptr;
+        EXPECT_EQ(RegCreateKeyA(HKEY_CURRENT_USER, path.c_str(), &made), ERROR_SUCCESS) << path;
+        RegCloseKey(made);
+    }
+    void setValue(const std::string& path, const std::string& name, std::uint32_t type,
+                  const std::string& bytes) {
+        const auto size = static_cast<DWORD>(bytes.size());
+        EXPECT_EQ(SHSetValueA(HKEY_CURRENT_USER, path.c_str(), name.c_str(), type, bytes.data(), size), 0u);
+    }
+    /// Removes the key container of the empty name.
+    void removeDefaultKeyContainer() {
+        HCRYPTPROV none = 0;
+        CryptAcquireContextA(&none, "", MS_ENHANCED_PROV_A, PROV_RSA_FULL, CRYPT_DELETEKEYSET);
+    }
+    /// Its timers run from its loading on. The screen outlives the workstation.
+    void attach(Screen& screen) { win32_.view().attach(screen); }
+    /// Whether a command line that makes this file has been run, at the latest within some seconds.
+    bool hasMade(const std::string& path, const std::string&) {
+        for (int tries = 0; tries < 100 && !std::filesystem::exists(path); ++tries) {
+            Sleep(100);
+        }
+        return std::filesystem::exists(path);
+    }
+    /// Target, folder, arguments, description, icon and its number, and the way to show the window, as the
+    /// system's own object reads them, with bars between them. Empty when there is no link file.
+    std::string readLink(const std::string& path) {
+        const auto link = makeComponent<IShellLinkA>(CLSID_ShellLink);
+        const auto file = queryComponent<IPersistFile>(*link);
+        if (FAILED(file->Load(wideText(path).c_str(), STGM_READ))) {
+            return {};
+        }
+        char texts[5][MAX_PATH] = {};
+        auto& [target, workingDirectory, arguments, description, icon] = texts;
+        int iconIndex = -1;
+        EXPECT_HRESULT_SUCCEEDED(link->GetPath(target, MAX_PATH, nullptr, 0));
+        EXPECT_HRESULT_SUCCEEDED(link->GetWorkingDirectory(workingDirectory, MAX_PATH));
+        EXPECT_HRESULT_SUCCEEDED(link->GetArguments(arguments, MAX_PATH));
+        EXPECT_HRESULT_SUCCEEDED(link->GetDescription(description, MAX_PATH));
+        EXPECT_HRESULT_SUCCEEDED(link->GetIconLocation(icon, MAX_PATH, &iconIndex));
+        std::string read;
+        for (const char* text : texts) {
+            read += std::string(text) + "|";
+        }
+        // Wine's object reads the normal window out of every file, whatever stands in its header.
+        std::int32_t show = -1;
+        EXPECT_EQ(Win32Files().open(path, OpenMode::Read)->readAt(60, &show, sizeof show), sizeof show);
+        return read + std::to_string(iconIndex) + "|" + std::to_string(show);
+    }
+    /// Opens a window that closes when it is asked to, at the latest together with the workstation.
+    Desktop::Window openWindow(const std::string& title, const std::string& className, bool visible = true) {
+        WNDCLASSA description{};
+        description.lpfnWndProc = DefWindowProcA;
+        description.lpszClassName = className.c_str();
+        RegisterClassA(&description); // Fails for one that is there, which serves as well.
+        // A kind of window that no window manager has to be waited for.
+        const HWND window = CreateWindowExA(WS_EX_TOOLWINDOW, className.c_str(), title.c_str(), WS_POPUP, 0,
+                                            0, 200, 100, nullptr, nullptr, nullptr, nullptr);
+        EXPECT_NE(window, nullptr) << title;
+        ShowWindow(window, visible ? SW_SHOWNOACTIVATE : SW_HIDE);
+        windows_.push_back(window);
+        return reinterpret_cast<Desktop::Window>(window);
+    }
+    /// The process that these windows belong to.
+    const std::uint32_t windowProcess = GetCurrentProcessId();
+
+    /// An empty one, with its trailing backslash.
+    std::string folder;
+    /// A registry key without values and sub-keys: the path below `Registry::currentUser`.
+    const std::string key = R"(Software\TarvelonContract)";
+
+private:
+    void empty() {
+        SetFileAttributesA(readOnly_.c_str(), FILE_ATTRIBUTE_NORMAL);
+        std::error_code passedOver;
+        std::filesystem::remove_all(folder, passedOver);
+        SHDeleteKeyA(HKEY_CURRENT_USER, key.c_str());
+    }
+
+    Win32Platform win32_;
+    std::string readOnly_;
+    std::vector<HWND> windows_;
+};
+
+} // namespace tarvelon
