@@ -67,8 +67,9 @@ void clickAt(HWND control, const RECT& place, const std::function<bool()>& ready
         return open && isOpen();
     };
     if (!comesTrue(staysOpen)) {
-        throw NotSeen("\"" + textOf(control) + "\" is covered by \"" + textOf(WindowFromPoint(centre)) +
-                      "\"");
+        HWND const above = GetAncestor(WindowFromPoint(centre), GA_ROOT);
+        throw NotSeen("\"" + textOf(control) + "\" is covered by the " + classOf(above) + " \"" +
+                      textOf(above) + "\"");
     }
     sendMouse(MOUSEEVENTF_LEFTDOWN);
     Sleep(handTime);
