@@ -6,6 +6,8 @@ namespace tarvelon {
 
 namespace folding {
 
+namespace {
+
 [[TARVELON_TARGET_256, gnu::always_inline]] inline __m256i load256(const unsigned char* from) {
     return _mm256_loadu_si256(reinterpret_cast<const __m256i*>(from));
 }
@@ -20,6 +22,8 @@ namespace folding {
     const __m256i high = _mm256_clmulepi64_epi128(value, keys, highLanes);
     return _mm256_xor_si256(_mm256_xor_si256(low, high), message);
 }
+
+} // namespace
 
 } // namespace folding
 

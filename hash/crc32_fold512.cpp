@@ -6,6 +6,8 @@ namespace tarvelon {
 
 namespace folding {
 
+namespace {
+
 [[TARVELON_TARGET_512, gnu::always_inline]] inline __m512i load512(const unsigned char* from) {
     return _mm512_loadu_si512(from);
 }
@@ -26,6 +28,8 @@ template<int index>
 [[TARVELON_TARGET_512, gnu::always_inline]] inline __m128i quarter(__m512i value) {
     return _mm512_maskz_extracti32x4_epi32(0xF, value, index);
 }
+
+} // namespace
 
 } // namespace folding
 

@@ -146,7 +146,7 @@ bool IntCheck::takeNextCustomFolder(int& turn, std::size_t& folders) {
 
 void IntCheck::finish() {
     Baselines& baselines = globals_.baselines;
-    ScanRun& scan = globals_.scan;
+    const ScanRun& scan = globals_.scan;
     if (baselines.primaryScan) {
         baselines.primaryScan = false;
         passOver([this] { parts_.dataFile.loadIntFile(parts_.checksum.getIntFile()); });

@@ -185,7 +185,7 @@ void RegPage::Command11_Click() {
 
 void RegPage::cScnUpd_Click() {
     const bool pending = screen_.List6.Visible();
-    ListBox& source = pending ? screen_.List6 : screen_.List5;
+    const ListBox& source = pending ? screen_.List6 : screen_.List5;
     if (source.count() == 1) {
         return;
     }

@@ -39,6 +39,7 @@ bool SimDesktop::isOpen(Window window) const {
 
 std::vector<Desktop::Window> SimDesktop::order() const {
     std::vector<Window> handles;
+    handles.reserve(windows_.size());
     for (const Opened& opened : windows_) {
         handles.push_back(opened.handle);
     }

@@ -16,7 +16,14 @@ class Faults;
 /// so that one closed before answers to its old number. A call that is told to fail denies access.
 class SimRegistry : public Registry {
 public:
-    enum Type : std::uint32_t { None, Text, ExpandableText, Binary, Number, TextList = 7 };
+    enum Type : std::uint32_t {
+        None = 0,
+        Text = 1,
+        ExpandableText = 2,
+        Binary = 3,
+        Number = 4,
+        TextList = 7
+    };
 
     struct Value {
         std::uint32_t type = None;

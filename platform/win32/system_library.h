@@ -15,6 +15,7 @@ public:
     /// The exported function, or null where this system does not have it.
     template<class Function>
     Function* find(const char* name) const {
+        // NOLINTNEXTLINE(bugprone-casting-through-void): a plain cast between functions is warned of.
         return reinterpret_cast<Function*>(reinterpret_cast<void*>(address(name)));
     }
 

@@ -35,7 +35,7 @@ void registerWindowClasses() {
 
 Win32View::Win32View()
     : tools_(std::make_unique<ViewTools>()) {
-    INITCOMMONCONTROLSEX wanted{sizeof wanted, ICC_PROGRESS_CLASS | ICC_TREEVIEW_CLASSES};
+    const INITCOMMONCONTROLSEX wanted{sizeof wanted, ICC_PROGRESS_CLASS | ICC_TREEVIEW_CLASSES};
     InitCommonControlsEx(&wanted);
     registerWindowClasses();
 }

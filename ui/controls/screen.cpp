@@ -30,7 +30,7 @@ void Screen::load() {
         Loading(const Loading&) = delete;
         ~Loading() { flag_ = false; }
         bool& flag_;
-    } loading(loading_);
+    } const loading(loading_);
     onLoad();
 }
 
