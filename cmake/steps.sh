@@ -24,7 +24,8 @@ as_root() {
 }
 
 apt_get() {
-    as_root env DEBIAN_FRONTEND=noninteractive apt-get -q -y --no-install-recommends "$@" 2>&1 </dev/null
+    as_root env DEBIAN_FRONTEND=noninteractive apt-get -q -y --no-install-recommends \
+        -o DPkg::Lock::Timeout=300 "$@" 2>&1 </dev/null
 }
 
 # install PACKAGE...: where it fails, $reason tells why.
