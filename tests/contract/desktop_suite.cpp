@@ -15,12 +15,10 @@ using Window = Desktop::Window;
 
 constexpr std::uint32_t closeMessage = 16;
 
-class DesktopContract : public Contract {
-protected:
+TEST_F(Contract, WindowsAreMetFoundAndClosed) {
     Desktop& desktop = platform.desktop;
-
     /// Those of these windows that the walk meets, from the front to the back.
-    std::vector<Window> walk(const std::vector<Window>& wanted) {
+    const auto walk = [&](const std::vector<Window>& wanted) {
         std::vector<Window> met;
         for (Window window = desktop.firstWindow(); window != 0; window = desktop.nextWindow(window)) {
             if (std::ranges::find(wanted, window) != wanted.end()) {
@@ -28,17 +26,13 @@ protected:
             }
         }
         return met;
-    }
-
-    std::string text(void (Desktop::*call)(Window, char*, int), Window window, int size = 255) {
+    };
+    const auto text = [&](auto call, Window window, int size = 255) {
         std::string buffer(255, '~');
         buffer.back() = '\0';
         (desktop.*call)(window, buffer.data(), size);
-        return buffer.c_str();
-    }
-};
-
-TEST_F(DesktopContract, WindowsAreMetFoundAndClosed) {
+        return std::string(buffer.c_str());
+    };
     const Window plain = workstation->openWindow("Contract Window", "ContractOne");
     const Window untitled = workstation->openWindow("", "ContractOne");
     const Window hidden = workstation->openWindow("Contract Hidden", "ContractTwo", false);
