@@ -15,7 +15,7 @@ target_include_directories(gmock_main SYSTEM
 if(WIN32 AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
     # The thread model of the Windows builds has no std::mutex before GCC 13; the tests have one thread.
     target_compile_definitions(gmock_main PUBLIC GTEST_IS_THREADSAFE=0)
-    target_compile_options(gmock_main PRIVATE -include ${CMAKE_CURRENT_LIST_DIR}/gtest_auto_handle.h)
+    target_compile_options(gmock_main PRIVATE -include ${CMAKE_CURRENT_LIST_DIR}/no_death_tests.h)
 elseif(NOT WIN32)
     find_package(Threads REQUIRED)
     target_link_libraries(gmock_main PUBLIC Threads::Threads)

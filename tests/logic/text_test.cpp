@@ -1,0 +1,90 @@
+#include "core/search_index.h"
+#include "core/text.h"
+#include "core/utilities.h"
+#include "platform/command_line.h"
+#include "platform/sim/workstation.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+
+namespace tarvelon {
+namespace {
+
+SimCodePage codePage;
+const CaseRules cases(codePage);
+
+TEST(Text, IsFoundByTheFastSearchesWhereAPlainOneFindsIt) {
+    std::mt19937 random(11);
+    // So few characters that searches nearly hit all the time.
+    const auto character = [&] { return "aA\xe4\xc4,"[random() % 5]; };
+    for (int round = 0; round < 6000; ++round) {
+        std::string text(random() % 700, ' ');
+        std::ranges::generate(text, character);
+        std::string searched = text.substr(random() % (text.size() + 1), random() % 25);
+        if (!searched.empty() && random() % 3 == 0) {
+            searched[random() % searched.size()] = character();
+        }
+        const std::size_t from = random() % (text.size() + 2);
+        ASSERT_EQ(SearchIndex(text).find(searched), text.find(searched)) << searched << " in " << text;
+        ASSERT_EQ(cases.find(text, searched, from), cases.upper(text).find(cases.upper(searched), from))
+            << searched << " from " << from << " in " << text;
+    }
+    EXPECT_EQ(cases.find("\xff", "\x9f"), 0u) << "A pair far apart";
+    EXPECT_EQ(cases.find("a\xd7", "a\xf7"), std::string::npos) << "Times and divided-by are no pair";
+    EXPECT_EQ(cases.replaceAll("aAaAa", "aa", "x"), "xxa");
+    EXPECT_EQ(cases.replaceAll("text", "", "x"), "text");
+    EXPECT_EQ(cases.replaceAll("Null null", "NULL", "nullnull"), "nullnull nullnull");
+}
+
+TEST(Text, IsCutInPieces) {
+    const auto between = [&](std::size_t start, std::string_view left, std::string_view right) {
+        return getBetween(cases, "a=1\r\na=2\r\nxABx", start, left, right);
+    };
+    EXPECT_EQ(between(1, "A=", "\r\n"), "1");
+    EXPECT_EQ(between(2, "a=", "\r\n"), "2");
+    EXPECT_EQ(between(1, "AB", "B"), "") << "The right one is looked for behind the left one";
+    EXPECT_EQ(between(99, "a=", "\r\n"), "");
+    EXPECT_EQ(between(0, "a=", "\r\n"), "");
+    EXPECT_EQ(behindProgramName("\"C:\\Program Files\\x.exe\" \t/r "), "/r ");
+    EXPECT_EQ(behindProgramName("x.exe\t/r"), "/r");
+    EXPECT_EQ(behindProgramName("\"C:\\Program Files"), "");
+    EXPECT_EQ(trim("  a \t "), "a \t") << "Blanks only";
+    EXPECT_EQ(trim("   "), "");
+    EXPECT_EQ(split("a,,b,", ','), (std::vector<std::string>{"a", "", "b", ""}));
+}
+
+TEST(Text, IsReadAsANumberAndShifted) {
+    EXPECT_EQ(toNumber(" -42 "), -42);
+    EXPECT_EQ(toNumber("2147483647"), 2147483647);
+    for (const char* wrong : {"", "  ", "2147483648", "1x", "1 2", "1.5", "--1"}) {
+        EXPECT_FALSE(toNumber(wrong)) << wrong;
+    }
+    EXPECT_EQ(shiftText("ABC", "A1"), "A1") << "Left alone unless asked";
+    EXPECT_EQ(shiftText("ABC", "A1", false), "VF") << "Asked at all counts, not what for";
+    EXPECT_EQ(shiftText("CBA", shiftText("ABC", "any \xff text", true), true), "any \xff text");
+    EXPECT_EQ(shiftText("abc", "A1", true), "A1");
+}
+
+TEST(UtilitiesTest, FoldersEndInOneBackslash) {
+    SimWorkstation pc;
+    const Utilities utilities(pc.platform());
+    const std::string justFits = "C:\\" + std::string(140, 's'), longest = "C:\\" + std::string(252, 'x');
+    pc.folders.systemDirectory = justFits;
+    EXPECT_EQ(utilities.getSysDir(), justFits + "\\");
+    pc.folders.windowsDirectory = "C:\\";
+    EXPECT_EQ(utilities.getWinDir(), "C:\\");
+    pc.faults.failNth(Operation::WindowsDirectory, 1);
+    EXPECT_EQ(utilities.getWinDir(), "\\");
+    for (const auto& [path, folder] : {std::pair<std::string, std::string>{"  C:\\Up\\ ", "C:\\Up\\"},
+                                       {"\\", "C:\\Program Files\\"},
+                                       {longest + "x", longest + "\\"}}) {
+        pc.folders.special[24] = path;
+        EXPECT_EQ(utilities.getSpecialFolder(24), folder);
+    }
+    EXPECT_EQ(utilities.getSpecialFolder(99), "\\") << "Unknown is not replaced";
+}
+
+} // namespace
+} // namespace tarvelon
