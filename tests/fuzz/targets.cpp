@@ -1,14 +1,11 @@
 // What the program reads from outside, a target for each kind of text, chosen by FUZZ_TARGET: it takes any
 // bytes, cut into fields at form feeds, and throws when a rule does not hold that must hold for all of them.
-#include "avshell/known_scanners.h"
 #include "core/application.h"
 #include "core/profile_image.h"
-#include "platform/command_line.h"
 #include "platform/sim/workstation.h"
-#include "regwatch/file_path.h"
 #include "regwatch/locations.h"
-#include "regwatch/pending_files.h"
 
+#include <algorithm>
 #include <map>
 #include <numeric>
 
@@ -42,19 +39,15 @@ string without(string text, string_view characters = "") {
     return text;
 }
 
-/// Says yes to every question.
-struct YesDialogs : SimDialogs {
-    Answer message(const MessageBox& box) override {
-        return box.buttons == Buttons::YesNo ? Answer::Yes : Answer::Ok;
-    }
-};
-
 const string programFolder = R"(C:\Program Files\Tarvelon\)", dataFolder = programFolder + "Data\\";
 const string systemFolder = R"(C:\WINDOWS\system32\)";
 
 /// A workstation with an empty baseline and a scanner, and the program, told of its files but not started.
 struct Machine : SimWorkstation {
     Machine() {
+        dialogs.answerer = [](const MessageBox& box) {
+            return box.buttons == Buttons::YesNo ? Answer::Yes : Answer::Ok;
+        };
         std::ranges::for_each(app.screens(), [this](Screen* screen) { attach(*screen); });
         app.globals.app = {programFolder, settingsPath, baselinePath, snapshotPath, "", -1, false, false};
         files.makeFolders(dataFolder + "Log\\");
@@ -63,10 +56,7 @@ struct Machine : SimWorkstation {
     }
     const string settingsPath = dataFolder + "Tarvelon.dat", baselinePath = dataFolder + "Integrity.dat",
                  snapshotPath = dataFolder + "Registry.dat", wininitPath = R"(C:\WINDOWS\wininit.ini)";
-    YesDialogs yes;
-    Platform outside{codePage, files, folders, crypto,    messages, yes,    processes,
-                     registry, clock, shell,   shortcuts, power,    desktop};
-    Application app{outside};
+    Application app{platform()};
 };
 
 string_view stripped(string_view text) {
@@ -130,27 +120,11 @@ void entryBlock(string_view input) {
     }
 }
 
-/// A process's whole command line, and a stored scanner, `<exe>|<args>`.
-void commandLine(string_view input) {
-    const auto parts = fields(input, 2);
-    const string rest(behindProgramName(parts[0]));
-    demand(parts[0].ends_with(rest) && rest.find_first_of(" \t") != 0, "arguments end the line");
-    demand(behindProgramName("\"C:\\Program Files\\x.exe\" " + rest) == rest, "they follow a name in quotes");
-    demand(behindProgramName("x.exe\t" + rest) == rest, "and one without");
-    const auto scanner = splitExeAndArgs(parts[1]);
-    const string exe = parts[1].substr(0, parts[1].find('|')), name = cases.upper(exe);
-    demand((scanner ? scanner->exe + "|" : exe) == parts[1].substr(0, exe.size() + 1),
-           "a bar ends the program");
-    demand(!scanner || scanner->args == trim(parts[1].substr(exe.size() + 1)), "the rest is kept trimmed");
-    const char* usual = contains(name, "NAVW") ? "/HEUR:3" : contains(name, "PAVCL") ? "/NSB /NOM /AUT" : " ";
-    demand(string(usual) == defaultArguments(scannerFamily(cases, exe)), "the name chooses the arguments");
-}
-
-/// A file's name, a checksum, another file's name, and a data file.
+/// A file's name, a checksum, and a data file.
 void baseline(string_view input) {
     static Machine pc;
-    const auto parts = fields(input, 4);
-    const string name = without(parts[0]), value = without(parts[1], "="), other = without(parts[2], "=");
+    const auto parts = fields(input, 3);
+    const string name = without(parts[0]), value = without(parts[1], "=");
     const Baselines& held = pc.app.globals.baselines;
     DataFile& data = pc.app.dataFile;
     const auto sections = [&](const char* between) {
@@ -162,48 +136,17 @@ void baseline(string_view input) {
         data.loadIntFile(pc.baselinePath);
         return sections("\f") == before;
     };
-    pc.files.put(pc.baselinePath, parts[3]);
+    pc.files.put(pc.baselinePath, parts[2]);
     data.loadIntFile(pc.baselinePath);
-    demand(contains(parts[3], sections("")), "the sections are a piece of the file");
+    demand(contains(parts[2], sections("")), "the sections are a piece of the file");
     demand(survives(sections("\f")), "what is saved is loaded again");
 
-    const string section = held.sectionName[0], known = data.getEntry(other, section);
+    const string section = held.sectionName[0];
     const string block = cases.upper(held.sectionText[0].text());
     const bool isNew = !contains(block, cases.upper("\r\n" + name)) && contains(block, "\r\nNULL*E\r\n");
     pc.app.settingsFile.writeEntry(pc.baselinePath, name, value + "*E", section);
     demand(!isNew || data.getEntry(name, section) == trim(value), "an accepted entry is found");
-    // A name with "=" in it answers for the name in front of that as well.
-    const bool answersForIt = cases.upper(name).starts_with(cases.upper(other) + "=");
-    const bool whole = isNew && !answersForIt && !known.empty() && !contains(known, "\r");
-    demand(!whole || data.getEntry(other, section) == known, "other entries keep their values");
     demand(name.starts_with('[') || survives(sections("\f")), "an accepted entry is saved and loaded again");
-}
-
-/// Rows, findings of the system folder and of others, and names in the baselines. Among the rows stand a
-/// proper finding of the system folder and one of the third added folder.
-void findings(string_view input) {
-    Machine pc;
-    DataFile& data = pc.app.dataFile;
-    const auto parts = fields(input, 4);
-    string text = "[EXE]\r\nNULL*E\r\n[DLL]\r\n", rows = without(parts[0], "qQ[");
-    for (const string& name : split(without(parts[3], "qQ["), '|')) {
-        text += name + "=1*E\r\n";
-    }
-    pc.files.put(pc.baselinePath, text + "NULL*E\r\n");
-    pc.files.put(dataFolder + "3.dat", text + "NULL*E\r\n");
-    pc.app.globals.app.autoLoadRun = true;
-    data.loadIntFile(pc.baselinePath);
-    for (const string& row : split(rows + "|" + systemFolder + R"(q.dll *NEW*|D:\q\qq.dll|)" + rows, '|')) {
-        pc.app.intCheck.List1.add(row);
-    }
-    const string inSystem = without(parts[1], "qQ") + ",", elsewhere = without(parts[2], "qQ") + ",";
-    pc.app.globals.scan.failList = inSystem + systemFolder + "q.dll 1A2B," + inSystem;
-    pc.app.globals.scan.customFailList = elsewhere + R"(D:\q\qq.dll(3) 77,)" + elsewhere;
-    pc.app.resultAction.UpdateDatFile();
-    data.loadIntFile(pc.baselinePath);
-    demand(data.getEntry("q.dll", "DLL") == "1A2B", "a finding of the system folder is accepted");
-    data.loadCustomDat(dataFolder + "3.dat");
-    demand(data.getCustomEntry("qq.dll", "DLL") == "77", "a finding of an added folder is accepted");
 }
 
 /// A whole run: its switch, and the settings file.
@@ -223,44 +166,6 @@ void settings(string_view input) {
     pc.app.mForm1.Check9.setValue(1);
     pc.app.mForm1.cSave.click();
     demand(contains(file.readIni(pc.settingsPath, "settings", "Tarvelon"), ",1,"), "a ticked box is saved");
-    const auto saveFolders = [&] {
-        pc.app.iCust.show();
-        pc.app.iCust.Command3.click();
-        return pc.files.get(pc.settingsPath);
-    };
-    const auto once = saveFolders();
-    const bool quotes = parts[1].find_first_of("\"'") != string::npos; // Each reading takes a pair away.
-    demand(saveFolders() == once || quotes, "folders that nobody edited are saved as they were");
-}
-
-/// An entry of the registry page.
-void filePath(string_view input) {
-    static Machine pc;
-    pc.files.put(systemFolder + "found.exe", "");
-    const CutPath cut = cutToFilePath(string(input), pc.app.utilities);
-    const bool bare = !contains(cut.text, "\\");
-    demand(contains(input, cut.text), "the program's name is a piece of the entry");
-    demand(bare || (cut.path && contains(*cut.path, ".")), "a path is taken as one, with an ending");
-    demand(!bare || !cut.path || pc.app.utilities.fileThere(*cut.path), "a bare name's file is there");
-}
-
-/// The pending-rename value, and wininit.ini.
-void pendingFiles(string_view input) {
-    static Machine pc;
-    const auto parts = fields(input, 2);
-    pc.files.put(pc.wininitPath, parts[1]);
-    std::size_t from = 0;
-    for (const PendingFile& entry : wininitEntries(cases, pc.outside, pc.app.utilities)) {
-        const std::size_t hit = parts[1].find("=" + entry.file, from);
-        demand(hit != string::npos && !contains(entry.file, "\r\n"), "right sides come in their order");
-        from = std::min(parts[1].find("\r\n", hit), parts[1].size());
-    }
-    demand(!contains(parts[1].substr(from), "="), "and none is left out");
-    pc.registry.setValue(Registry::localMachine, R"(System\CurrentControlSet\Control\Session Manager)",
-                         "PendingFileRenameOperations", {SimRegistry::TextList, parts[0]});
-    for (const auto& file : pendingRenames(cases, pc.outside)) {
-        demand(!file || (contains(parts[0], *file) && !contains(*file, R"(\??\)")), "marks part files");
-    }
 }
 
 /// The snapshot, wininit.ini, and up to four values of the watched locations, name and data.
@@ -296,37 +201,11 @@ void registry(string_view input) {
     form.Command3.click();
 }
 
-/// A date and a time as the system writes them, names of reports, and a report's text.
-void reports(string_view input) {
-    Machine pc;
-    const auto parts = fields(input, 4);
-    for (const string& name : split(without(parts[2], R"(\/:*?"<>)"), '|')) {
-        pc.files.put(dataFolder + "Log\\" + name.substr(0, 99) + ".log", parts[3]);
-    }
-    pc.clock.date = "3" + without(parts[0], R"(\:*?"<>|(), )").substr(0, 30);
-    pc.clock.time = "3" + without(parts[1], R"(\/*?"<>|(),-)").substr(0, 30);
-    pc.app.logFiles.writeLog("Mine,C:\\A.DLL," + parts[3], true);
-    MForm1Screen& form = pc.app.mForm1;
-    form.cReports.click();
-    bool mine = false;
-    for (const Tree::Node& node : form.TreeView2.nodes()) {
-        form.TreeView2.clickNode(node);
-        form.cViewReport.click();
-        for (const string& row : form.List4.items()) {
-            demand(!row.empty() && trim(row) == row && !contains(row, ","), "a row is a name");
-        }
-        mine = mine || (form.List4.item(0) == "Mine" && form.List4.item(1) == "C:\\A.DLL");
-        form.cScnLog.click();
-    }
-    demand(mine && !pc.processes.started().empty(), "a report is found, opened and scanned");
-    form.TreeView2.keyDown(46);
-}
-
-const std::map<string_view, void (*)(string_view)> targets{
-    {"profile", profile},   {"entryBlock", entryBlock},     {"commandLine", commandLine},
-    {"baseline", baseline}, {"findings", findings},         {"settings", settings},
-    {"filePath", filePath}, {"pendingFiles", pendingFiles}, {"registry", registry},
-    {"reports", reports}};
+const std::map<string_view, void (*)(string_view)> targets{{"profile", profile},
+                                                           {"entryBlock", entryBlock},
+                                                           {"baseline", baseline},
+                                                           {"settings", settings},
+                                                           {"registry", registry}};
 } // namespace
 } // namespace tarvelon::fuzz
 
