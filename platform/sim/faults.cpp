@@ -1,11 +1,18 @@
 #include "platform/sim/faults.h"
 
+#include "platform/sim/sim_processes.h"
+
 #include <algorithm>
 
 namespace tarvelon {
 
 void Faults::failNth(Operation operation, int n) {
     plan(operation).failingCall = plan(operation).calls + n;
+}
+
+void Faults::endNth(Operation operation, int n) {
+    failNth(operation, n);
+    plan(operation).ends = true;
 }
 
 void Faults::failAlways(Operation operation) {
@@ -15,6 +22,7 @@ void Faults::failAlways(Operation operation) {
 void Faults::clear(Operation operation) {
     plan(operation).failingCall = 0;
     plan(operation).always = false;
+    plan(operation).ends = false;
     if (operation == Operation::FillDisk) {
         room_.reset();
     }
@@ -26,8 +34,11 @@ int Faults::calls(Operation operation) const {
 
 bool Faults::strikes(Operation operation) {
     Plan& chosen = plan(operation);
-    ++chosen.calls;
-    return chosen.always || chosen.calls == chosen.failingCall;
+    const bool isFailing = ++chosen.calls == chosen.failingCall;
+    if (isFailing && chosen.ends) {
+        throw ProcessEnded();
+    }
+    return chosen.always || isFailing;
 }
 
 std::uint64_t Faults::roomFor(std::uint64_t bytes) {

@@ -53,6 +53,8 @@ class Faults {
 public:
     /// The n-th call from now fails, once; 1 is the next.
     void failNth(Operation operation, int n);
+    /// The n-th call from now ends the process, as if someone had pulled the plug.
+    void endNth(Operation operation, int n);
     /// Every call from now on fails.
     void failAlways(Operation operation);
     void clear(Operation operation);
@@ -71,6 +73,7 @@ private:
     struct Plan {
         int calls = 0;
         int failingCall = 0; ///< 0: none.
+        bool ends = false;   ///< In place of failing.
         bool always = false;
     };
     Plan& plan(Operation operation) { return plans_[static_cast<std::size_t>(operation)]; }
