@@ -142,6 +142,9 @@ void baseline(string_view input) {
     demand(survives(sections("\f")), "what is saved is loaded again");
 
     const string section = held.sectionName[0];
+    if (section.empty()) { // Its head is torn, or there is none.
+        return;
+    }
     const string block = cases.upper(held.sectionText[0].text());
     const bool isNew = !contains(block, cases.upper("\r\n" + name)) && contains(block, "\r\nNULL*E\r\n");
     pc.app.settingsFile.writeEntry(pc.baselinePath, name, value + "*E", section);
