@@ -13,6 +13,24 @@ namespace tarvelon {
 
 namespace {
 
+struct Box {
+    Buttons buttons;
+    int button;
+    Answer answer;
+    int missing; ///< A button that the box does not have.
+};
+
+Box box; ///< Stands open while a test waits for its answer.
+
+void CALLBACK answerBox(HWND, UINT, UINT_PTR timer, DWORD) {
+    KillTimer(nullptr, timer);
+    EXPECT_FALSE(IsWindowEnabled(FindWindowA("TarvelonForm", "Sample")));
+    EXPECT_FALSE(IsWindowEnabled(FindWindowA("TarvelonForm", "Other")));
+    const HWND window = FindWindowA("#32770", "TarvelonLow");
+    EXPECT_TRUE(GetDlgItem(window, box.button) && !GetDlgItem(window, box.missing)) << box.button;
+    SendMessageA(window, WM_COMMAND, static_cast<WPARAM>(box.button), 0);
+}
+
 struct SampleScreen : Screen {
     SampleScreen()
         : Screen("Sample", 400, 330) {}
@@ -322,26 +340,12 @@ TEST_F(View, FormsComeForwardCloseAndAreAllBlockedByABox) {
         EXPECT_EQ(GetActiveWindow(), otherForm);
         EXPECT_FALSE(IsIconic(otherForm));
     }
-    struct Box {
-        Buttons buttons;
-        int button;
-        Answer answer;
-        int missing; ///< A button that the box does not have.
-    };
-    static Box box;
     for (const Box& shown :
          {Box{Buttons::Ok, IDOK, Answer::Ok, IDCANCEL},
           Box{Buttons::OkCancel, IDCANCEL, Answer::Cancel, IDYES},
           Box{Buttons::YesNo, IDYES, Answer::Yes, IDOK}, Box{Buttons::YesNo, IDNO, Answer::No, IDCANCEL}}) {
         box = shown;
-        SetTimer(nullptr, 0, 50, [](HWND, UINT, UINT_PTR timer, DWORD) {
-            KillTimer(nullptr, timer);
-            EXPECT_FALSE(IsWindowEnabled(FindWindowA("TarvelonForm", "Sample")));
-            EXPECT_FALSE(IsWindowEnabled(FindWindowA("TarvelonForm", "Other")));
-            const HWND window = FindWindowA("#32770", "TarvelonLow");
-            EXPECT_TRUE(GetDlgItem(window, box.button) && !GetDlgItem(window, box.missing)) << box.button;
-            SendMessageA(window, WM_COMMAND, static_cast<WPARAM>(box.button), 0);
-        });
+        SetTimer(nullptr, 0, 50, answerBox);
         EXPECT_EQ(platform.platform().dialogs.message({.text = "A box", .buttons = box.buttons}), box.answer);
         EXPECT_TRUE(IsWindowEnabled(form) && IsWindowEnabled(otherForm));
         EXPECT_EQ(GetActiveWindow(), otherForm);
