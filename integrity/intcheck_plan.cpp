@@ -40,7 +40,7 @@ struct IntCheck::Plan {
 void IntCheck::LoadUp() {
     const Busy busy(busy_);
     screen_.load();
-    globals_.scan.algorithm = globals_.settings;
+    globals_.scan.algorithm = static_cast<const Algorithm&>(globals_.settings);
     parts_.checksum.setDatName();
     parts_.baseline.checkIntFile();
     parts_.dataFile.needIntFile(parts_.checksum.getIntFile());
