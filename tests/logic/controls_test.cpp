@@ -26,6 +26,7 @@ struct Controls : testing::Test, Screen, ScreenListener {
     FlatButton button{page, "Button", at(8, 130, 80, 24)};
     FlatCheck check{page, "Check", at(8, 160, 80, 20)};
     CheckBox plain{page, "Plain", at(8, 184, 80, 20)};
+    Picture picture{page, at(8, 40, 80, 20), "standby", ""};
     Label label{page, "Label", at(8, 208, 80, 20)};
     TextBox text{page, at(8, 232, 80, 20)};
     ListBox list{page, at(220, 8, 150, 200)};
@@ -52,8 +53,9 @@ TEST_F(Controls, ListenersHearOfRealChangesOnly) {
     check.setValue(true);
     plain.setValue(true);
     option.setValue(true);
-    bar.setValue(100);
+    EXPECT_TRUE(bar.setValue(100));
     list.add("row");
+    EXPECT_EQ(list.item(1), "");
     list.setListIndex(0);
     list.replace(0, "other");
     list.remove(0);
@@ -72,18 +74,20 @@ TEST_F(Controls, ListenersHearOfRealChangesOnly) {
 TEST_F(Controls, DisabledControlsRaiseNothing) {
     int clicks = 0;
     button.onClick = check.onClick = plain.onClick = label.onClick = option.onClick = [&] { ++clicks; };
-    text.onChange = timer.onTick = [&] { ++clicks; };
+    text.onChange = timer.onTick = picture.onKeyPress = picture.onKeyClick = [&] { ++clicks; };
     const auto useAll = [&] {
         button.click();
         check.click();
         plain.click();
         label.click();
         option.click();
+        picture.keyPress();
+        picture.keyClick();
         timer.tick();
         text.typed("text");
         return std::exchange(clicks, 0);
     };
-    EXPECT_EQ(useAll(), 6) << "Timers start disabled";
+    EXPECT_EQ(useAll(), 8) << "Timers start disabled";
     for (const bool frameIs : {true, false}) {
         for (Control* control : controls()) {
             control->Enabled = (control->kind() == ControlKind::Frame) == frameIs;

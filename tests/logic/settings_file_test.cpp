@@ -4,6 +4,7 @@
 #include "core/settings_file.h"
 #include "platform/sim/workstation.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 namespace tarvelon {
@@ -46,13 +47,13 @@ TEST(ProfileImage, WritesTouchOneLine) {
     ProfileImage profile(cases);
     EXPECT_EQ(profile.write("S", "k", "v"), 0u);
     EXPECT_EQ(profile.text(), "[S]\r\nk=v\r\n");
-    profile.setText("; head\r\n[A]\r\nkey=old\r\nloose line\r\n\r\n\r\n[B]\r\n;note\r\nlast=1");
+    profile.setText("; head\r\n[A]\r\nkey=old\nloose line\r\n\r\n\r\n[B]\r\n;note\r\nlast=1");
     profile.write("a", "KEY", "new value");
     profile.write("A", "added", "1");
     profile.write("b", "last", "22");
     profile.write("b", "more", "3");
     profile.write("New", "k", "v");
-    EXPECT_EQ(profile.text(), "; head\r\n[A]\r\nkey=new value\r\nloose line\r\nadded=1\r\n\r\n\r\n"
+    EXPECT_EQ(profile.text(), "; head\r\n[A]\r\nkey=new value\nloose line\r\nadded=1\r\n\r\n\r\n"
                               "[B]\r\n;note\r\nlast=22\r\nmore=3\r\n[New]\r\nk=v\r\n");
     for (const char* key : {"k", "x"}) {
         profile.setText("[A]\r\nk=1\r");
@@ -157,7 +158,8 @@ TEST_F(SettingsTest, ANewFileIsMadeOnceAndReadAsFarAsABufferHolds) {
     settings.checkSettFile();
     EXPECT_EQ(settings.readIni(path, "PATH", 7), folder.substr(0, 249));
     pc.faults.failAlways(Operation::OpenFile);
-    EXPECT_THROW(settings.checkSettFile(), Failure);
+    EXPECT_THAT([&] { settings.checkSettFile(); },
+                testing::ThrowsMessage<Failure>("The settings file cannot be made:\r\n" + path));
 }
 
 TEST_F(SettingsTest, ASettingIsSearchedInTheWholeFile) {
