@@ -1,3 +1,5 @@
+// What a scan takes in, how it sorts that, and how it is paused and left.
+
 #include "tests/workstation/session.h"
 
 namespace tarvelon {
@@ -5,25 +7,23 @@ namespace {
 
 class Scan : public Session {
 protected:
-    /// A baseline over the files put so far, and a log-on run with all types.
-    void baselineAndSettings(const std::string& more = "", const std::string& types = allTypes) {
-        putSettings({.settings = types, .folders = more});
+    /// The baseline over these files of the system folder, which hold their names, and the settings of later
+    /// scans.
+    void baselineOf(const Rows& names, const std::string& types = allTypes, const std::string& folders = "") {
+        for (const std::string& name : names) {
+            pc.files.put(systemFolder + name, name);
+        }
+        pc.files.put(R"(C:\av.exe)", "");
+        putSettings({.settings = types, .antivirus = R"(C:\av.exe|)", .folders = folders});
         makeBaseline();
     }
 
-    void putNumbered(int count) {
-        for (int i = 0; i < count; ++i) {
-            pc.files.put(systemFolder + std::to_string(i) + ".dll", "x");
-        }
+    /// What happens when so many files are done.
+    void at(const std::string& done, std::function<void()> action) {
+        pc.messages.when([this, done] { return screen().Label6.Caption() == done; }, std::move(action));
     }
 
-    /// A scan of the main window, so that leaving it does not end the program.
-    void askForPageScan() {
-        ScanRun& run = app->globals.scan;
-        run.pageScan = run.noAutoAction = run.scanDLL = true;
-    }
-
-    const IntCheckScreen& screen() const { return app->intCheck; }
+    IntCheckScreen& screen() const { return app->intCheck; }
     std::string figures() const {
         return screen().Label6.Caption() + "/" + screen().Label8.Caption() + "/" + screen().Label9.Caption() +
                "/" + screen().Label7.Caption();
@@ -31,179 +31,121 @@ protected:
 };
 
 TEST_F(Scan, SortsIntoPassingNewAndFailed) {
-    pc.files.put(systemFolder + "good.dll", "good");
-    pc.files.put(systemFolder + "bad.exe", "before");
-    pc.files.put(systemFolder + "gone.ocx", "gone");
-    pc.files.put(systemFolder + "k.386", "386");
-    pc.files.put(systemFolder + "s.scr", "saver");
-    baselineAndSettings();
+    baselineOf({"bad.exe", "gone.ocx", "going.dll", "good.dll", "k.386", "locked.sys", "s.scr", ".dll"});
     pc.files.put(systemFolder + "bad.exe", "after");
     pc.files.put(systemFolder + "new.com", "new");
     pc.files.remove(systemFolder + "gone.ocx");
-
     ASSERT_FALSE(start("/r"));
     EXPECT_FALSE(app->mForm1.Visible());
     EXPECT_TRUE(screen().Minimized());
+    at("1", [this] {
+        pc.files.remove(systemFolder + "going.dll");
+        pc.files.lock(systemFolder + "locked.sys");
+    });
     ASSERT_FALSE(settle());
-    EXPECT_EQ(figures(), "5/1/1/3") << "a file that has gone is not treated at all";
-    ASSERT_EQ(screen().List1.items(), (Rows{systemFolder + "bad.exe", systemFolder + "new.com *NEW*"}));
-    EXPECT_EQ(app->globals.scan.failList, systemFolder + "bad.exe " + crcText("after") + "," + systemFolder +
-                                              "new.com " + crcText("new") + ",");
+    EXPECT_EQ(figures(), "8/1/3/4") << "what had gone before is not treated at all";
+    EXPECT_EQ(app->globals.scan.failList, systemFolder + "going.dll 0," + systemFolder + "locked.sys 0," +
+                                              systemFolder + "bad.exe " + crcText("after") + "," +
+                                              systemFolder + "new.com " + crcText("new") + ",");
+    EXPECT_EQ(screen().List1.item(2), systemFolder + "bad.exe");
+    EXPECT_EQ(screen().List1.item(3), systemFolder + "new.com *NEW*");
+    EXPECT_EQ(app->dataFile.getEntry("new.com", "COM"), "") << "nothing is accepted yet";
     EXPECT_EQ(screen().Caption(), "100% AutoCheck");
+    EXPECT_EQ(screen().l_exe.Caption() + " " + screen().l_sdrv.Caption(), "new.com 100%");
     EXPECT_EQ(screen().Label13.Caption(), "Results");
-    EXPECT_TRUE(screen().Frame2.Visible());
-    EXPECT_FALSE(screen().Label14.Visible());
-    EXPECT_FALSE(screen().Minimized());
-    EXPECT_EQ(screen().l_exe.Caption(), "new.com");
-    EXPECT_EQ(screen().l_sdrv.Caption(), "100%");
+    EXPECT_TRUE(screen().Frame2.isShown() && !screen().Label14.Visible() && !screen().Minimized());
 
-    app->intCheck.Label2.click();
+    screen().Label2.click();
     EXPECT_TRUE(screen().Frame3.isShown());
     EXPECT_EQ(screen().Label13.Caption(), "Failed Files List");
     asks(leaveFindings, Answer::No, "Warning");
-    EXPECT_FALSE(ends([this] { app->intCheck.close(); }));
+    EXPECT_FALSE(ends([this] { screen().close(); }));
     EXPECT_TRUE(screen().Visible());
     asks(leaveFindings, Answer::Yes, "Warning");
-    EXPECT_TRUE(ends([this] { app->intCheck.Image11.click(); }));
+    EXPECT_TRUE(ends([this] { screen().Image11.click(); }));
 }
 
 TEST_F(Scan, TypesNotWantedAreNamedAndCounted) {
-    pc.files.put(systemFolder + "a.dll", "a");
-    pc.files.put(systemFolder + "b.drv", "b");
-    pc.files.put(systemFolder + "s.scr", "s");
-    baselineAndSettings("", "1,0,0,0,0,1,0,0");
+    baselineOf({"a.dll", "b.drv", "s.scr"}, "1,0,0,0,0,1,0,0");
     pc.files.put(systemFolder + "b.drv", "changed");
     ASSERT_FALSE(start("/r"));
     EXPECT_EQ(screen().pb2max.Caption(), "2") << "the last type counts towards the total";
-    std::string percentInLastPass;
-    pc.messages.when([this] { return screen().pb1max.Caption().empty() && screen().Label6.Caption() == "2"; },
-                     [&] { percentInLastPass = screen().l_2sexe.Caption(); });
+    std::string inLastPass;
+    at("2", [&] { inLastPass = screen().l_2sexe.Caption(); });
     EXPECT_TRUE(settle());
-    EXPECT_EQ(percentInLastPass, "0%") << "the last pass has no count of its own";
+    EXPECT_EQ(inLastPass, "0%") << "the last pass has no count of its own";
     EXPECT_EQ(screen().l_drv2.Caption(), "Driver Scan --- Not Scanning");
-    EXPECT_EQ(screen().l_sys2.Caption(), "System Files --- Not Scanning");
     EXPECT_EQ(screen().l_2exe2.ForeColor(), colors::scanGrey);
-}
 
-TEST_F(Scan, NothingWantedIsCleanByTheDesignFigures) {
-    baselineAndSettings("", "0,0,0,0,0,0,0,0");
+    pc.folders.systemDirectory = R"(C:\Nowhere)"; // An empty walk.
     ASSERT_FALSE(start("/r"));
     EXPECT_EQ(screen().pb2max.Caption(), "1");
     EXPECT_TRUE(settle());
-    EXPECT_EQ(figures(), "1000/1000/1000/1000");
+    EXPECT_EQ(figures(), "1000/1000/1000/1000") << "clean by the design's figures";
 }
 
 TEST_F(Scan, CustomFoldersJoinBehindTheSystemFolder) {
-    pc.files.put(systemFolder + "a.dll", "a");
-    pc.files.put(R"(C:\Tools\t.dll)", "tool");
-    pc.files.put(R"(C:\Tools\t.exe)", "not wanted");
-    pc.files.put(R"(C:\Other\o.exe)", "other");
-    baselineAndSettings(
+    for (const char* path : {R"(C:\Tools\t.dll)", R"(C:\Tools\not wanted.exe)", R"(C:\Other\o.exe)"}) {
+        pc.files.put(path, path);
+    }
+    baselineOf(
+        {"a.dll"}, allTypes,
         "[3]\r\npath=C:\\Tools\\\r\nargs=1,0,0,0,0,0,1\r\nargs2=0,0,0,0,0,0,0\r\n"
-        "[12]\r\npath=C:\\Other\r\nargs=0,0,0,0,1,0,1\r\n[13]\r\npath=C:\\No\\\r\nargs=1,1,1,1,1,1,0\r\n");
+        "[20]\r\npath=C:\\Other\r\nargs=0,0,0,0,1,0,1\r\n[13]\r\npath=C:\\No\\\r\nargs=1,1,1,1,1,1,0\r\n");
     ASSERT_FALSE(start("/r"));
-    EXPECT_EQ(app->globals.scan.customQueue, "3,12,");
     EXPECT_EQ(screen().pb2max.Caption(), "3");
-    EXPECT_TRUE(app->globals.scan.scanOCX) << "the flags are back to those of the system passes";
-    std::string firstTurn;
-    pc.messages.when([this] { return screen().l_cust2.Caption() == "Custom Folder 1/2"; },
-                     [&] { firstTurn = app->globals.scan.customFolder; });
+    std::string turns;
+    at("2", [&] { turns = screen().l_cust2.Caption() + " of " + app->globals.scan.customFolder; });
     ASSERT_FALSE(settle());
-    EXPECT_EQ(firstTurn, "C:\\Tools\\");
+    EXPECT_EQ(turns, "Custom Folder 1/2 of C:\\Tools\\");
     EXPECT_EQ(screen().l_cust2.Caption(), "Custom Folder 2/2");
+    EXPECT_EQ(screen().l_ocx2.ForeColor(), colors::black) << "not wanted in the last folder";
     EXPECT_EQ(figures(), "3/2/0/1") << "folders without a baseline get a blank one, and their files are new";
-    EXPECT_EQ(app->globals.scan.customFailList,
-              "C:\\Tools\\t.dll(3) " + crcText("tool") + ",C:\\Other\\o.exe(12) " + crcText("other") + ",");
-    EXPECT_THAT(data("3.dat"), HasSubstr("[EXE]\r\nt.exe=NULL*E\r\n"));
-    asks(leaveFindings, Answer::Yes, "Warning");
-    EXPECT_TRUE(ends([this] { app->intCheck.close(); }));
+    EXPECT_EQ(app->globals.scan.customFailList, "C:\\Tools\\t.dll(3) " + crcText("C:\\Tools\\t.dll") +
+                                                    ",C:\\Other\\o.exe(20) " + crcText("C:\\Other\\o.exe") +
+                                                    ",");
+    EXPECT_THAT(data("3.dat"), HasSubstr("[EXE]\r\nnot wanted.exe=NULL*E\r\n"));
+    screen().List1.clear();
 }
 
-TEST_F(Scan, PauseHoldsBetweenFilesAndCancelEndsThePause) {
-    putNumbered(9);
-    baselineAndSettings();
+TEST_F(Scan, IsStartedAnewPausedAndCancelledOnItsWay) {
+    baselineOf({"0.dll", "1.dll", "2.dll", "3.dll", "4.dll", "5.dll", "6.dll", "7.dll", "8.dll"});
     ASSERT_FALSE(start());
-    askForPageScan();
-    app->scan.LoadUp();
-    pc.messages.when([this] { return screen().Label6.Caption() == "4"; },
-                     [this] { app->intCheck.Image9.click(); });
+    app->mForm1.bDLL.click();
+    const auto scan = [this] { app->mForm1.bSCAN.click(); };
+    scan();
+    at("3", scan); // Runs inside the first.
+    EXPECT_FALSE(settle());
+    EXPECT_EQ(figures(), "9/0/0/9");
+    EXPECT_EQ(screen().Label2.Caption(), "Close Integrity Check Window");
+    screen().Label2.click();
+    EXPECT_FALSE(screen().Visible());
+
+    scan();
+    at("4", [this] { screen().Image9.click(); });
     std::string whilePaused;
     pc.messages.onWait([&] {
         whilePaused = screen().Label6.Caption() + (screen().Label11.isShown() ? " Resume" : "");
-        app->intCheck.Label11.click();
+        screen().Label11.click();
     });
-    pc.messages.when([this] { return screen().Label6.Caption() == "6"; },
-                     [this] { app->intCheck.Image9.click(); });
-    pc.messages.onWait([this] { app->intCheck.Image11.click(); });
+    at("6", [this] { screen().Image9.click(); });
+    pc.messages.onWait([this] { screen().Image11.click(); });
     EXPECT_FALSE(settle());
     EXPECT_EQ(whilePaused, "4 Resume");
-    EXPECT_EQ(screen().Label6.Caption(), "6");
     EXPECT_FALSE(screen().Visible());
-    EXPECT_FALSE(screen().Label14.Visible());
+    EXPECT_EQ(screen().Label6.Caption() + " " + screen().l_sdll.Caption(), "6 67%");
     EXPECT_EQ(screen().pbm.Caption(), "0") << "a cancelled pass leaves no sum";
-    EXPECT_EQ(screen().l_sdll.Caption(), "67%");
-}
-
-TEST_F(Scan, ASecondStartDuringAScanRunsInsideTheFirst) {
-    putNumbered(6);
-    baselineAndSettings();
-    ASSERT_FALSE(start());
-    const auto begin = [&] {
-        askForPageScan();
-        app->scan.Command1_Click();
-        app->scan.LoadUp();
-    };
-    begin();
-    pc.messages.when([this] { return screen().Label6.Caption() == "3"; }, begin);
-    EXPECT_FALSE(settle());
-    EXPECT_EQ(figures(), "6/0/0/6");
-    EXPECT_TRUE(screen().Frame2.isShown());
-    EXPECT_EQ(screen().Label2.Caption(), "Close Integrity Check Window");
-    app->intCheck.Label2.click();
-    EXPECT_FALSE(screen().Visible());
+    EXPECT_FALSE(screen().Label14.Visible());
 }
 
 TEST_F(Scan, InAShutDownOnlyTheProgressBarMoves) {
-    pc.files.put(systemFolder + "a.dll", "a");
-    pc.files.put(systemFolder + "b.dll", "b");
-    baselineAndSettings();
-    app->settingsFile.writeEntry(dataFolder + "Tarvelon.dat", "settings2", "1,0,0,0,0,0", "Tarvelon");
-    pc.files.put(systemFolder + "b.dll", "changed");
-    ASSERT_FALSE(start());
-    app->globals.app.shutAction = 8;
-    std::string calls;
-    app->scan.hooks.resultAction = [&] { calls += "action "; };
-    app->scan.hooks.preShut2 = [&] { calls += "next"; };
-    app->scan.LoadUp();
+    baselineOf({"a.dll", "b.dll", "c.drv"}, allTypes + "\r\nsettings2=1,0,0,0,0,0");
+    ASSERT_FALSE(start("/s"));
+    app->frmLogoff.Image4.click();
     EXPECT_FALSE(settle());
-    EXPECT_EQ(calls, "action next");
     EXPECT_EQ(app->sProg.ProgressBar1.value(), 100);
     EXPECT_EQ(figures(), "1000/1000/1000/1000");
     EXPECT_EQ(screen().Caption(), "AutoCheck");
-    EXPECT_EQ(app->globals.scan.failCount, 1);
-    EXPECT_EQ(screen().pbm.Caption(), "0");
-}
-
-TEST_F(Scan, FilesThatComeAndGoDuringTheScanAreReportedNotFatal) {
-    pc.files.put(systemFolder + "a.dll", "a");
-    pc.files.put(systemFolder + "b.dll", "b");
-    pc.files.put(systemFolder + "c.dll", "c");
-    baselineAndSettings();
-    ASSERT_FALSE(start("/r"));
-    pc.messages.when([this] { return screen().Label6.Caption() == "1"; },
-                     [this] {
-                         pc.files.remove(systemFolder + "b.dll");
-                         pc.files.lock(systemFolder + "c.dll");
-                     });
-    EXPECT_FALSE(settle());
-    EXPECT_EQ(figures(), "3/0/2/1");
-    EXPECT_EQ(app->globals.scan.failList, systemFolder + "b.dll 0," + systemFolder + "c.dll 0,");
-    pc.files.unlock(systemFolder + "c.dll");
-
-    // A whole folder that is not there is an empty walk.
-    pc.folders.systemDirectory = R"(C:\Nowhere)";
-    ASSERT_FALSE(start("/r"));
-    EXPECT_TRUE(settle());
 }
 
 } // namespace

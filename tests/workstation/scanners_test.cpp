@@ -5,8 +5,6 @@
 namespace tarvelon {
 namespace {
 
-const std::string box = "Choose Anti-Virus Executable File";
-
 class Scanners : public Session {
 protected:
     void SetUp() override {
@@ -15,12 +13,21 @@ protected:
         pc.files.put(R"(C:\Tools\other.exe)", "");
         ASSERT_FALSE(start());
         app->mForm1.cButton10.click();
-        ASSERT_TRUE(app->s_avir.Visible());
+        ASSERT_TRUE(form().Visible());
     }
 
-    void choose(FlatButton& button, const std::string& path) {
-        pc.dialogs.expectOpenFile({.title = box, .choice = path});
-        tells("Don't forget to Save!");
+    SAvirScreen& form() { return app->s_avir; }
+    /// The first scanner and the second, with their arguments.
+    std::string fields() {
+        return form().Text5.Caption() + "|" + form().Text6.Caption() + "|" + form().Text1.Caption() + "|" +
+               form().Text2.Caption();
+    }
+
+    void choose(FlatButton& button, const std::optional<std::string>& path) {
+        pc.dialogs.expectOpenFile({.title = "Choose Anti-Virus Executable File", .choice = path});
+        if (path) {
+            tells("Don't forget to Save!");
+        }
         button.click();
     }
 
@@ -28,83 +35,72 @@ protected:
 };
 
 TEST_F(Scanners, ChoosingBringsDefaultArgumentsByTheFirstScannersName) {
-    SAvirScreen& form = app->s_avir;
-    EXPECT_EQ(form.Text5.Caption(), "Anti-Virus Software");
-    pc.dialogs.expectOpenFile({.title = box, .choice = std::nullopt});
-    form.cChoose.click();
-    EXPECT_EQ(form.Text5.Caption(), "Anti-Virus Software");
-
-    choose(form.cChoose, R"(C:\Tools\navw32.exe)");
-    EXPECT_EQ(form.Text5.Caption(), R"(C:\Tools\navw32.exe)");
-    EXPECT_EQ(form.Text6.Caption(), "/HEUR:3");
-    choose(form.cButton10, R"(C:\Tools\other.exe)");
-    EXPECT_EQ(form.Text2.Caption(), "/HEUR:3") << "by the first scanner's name, as for the first";
-    choose(form.cChoose, R"(C:\Pavcl\x.com)");
-    EXPECT_EQ(form.Text6.Caption(), "/NSB /NOM /AUT");
-    choose(form.cChoose, R"(C:\Tools\other.exe)");
-    EXPECT_EQ(form.Text6.Caption(), " ");
-
+    choose(form().cChoose, std::nullopt);
+    choose(form().cButton10, std::nullopt);
+    EXPECT_EQ(fields(), "Anti-Virus Software||Anti-Virus Software|");
+    choose(form().cChoose, R"(C:\Tools\navw32.exe)");
+    EXPECT_EQ(app->vDct.varg.Caption(), "/HEUR:3") << "for the wizard, too";
+    choose(form().cButton10, R"(C:\Tools\other.exe)");
+    EXPECT_EQ(fields(), R"(C:\Tools\navw32.exe|/HEUR:3|C:\Tools\other.exe|/HEUR:3)");
+    choose(form().cChoose, R"(C:\Pavcl\x.com)");
+    EXPECT_EQ(form().Text6.Caption(), "/NSB /NOM /AUT");
+    choose(form().cChoose, R"(C:\Tools\other.exe)");
     tells("Save Success!");
-    form.cButton3.click();
-    EXPECT_FALSE(form.Visible());
+    form().cButton3.click();
+    EXPECT_FALSE(form().Visible());
     EXPECT_EQ(stored("ANTIVIRUS"), "C:\\Tools\\other.exe| ");
     EXPECT_EQ(stored("AV2"), "C:\\Tools\\other.exe|/HEUR:3");
 }
 
 TEST_F(Scanners, ASaveStoresAMissingFirstAsPlaceholderAndASecondAsNothing) {
-    app->s_avir.Text5.typed(R"(C:\gone.exe)");
-    app->s_avir.Text1.typed(R"(C:\gone.exe)");
+    form().Text5.typed(R"(C:\gone.exe)");
+    form().Text1.typed(R"(C:\gone.exe)");
     tells("You didn't choose an anti-virus software exe.  We recommend that you get one to take full "
           "advantage of Tarvelon");
     tells("Save Success!");
-    app->s_avir.cButton3.click();
-    EXPECT_THAT(data("Tarvelon.dat"), HasSubstr("antivirus=Anti-Virus Software| \r\nav2=|\r\n"));
-    ASSERT_FALSE(start());
-    EXPECT_EQ(app->s_avir.Text5.Caption(), "Anti-Virus Software");
-    EXPECT_EQ(app->s_avir.Text1.Caption(), "Anti-Virus Software")
-        << "a bar alone is too short to be read back";
+    form().cButton3.click();
+    EXPECT_EQ(stored("ANTIVIRUS"), "Anti-Virus Software| ");
+    EXPECT_EQ(stored("AV2"), "") << "a bar alone is too short to be read back";
 }
 
 TEST_F(Scanners, TheCatalogueSearchesTestsAndHandsOver) {
-    const std::string notice =
-        "Tarvelon may become unresponsive during the file search. This is normal.\r\rClick OK to continue.";
-    app->s_avir.cButton1.click();
+    const std::string exe = R"(C:\Tools\navw32.exe)"; // Outside the Program Files folder.
     AVirHelpScreen& help = app->aVirHelp;
-    ASSERT_TRUE(help.Visible());
+    form().cButton1.click();
     EXPECT_EQ(help.List1.count(), 16);
+    help.Command4.click(); // Nothing is selected.
     EXPECT_FALSE(help.Command2.Enabled());
-    help.Command4.click();
-
-    help.List1.select(15);
-    tells(notice);
-    tells("The default executable for this program was not found! Make sure you selected the correct "
-          "anti-virus program, and the correct operating system.");
-    help.Command4.click();
-    EXPECT_EQ(help.Text2.Caption(), "");
-
-    help.List1.select(13);
-    tells(notice);
-    tells("Success!");
-    help.Command4.click();
-    EXPECT_EQ(help.Text2.Caption(), R"(C:\Tools\navw32.exe)") << "outside the Program Files folder";
-    EXPECT_FALSE(help.Command3.Enabled());
+    for (const auto& [row, outcome] :
+         {std::pair(13, "Success!"),
+          {15, "The default executable for this program was not found! Make sure you selected the correct "
+               "anti-virus program, and the correct operating system."},
+          {13, "Success!"}}) {
+        help.List1.select(row);
+        tells("Tarvelon may become unresponsive during the file search. This is normal.\r\rClick OK to "
+              "continue.");
+        tells(outcome);
+        help.Command4.click();
+        EXPECT_EQ(help.Text2.Caption(), row == 13 ? exe : "");
+        EXPECT_EQ(help.Command2.Enabled(), row == 13);
+        EXPECT_FALSE(help.Command3.Enabled());
+    }
     tells("Tarvelon will now attempt to scan two files. If the Virus-Scanner you selected scans both files, "
           "then it is fully compatible with Tarvelon! If not, make sure you chose the correct EXE file in "
           "your anti-virus folder.");
     help.Command2.click();
-    EXPECT_EQ(pc.processes.started().back().commandLine,
-              "C:\\Tools\\navw32.exe \"" + dataFolder + "Tarvelon.dat\" \"" + dataFolder + "Integrity.dat\"");
+    EXPECT_EQ(lines().back(),
+              exe + " \"" + dataFolder + "Tarvelon.dat\" \"" + dataFolder + "Integrity.dat\"");
     help.Command3.click();
     EXPECT_FALSE(help.Visible());
-    EXPECT_EQ(app->s_avir.Text1.Caption(), R"(C:\Tools\navw32.exe)");
-    EXPECT_EQ(app->s_avir.Text2.Caption(), R"(C:\Tools\navw32.exe)")
-        << "the path once more, in place of arguments";
+    EXPECT_EQ(fields(), "Anti-Virus Software||" + exe + "|" + exe) << "the path in place of arguments";
 
-    app->s_avir.chlpFind.click();
+    form().cButton1.click();
+    help.close();
+    form().chlpFind.click();
     help.Command3.click();
-    EXPECT_EQ(app->s_avir.Text5.Caption(), R"(C:\Tools\navw32.exe)");
-    EXPECT_EQ(app->s_avir.Text6.Caption(), "/HEUR:3");
-    pc.files.remove(R"(C:\Tools\navw32.exe)");
+    EXPECT_EQ(fields(), exe + "|/HEUR:3|" + exe + "|" + exe);
+    EXPECT_EQ(app->vDct.vpath.Caption() + app->vDct.varg.Caption(), exe + "/HEUR:3");
+    pc.files.remove(exe);
     tells("You must choose a virus scanner before you proceed!");
     help.Command2.click();
 }

@@ -32,6 +32,10 @@ inline const std::string firstRunRefused =
 
 inline const std::string allTypes = "1,1,1,1,1,1,0,0"; ///< Without automatic scan and reports.
 
+/// With the path of the first scanner behind it.
+inline const std::string notExecuted =
+    "Your Anti-Virus program could not be executed!!!\rPlease verify the path of the software:\r";
+
 inline const std::string leaveFindings =
     "Some files failed the integrity check!  Are you sure you want to exit?";
 inline const std::string fullScanQuestion =
