@@ -74,7 +74,8 @@ TEST_F(DataFiles, ACustomFoldersMissingFileIsRestoredOrBuilt) {
     asks(question, Answer::No, ".Dat file Missing!");
     app->globals.app.autoLoadRun = true; // Builds it unasked.
     pc.faults.failNth(Operation::MoveFile, 2);
-    EXPECT_THROW(app->dataFile.loadCustomDat(custom), Failure);
+    EXPECT_THAT([&] { app->dataFile.loadCustomDat(custom); },
+                testing::ThrowsMessage<Failure>("The data file cannot be written:\r\n" + custom));
     pc.files.remove(backup);
     EXPECT_EQ(file(custom), "(missing)") << "an empty file would count as scanned";
     EXPECT_TRUE(app->dataFile.loadCustomDat(custom));

@@ -30,11 +30,9 @@ protected:
         }
         button.click();
     }
-
-    std::string stored(const std::string& key) { return app->settingsFile.getSetting(key); }
 };
 
-TEST_F(Scanners, ChoosingBringsDefaultArgumentsByTheFirstScannersName) {
+TEST_F(Scanners, AChoiceBringsArgumentsByTheFirstScannersNameAndIsStored) {
     choose(form().cChoose, std::nullopt);
     choose(form().cButton10, std::nullopt);
     EXPECT_EQ(fields(), "Anti-Virus Software||Anti-Virus Software|");
@@ -48,19 +46,16 @@ TEST_F(Scanners, ChoosingBringsDefaultArgumentsByTheFirstScannersName) {
     tells("Save Success!");
     form().cButton3.click();
     EXPECT_FALSE(form().Visible());
-    EXPECT_EQ(stored("ANTIVIRUS"), "C:\\Tools\\other.exe| ");
-    EXPECT_EQ(stored("AV2"), "C:\\Tools\\other.exe|/HEUR:3");
-}
+    ASSERT_FALSE(start());
+    EXPECT_EQ(fields(), R"(C:\Tools\other.exe||C:\Tools\other.exe|/HEUR:3)");
 
-TEST_F(Scanners, ASaveStoresAMissingFirstAsPlaceholderAndASecondAsNothing) {
     form().Text5.typed(R"(C:\gone.exe)");
     form().Text1.typed(R"(C:\gone.exe)");
     tells("You didn't choose an anti-virus software exe.  We recommend that you get one to take full "
           "advantage of Tarvelon");
     tells("Save Success!");
     form().cButton3.click();
-    EXPECT_EQ(stored("ANTIVIRUS"), "Anti-Virus Software| ");
-    EXPECT_EQ(stored("AV2"), "") << "a bar alone is too short to be read back";
+    EXPECT_THAT(data("Tarvelon.dat"), HasSubstr("antivirus=Anti-Virus Software| \r\nav2=|\r\n"));
 }
 
 TEST_F(Scanners, TheCatalogueSearchesTestsAndHandsOver) {
@@ -84,6 +79,11 @@ TEST_F(Scanners, TheCatalogueSearchesTestsAndHandsOver) {
         EXPECT_EQ(help.Command2.Enabled(), row == 13);
         EXPECT_FALSE(help.Command3.Enabled());
     }
+    pc.files.remove(exe);
+    tells("You must choose a virus scanner before you proceed!");
+    help.Command2.click();
+    EXPECT_FALSE(help.Command3.Enabled());
+    pc.files.put(exe, "");
     tells("Tarvelon will now attempt to scan two files. If the Virus-Scanner you selected scans both files, "
           "then it is fully compatible with Tarvelon! If not, make sure you chose the correct EXE file in "
           "your anti-virus folder.");
@@ -93,16 +93,19 @@ TEST_F(Scanners, TheCatalogueSearchesTestsAndHandsOver) {
     help.Command3.click();
     EXPECT_FALSE(help.Visible());
     EXPECT_EQ(fields(), "Anti-Virus Software||" + exe + "|" + exe) << "the path in place of arguments";
-
     form().cButton1.click();
     help.close();
-    form().chlpFind.click();
+    app->vDct.helpme.click();
     help.Command3.click();
-    EXPECT_EQ(fields(), exe + "|/HEUR:3|" + exe + "|" + exe);
+    EXPECT_EQ(fields(), exe + "|/HEUR:3|" + exe + "|" + exe) << "for the first scanner by now";
     EXPECT_EQ(app->vDct.vpath.Caption() + app->vDct.varg.Caption(), exe + "/HEUR:3");
-    pc.files.remove(exe);
-    tells("You must choose a virus scanner before you proceed!");
-    help.Command2.click();
+
+    form().chlpFind.click();
+    tells("There is a very good chance that your anti-virus software is compatible.  As long as it supports "
+          "command line arguments, then it will work.\rTarvelon will now send you to the web site of "
+          "Quillfen.\r\rSimply click on Tarvelon, and click on Anti-Virus support.");
+    help.Command1.click();
+    EXPECT_EQ(pc.shell.opened().size(), 1u);
 }
 
 } // namespace
