@@ -1,21 +1,40 @@
-// What a scan takes in, how it sorts that, and how it is paused and left.
+// Scans: what they take in, how they sort it and are left, and what becomes of their findings.
 
 #include "tests/workstation/session.h"
 
 namespace tarvelon {
 namespace {
 
+const std::string withReports = "1,1,1,1,1,1,0,1", automatic = "1,1,1,1,1,1,1,0";
+
 class Scan : public Session {
 protected:
     /// The baseline over these files of the system folder, which hold their names, and the settings of later
-    /// scans.
-    void baselineOf(const Rows& names, const std::string& types = allTypes, const std::string& folders = "") {
+    /// runs, with a first scanner.
+    void live(const Rows& names, const SettingsText& settings) {
+        putFiles(names);
+        makeBaseline();
+        before = data("Integrity.dat");
+        configure(settings);
+    }
+
+    void configure(SettingsText settings) {
+        pc.files.put(R"(C:\av\scan.exe)", "");
+        settings.antivirus = "C:\\av\\scan.exe| /s ";
+        putSettings(settings);
+    }
+
+    void putFiles(const Rows& names) {
         for (const std::string& name : names) {
             pc.files.put(systemFolder + name, name);
         }
-        pc.files.put(R"(C:\av.exe)", "");
-        putSettings({.settings = types, .antivirus = R"(C:\av.exe|)", .folders = folders});
-        makeBaseline();
+    }
+
+    /// A log-on run up to its results.
+    void find(std::size_t findings) {
+        ASSERT_FALSE(start("/r"));
+        ASSERT_FALSE(settle());
+        ASSERT_EQ(screen().List1.items().size(), findings);
     }
 
     /// What happens when so many files are done.
@@ -23,17 +42,26 @@ protected:
         pc.messages.when([this, done] { return screen().Label6.Caption() == done; }, std::move(action));
     }
 
+    void accept() { screen().Label12.click(); }
+
     IntCheckScreen& screen() const { return app->intCheck; }
     std::string figures() const {
         return screen().Label6.Caption() + "/" + screen().Label8.Caption() + "/" + screen().Label9.Caption() +
                "/" + screen().Label7.Caption();
     }
+    static std::string entry(const std::string& name, const std::string& bytes) {
+        return name + "=" + crcText(bytes) + "*E\r\n";
+    }
+
+    const std::string report = dataFolder + "Log\\03-05-2006(3_04_07PM).log";
+    std::string before; ///< The baseline without the findings.
 };
 
-TEST_F(Scan, CountsWhatPassesIsNewOrFails) {
-    baselineOf({"bad.exe", "gone.ocx", "going.dll", "good.dll", "k.386", "locked.sys", "s.scr", ".dll"});
+TEST_F(Scan, SortsItsFindingsAndOneClickAcceptsThem) {
+    live({"bad.exe", "gone.ocx", "going.dll", "good.dll", "k.386", "locked.sys", "s.scr", ".dll"},
+         {.settings = withReports, .av2 = "C:\\av\\two.exe|", .antivirus2 = "1,0,1"});
     pc.files.put(systemFolder + "bad.exe", "after");
-    pc.files.put(systemFolder + "new.com", "new");
+    pc.files.put(systemFolder + "new one.com", "new");
     pc.files.remove(systemFolder + "gone.ocx");
     ASSERT_FALSE(start("/r"));
     EXPECT_TRUE(screen().Minimized() && !app->mForm1.Visible());
@@ -43,26 +71,49 @@ TEST_F(Scan, CountsWhatPassesIsNewOrFails) {
     });
     ASSERT_FALSE(settle());
     EXPECT_EQ(figures(), "8/1/3/4") << "what had gone before is not treated at all";
-    EXPECT_EQ(app->globals.scan.failList, systemFolder + "going.dll 0," + systemFolder + "locked.sys 0," +
-                                              systemFolder + "bad.exe " + crcText("after") + "," +
-                                              systemFolder + "new.com " + crcText("new") + ",");
-    EXPECT_EQ(screen().Caption(), "100% AutoCheck");
-    EXPECT_EQ(screen().l_exe.Caption() + " " + screen().l_sdrv.Caption(), "new.com 100%");
-    asks(leaveFindings, Answer::Yes, "Warning");
-    EXPECT_TRUE(ends([this] { screen().Image11.click(); }));
+    EXPECT_EQ(screen().List1.item(3), systemFolder + "new one.com *NEW*");
+    EXPECT_EQ(app->dataFile.getEntry("new one.com", "COM"), "") << "nothing is accepted yet";
+    EXPECT_EQ(screen().Caption() + screen().Label13.Caption(), "100% AutoCheckResults");
+    EXPECT_EQ(screen().l_exe.Caption() + screen().l_sdrv.Caption(), "new one.com100%");
+    EXPECT_TRUE(screen().Frame2.isShown() && !screen().Label14.Visible() && !screen().Minimized());
+    screen().Label2.click();
+    EXPECT_EQ(screen().Label13.Caption(), "Failed Files List");
+    EXPECT_TRUE(screen().Frame3.isShown());
+    asks(leaveFindings, Answer::No, "Warning");
+    EXPECT_FALSE(ends([this] { screen().close(); }));
+
+    accept();
+    const std::string dir = "\"" + systemFolder;
+    const std::string all =
+        dir + "going.dll\" " + dir + "locked.sys\" " + dir + "bad.exe\" " + dir + "new one.com\" ";
+    EXPECT_EQ(pc.processes.started(),
+              (std::vector<StartedProcess>{{"C:\\av\\scan.exe /s " + all, WindowStyle::NormalFocus},
+                                           {"C:\\av\\two.exe  " + all, WindowStyle::NormalFocus}}));
+    EXPECT_TRUE(file(report).starts_with(
+        "Integrity Checker - These files were either New or Failed the Integrity Check," + systemFolder +
+        "going.dll,"));
+    EXPECT_TRUE(file(report).ends_with("bad.exe," + systemFolder + "new,one.com\r\n"));
+    EXPECT_EQ(data("integrity.bak"), before);
+    EXPECT_THAT(data("Integrity.dat"), HasSubstr(entry("bad.exe", "after") + "NULL*E\r\n[COM]\r\n" +
+                                                 entry("new one.com", "new") + "NULL*E\r\n[PIF]"));
+    EXPECT_EQ(screen().Caption() + screen().Label13.Caption() + screen().Label12.Caption(),
+              "Integrity File(s) UpdatedIntegrity File UpdatedClose Integrity Window");
+    EXPECT_TRUE(ends([this] { accept(); })) << "without a question";
+    ASSERT_FALSE(start("/r"));
+    EXPECT_TRUE(settle()) << "the second scan is clean";
 }
 
 TEST_F(Scan, TypesNotWantedAreNamedAndCounted) {
-    baselineOf({"a.dll", "b.drv", "s.scr"}, "1,0,0,0,0,1,0,0");
+    live({"a.dll", "b.drv", "s.scr"}, {.settings = "1,0,0,0,0,1,0,0"});
     pc.files.put(systemFolder + "b.drv", "changed");
     ASSERT_FALSE(start("/r"));
     EXPECT_EQ(screen().pb2max.Caption(), "2") << "the last type counts towards the total";
     std::string inLastPass;
-    at("2", [&] { inLastPass = screen().l_2sexe.Caption(); });
+    at("2", [&] { inLastPass = screen().l_2exe2.Caption() + " " + screen().l_2sexe.Caption(); });
     EXPECT_TRUE(settle());
-    EXPECT_EQ(inLastPass, "0%") << "the last pass has no count of its own";
-    EXPECT_EQ(screen().l_drv2.Caption(), "Driver Scan --- Not Scanning");
-    EXPECT_EQ(screen().l_2exe2.Caption(), "Commonly Exploited Executable Scan");
+    EXPECT_EQ(inLastPass, "Commonly Exploited Executable Scan 0%") << "which has no count of its own";
+    EXPECT_EQ(screen().l_drv2.Caption() + screen().l_sys2.Caption(),
+              "Driver Scan --- Not ScanningSystem Files --- Not Scanning");
     EXPECT_EQ(screen().l_2exe2.ForeColor(), colors::scanGrey);
 
     pc.folders.systemDirectory = R"(C:\Nowhere)"; // An empty walk.
@@ -72,31 +123,8 @@ TEST_F(Scan, TypesNotWantedAreNamedAndCounted) {
     EXPECT_EQ(figures(), "1000/1000/1000/1000") << "clean by the design's figures";
 }
 
-TEST_F(Scan, CustomFoldersJoinBehindTheSystemFolder) {
-    for (const char* path : {R"(C:\Tools\t.dll)", R"(C:\Tools\not wanted.exe)", R"(C:\Other\o.exe)"}) {
-        pc.files.put(path, path);
-    }
-    baselineOf(
-        {"a.dll"}, allTypes,
-        "[3]\r\npath=C:\\Tools\\\r\nargs=1,0,0,0,0,0,1\r\nargs2=0,0,0,0,0,0,0\r\n"
-        "[20]\r\npath=C:\\Other\r\nargs=0,0,0,0,1,0,1\r\n[13]\r\npath=C:\\No\\\r\nargs=1,1,1,1,1,1,0\r\n");
-    ASSERT_FALSE(start("/r"));
-    EXPECT_EQ(screen().pb2max.Caption(), "3");
-    std::string turns;
-    at("2", [&] { turns = screen().l_cust2.Caption() + " of " + app->globals.scan.customFolder; });
-    ASSERT_FALSE(settle());
-    EXPECT_EQ(turns, "Custom Folder 1/2 of C:\\Tools\\");
-    EXPECT_EQ(screen().l_cust2.Caption(), "Custom Folder 2/2");
-    EXPECT_EQ(screen().l_ocx2.ForeColor(), colors::black) << "not wanted in the last folder";
-    EXPECT_EQ(figures(), "3/2/0/1") << "folders without a baseline get a blank one, and their files are new";
-    EXPECT_EQ(app->globals.scan.customFailList, "C:\\Tools\\t.dll(3) " + crcText("C:\\Tools\\t.dll") +
-                                                    ",C:\\Other\\o.exe(20) " + crcText("C:\\Other\\o.exe") +
-                                                    ",");
-    EXPECT_THAT(data("3.dat"), HasSubstr("[EXE]\r\nnot wanted.exe=NULL*E\r\n"));
-}
-
 TEST_F(Scan, IsStartedAnewPausedAndCancelledOnItsWay) {
-    baselineOf({"0.dll", "1.dll", "2.dll", "3.dll", "4.dll", "5.dll", "6.dll", "7.dll", "8.dll"});
+    live({"0.dll", "1.dll", "2.dll", "3.dll", "4.dll", "5.dll", "6.dll", "7.dll", "8.dll"}, {});
     ASSERT_FALSE(start());
     app->mForm1.bDLL.click();
     const auto scan = [this] { app->mForm1.bSCAN.click(); };
@@ -108,7 +136,7 @@ TEST_F(Scan, IsStartedAnewPausedAndCancelledOnItsWay) {
     screen().Label2.click();
     EXPECT_FALSE(screen().Visible());
 
-    pc.files.put(systemFolder + "55.dll", "new"); // The next when the scan is cancelled.
+    putFiles({"55.dll"}); // The next one when the scan is cancelled.
     scan();
     at("4", [this] { screen().Image9.click(); });
     std::string whilePaused;
@@ -120,20 +148,202 @@ TEST_F(Scan, IsStartedAnewPausedAndCancelledOnItsWay) {
     pc.messages.onWait([this] { screen().Image11.click(); });
     EXPECT_FALSE(settle());
     EXPECT_EQ(whilePaused, "4 Resume");
-    EXPECT_FALSE(screen().Visible());
     EXPECT_EQ(figures() + " " + screen().l_sdll.Caption(), "6/0/0/6 60%");
     EXPECT_EQ(screen().pbm.Caption(), "0") << "a cancelled pass leaves no sum";
-    EXPECT_FALSE(screen().Label14.Visible());
+    EXPECT_TRUE(!screen().Visible() && !screen().Label14.Visible());
 }
 
 TEST_F(Scan, InAShutDownOnlyTheProgressBarMoves) {
-    baselineOf({"a.dll", "b.dll", "c.drv"}, allTypes + "\r\nsettings2=1,0,0,0,0,0");
+    live({"a.dll", "b.dll", "c.drv"}, {.settings = allTypes + "\r\nsettings2=1,0,0,0,0,0"});
     ASSERT_FALSE(start("/s"));
     app->frmLogoff.Image4.click();
     EXPECT_FALSE(settle());
     EXPECT_EQ(app->sProg.ProgressBar1.value(), 100);
-    EXPECT_EQ(figures(), "1000/1000/1000/1000");
-    EXPECT_EQ(screen().Caption(), "AutoCheck");
+    EXPECT_EQ(figures() + screen().Caption(), "1000/1000/1000/1000AutoCheck");
+}
+
+TEST_F(Scan, AutomaticRunsTakeInCustomFoldersAndAcceptWhatTheyFound) {
+    for (const std::string folder :
+         {R"(C:\Plain Folder\)", R"(C:\With (x86)\)", R"(C:\Dots v1.2\)", R"(C:\No\)"}) {
+        pc.files.put(folder + "a,b.dll", "1");
+        pc.files.put(folder + "two.dots.exe", "2");
+    }
+    live({"a.dll"},
+         {.settings = automatic,
+          .folders = "[1]\r\npath=C:\\Plain Folder\\\r\nargs=1,1,1,1,1,1,1\r\nargs2=0,0,0,0,0,0,0\r\n"
+                     "[2]\r\npath=C:\\With (x86)\\\r\nargs=1,1,1,1,1,1,1\r\n"
+                     "[3]\r\npath=C:\\No\\\r\nargs=1,1,1,1,1,1,0\r\n"
+                     "[20]\r\npath=C:\\Dots v1.2\r\nargs=0,0,0,0,1,0,1\r\n"});
+    pc.files.put(systemFolder + "a.dll", "changed");
+    ASSERT_FALSE(start("/r"));
+    EXPECT_EQ(screen().pb2max.Caption(), "6");
+    std::string turn;
+    at("2", [&] { turn = screen().l_cust2.Caption() + " of " + app->globals.scan.customFolder; });
+    EXPECT_TRUE(settle());
+    EXPECT_EQ(turn, "Custom Folder 1/3 of C:\\Plain Folder\\");
+    EXPECT_EQ(screen().l_cust2.Caption(), "Custom Folder 3/3");
+    EXPECT_EQ(screen().l_ocx2.ForeColor(), colors::black) << "not wanted in the last folder";
+    EXPECT_EQ(figures(), "6/5/1/0") << "folders without a baseline get a blank one, and their files are new";
+    EXPECT_THAT(data("1.dat"), HasSubstr(entry("a,b.dll", "1") + "NULL*E\r\n[DRV]"));
+    EXPECT_THAT(data("1.dat"), HasSubstr(entry("two.dots.exe", "2")));
+    EXPECT_EQ(data("2.dat").find(crcText("2")), std::string::npos) << "the slot is not found";
+    EXPECT_THAT(data("20.dat"), HasSubstr("b.dll=NULL*E\r\nNULL*E\r\n[DRV]"));
+    EXPECT_THAT(data("20.dat"), HasSubstr(entry("two.dots.exe", "2")));
+    EXPECT_THAT(data("Integrity.dat"), HasSubstr(entry("a.dll", "changed") + entry("a,b.dll", "changed")))
+        << "a custom folder's file behind a system file leaves a line in the system baseline";
+
+    // A scheduled run acts by itself even if the setting is off, since its plan is for everything.
+    configure({.settings = allTypes});
+    pc.files.put(systemFolder + "a.dll", "scheduled");
+    ASSERT_FALSE(start("/a"));
+    EXPECT_TRUE(settle());
+    EXPECT_THAT(data("Integrity.dat"), HasSubstr(entry("a.dll", "scheduled")));
+}
+
+TEST_F(Scan, BatchesFollowPassCountAndTheRoomOfACommandLine) {
+    const std::string f = systemFolder + "f";
+    live({}, {.settings = allTypes, .passCount = "2", .antivirus2 = "0,1,0"});
+    putFiles({"f0.dll", "f1.dll", "f2.dll", "f3.dll", "f4.dll"});
+    find(5);
+    pc.files.remove(f + "4.dll"); // Gone by now: its short name is empty.
+    accept();
+    EXPECT_EQ(lines(), (Rows{"C:\\av\\scan.exe /s " + f + "0.dll " + f + "1.dll ",
+                             "C:\\av\\scan.exe /s " + f + "2.dll " + f + "3.dll ", "C:\\av\\scan.exe /s  "}));
+    EXPECT_EQ(pc.processes.started()[0].style, WindowStyle::MinimizedFocus);
+    EXPECT_EQ(file(report), "(missing)") << "Auto-Logging is off";
+
+    for (int i = 0; i < 180; ++i) {
+        putFiles({std::string(180, 'n') + std::to_string(i) + ".dll"});
+    }
+    configure(
+        {.settings = withReports, .passCount = "99999", .av2 = "C:\\two.exe|" + std::string(9000, 'x')});
+    find(180);
+    accept();
+    EXPECT_EQ(lines().size(), 3u + 4u) << "two runs of two scanners";
+    EXPECT_TRUE(file(report).ends_with("n99.dll\r\n"));
+}
+
+TEST_F(Scan, WhatCannotBeHandedOverStaysListedToTryAgain) {
+    live({}, {.settings = withReports, .av2 = "C:\\av\\two.exe|/x"});
+    putFiles({"a.dll", "b.dll"});
+    find(2);
+    const auto refused = [this] {
+        tells(notExecuted + "C:\\av\\scan.exe");
+        accept();
+        EXPECT_EQ(screen().List1.count(), 2);
+        EXPECT_EQ(data("Integrity.dat"), before);
+    };
+    pc.processes.canStart = [](const std::string& line) { return line.find("two.exe") == std::string::npos; };
+    refused();
+    EXPECT_EQ(file(report), "(missing)");
+    pc.processes.canStart = nullptr;
+    pc.files.put(report, "older");
+    pc.files.lock(report);
+    refused();
+    pc.files.unlock(report);
+    accept();
+    EXPECT_EQ(screen().List1.count(), 0);
+    EXPECT_NE(data("Integrity.dat"), before);
+}
+
+TEST_F(Scan, WithoutAScannerTheFirstBatchIsLoggedAndAllIsAccepted) {
+    live({}, {.settings = allTypes, .passCount = "1"});
+    pc.files.remove(R"(C:\av\scan.exe)");
+    putFiles({"a.dll", "b.dll"});
+    find(2);
+    tells("You do not have any Anti-Virus program setup with Tarvelon.  For your conveniance, these files "
+          "will be added to the log, and will be updated in your Integrity File (so that you can scan them "
+          "for viruses later).");
+    accept();
+    EXPECT_TRUE(lines().empty());
+    EXPECT_EQ(file(report),
+              "Integrity Checker - These files were logged because you didn't setup an Anti-Virus Scanner," +
+                  systemFolder + "a.dll\r\n");
+    EXPECT_THAT(data("Integrity.dat"), HasSubstr(entry("a.dll", "a.dll") + entry("b.dll", "b.dll")));
+}
+
+TEST_F(Scan, AFailingUpdateNeverCostsTheBaseline) {
+    live({}, {.settings = allTypes});
+    putFiles({"a.dll", "b.dll"});
+    find(2);
+    const auto refused = [this](const std::string& what) {
+        tells(what + "\r\n" + dataFolder +
+              "Integrity.dat\r\n\r\nThe files stay listed and can be accepted again.");
+        accept();
+        EXPECT_EQ(data("Integrity.dat"), before);
+        EXPECT_EQ(screen().Label13.Caption(), "Failed Files List");
+    };
+    using enum Operation;
+    for (const Operation operation : {WriteFile, WriteFileHalf, Flush, MoveFile, FillDisk}) {
+        SCOPED_TRACE(static_cast<int>(operation));
+        pc.faults.failNth(operation, 1);
+        refused("The data file cannot be backed up:");
+        pc.faults.clear(operation);
+    }
+    pc.files.denyWrites(dataFolder + "Integrity.dat");
+    refused("The data file cannot be replaced:");
+    pc.files.allowWrites(dataFolder + "Integrity.dat");
+    accept();
+    EXPECT_THAT(data("Integrity.dat"), HasSubstr(entry("b.dll", "b.dll")));
+}
+
+TEST_F(Scan, NothingComesBetweenFindingsAndTheirBaseline) {
+    pc.files.put(R"(C:\One\x.dll)", "x");
+    live({"a.dll"}, {.settings = allTypes, .folders = "[1]\r\npath=C:\\One\\\r\n[2]\r\npath=C:\\Two\\\r\n"});
+    for (const char* empty : {"1.dat", "2.dat", "Integrity-md5.dat"}) {
+        pc.files.put(dataFolder + empty, "");
+    }
+    ASSERT_FALSE(start());
+    const auto scan = [this](int folder) {
+        app->mForm1.Image5.click();
+        app->mForm1.Combo1.select(folder);
+        app->mForm1.bFULL.click();
+        app->mForm1.bSCAN.click();
+        EXPECT_FALSE(settle());
+    };
+    at("1", [this] { // Another algorithm counts from the next plan.
+        app->mForm1.Option12.click();
+        tells("Save Success!");
+        app->mForm1.cSave2.click();
+    });
+    scan(1);
+    app->mForm1.addRem.Enabled = false;
+    pc.messages.when(
+        [this] { return screen().Caption() == "Updating - Please Wait..."; },
+        [this] {
+            MForm1Screen& form = app->mForm1;
+            form.Combo1.select(2);
+            for (FlatButton* button : {&form.bSCAN, &form.cSave2, &app->iCust.Command3, &screen().Image11}) {
+                button->click();
+            }
+            accept();
+            form.close();
+        });
+    EXPECT_TRUE(ends([this] { accept(); })) << "closed when all is saved";
+    EXPECT_THAT(data("1.dat"), HasSubstr("[DLL]\r\n" + entry("x.dll", "x") + "NULL*E\r\n[DRV]"));
+    EXPECT_EQ(data("2.dat") + data("Integrity-md5.dat"), "");
+    EXPECT_EQ(data("Integrity.dat").find("x.dll"), std::string::npos);
+    EXPECT_EQ(lines().size(), 1u);
+    EXPECT_TRUE(app->mForm1.bSCAN.Enabled());
+    EXPECT_FALSE(app->mForm1.addRem.Enabled()) << "as it was before";
+
+    ASSERT_FALSE(start());
+    scan(0);
+    accept();
+    EXPECT_THAT(data("Integrity-md5.dat"), HasSubstr("*E\r\nNULL*E\r\n[DRV]\r\nNULL*E\r\n[386]\r\n"));
+    scan(0);
+    EXPECT_TRUE(screen().Label14.isShown()) << "what was accepted stays accepted";
+}
+
+TEST_F(Scan, ReportNamesFollowTheRegionalForms) {
+    live({}, {});
+    for (const auto& [date, time, name] : {std::tuple("2006-3-5", "15:04:07", "2006-03-5(15_04_07).log"),
+                                           {"2006?3?5?", "?? 3:04:07", "2006_3_5_(__3_04_07).log"},
+                                           {"5.3.2006", "15:04:07", "5.3.2006(15_04_07).log"}}) {
+        pc.clock.date = date;
+        pc.clock.time = time;
+        EXPECT_EQ(app->logFiles.fileName(), dataFolder + "Log\\" + name);
+    }
 }
 
 } // namespace
