@@ -11,209 +11,174 @@ protected:
         pc.files.put(systemFolder + "a.dll", "a");
         pc.files.put(R"(C:\Tools\t.dll)", "tool");
         pc.files.put(R"(C:\Tools\t.exe)", "program");
+        pc.files.put(R"(C:\av.exe)", "");
         makeBaseline();
-        ASSERT_FALSE(start()); // In the run of the primary scan itself no finding is accepted.
-    }
-
-    void addFolder(const std::string& path) {
-        pc.dialogs.expectFolder({.title = "Please Choose a Folder to Add", .choice = path});
-        app->iCust.cButton2.click();
-    }
-
-    void showManager() {
+        // In the run of the primary scan itself no finding is accepted, and no scan of the page hands its
+        // findings over by itself.
+        const std::string& settings = app->globals.app.settFile;
+        app->settingsFile.writeEntry(settings, "settings", "0,0,0,0,0,0,1,0", "Tarvelon");
+        app->settingsFile.writeEntry(settings, "antivirus", "C:\\av.exe|", "Tarvelon");
+        ASSERT_FALSE(start());
         app->mForm1.Image5.click();
-        app->mForm1.addRem.click();
-        ASSERT_TRUE(app->iCust.Visible());
     }
 
-    std::string setting(int slot, const std::string& key) {
-        return app->settingsFile.readIni(app->globals.app.settFile, key, slot);
+    MForm1Screen& page() { return app->mForm1; }
+    ICustScreen& manager() { return app->iCust; }
+
+    void addFolder(const std::string& path, const std::string& notice = "Folder Added.") {
+        pc.dialogs.expectFolder({.title = "Please Choose a Folder to Add", .choice = path});
+        clickTelling(manager().cButton2, notice);
     }
 
-    const std::string scanQuestion =
-        "This Custom Folder C:\\Tools\\ has not been fully scanned yet. The scan is "
-        "required by the Integrity Checker.\r\n\r\nPerform scan now?";
+    void scan() {
+        page().bSCAN.click();
+        EXPECT_FALSE(settle());
+    }
 };
 
 TEST_F(Folders, AFolderIsAddedScannedChangedFoundAcceptedAndRemoved) {
-    showManager();
-    tells("Folder Added.");
+    page().addRem.click();
     addFolder(R"(C:\Tools)");
-    EXPECT_EQ(app->iCust.List1.item(0), "1) C:\\Tools\\");
-    tells("Save Successful!");
-    app->iCust.Command3.click();
-    EXPECT_FALSE(app->iCust.Visible());
-    EXPECT_EQ(app->mForm1.Combo1.items(), (Rows{systemFolder, "C:\\Tools\\"}));
-
-    asks(scanQuestion, Answer::No);
-    tells(
-        "You have chosen not to scan this Custom Folder.  You need to run the scan before using this Custom "
-        "Folder Integrity Checker.");
-    app->mForm1.Combo1.select(1);
-    EXPECT_EQ(app->mForm1.Combo1.listIndex(), 0);
-    asks(scanQuestion, Answer::Yes);
-    tells("Initial Custom Folder Scan Completed Successfully!");
-    app->mForm1.Combo1.select(1);
-    EXPECT_FALSE(settle());
-    EXPECT_FALSE(app->intCheck.Visible());
+    addFolder(R"(C:\More)");
+    clickTelling(manager().Command3, "Save Successful!");
+    EXPECT_FALSE(manager().Visible());
+    EXPECT_EQ(page().Combo1.items(), (Rows{systemFolder, "C:\\Tools\\", "C:\\More\\"}));
+    for (const Answer answer : {Answer::No, Answer::Yes}) {
+        asks("This Custom Folder C:\\Tools\\ has not been fully scanned yet. The scan is required by the "
+             "Integrity Checker.\r\n\r\nPerform scan now?",
+             answer);
+        tells(answer == Answer::Yes ? "Initial Custom Folder Scan Completed Successfully!"
+                                    : "You have chosen not to scan this Custom Folder.  You need to run the "
+                                      "scan before using this Custom Folder Integrity Checker.");
+        page().Combo1.select(1);
+        EXPECT_EQ(page().Combo1.listIndex(), answer == Answer::Yes ? 1 : 0);
+        EXPECT_FALSE(settle());
+    }
     const std::string scanned = data("1.dat");
-    EXPECT_NE(scanned.find("t.dll=" + crcText("tool") + "*E"), std::string::npos);
+    EXPECT_THAT(scanned, HasSubstr("t.dll=" + crcText("tool") + "*E"));
 
     pc.files.put(R"(C:\Tools\t.exe)", "changed");
-    app->mForm1.bFULL.click();
-    app->mForm1.bSCAN.click();
+    page().bFULL.click();
     pc.messages.when([this] { return app->intCheck.Label6.Caption() == "1"; },
                      [this] { // A further folder, while this one is scanned.
-                         app->mForm1.addRem.click();
-                         tells("Folder Added.");
-                         addFolder(R"(C:\More)");
-                         tells("Save Successful!");
-                         app->iCust.Command3.click();
+                         addFolder(R"(C:\Late)");
+                         clickTelling(manager().Command3, "Save Successful!");
                      });
-    EXPECT_FALSE(settle());
+    scan();
     EXPECT_EQ(app->intCheck.List1.items(), (Rows{"C:\\Tools\\t.exe"}));
-    app->intCheck.Label2.click();
-    pc.files.put(R"(C:\av.exe)", "");
-    app->intCheck.Text1.Caption = R"(C:\av.exe)";
-    app->intCheck.Label12.click();
+    click(app->intCheck.Label12, app->intCheck.Label12);
+    EXPECT_EQ(lines(), Rows{"C:\\av.exe  \"C:\\Tools\\t.exe\" "});
     EXPECT_THAT(data("1.dat"), HasSubstr("t.exe=" + crcText("changed") + "*E"));
-    EXPECT_EQ(data("1.bak").substr(scanned.find("[DLL]")), scanned.substr(scanned.find("[DLL]")));
-    app->intCheck.Label12.click();
+    EXPECT_THAT(data("1.bak"), HasSubstr("t.exe=" + crcText("program") + "*E"));
     EXPECT_FALSE(app->intCheck.Visible());
     EXPECT_FALSE(pc.processes.ended()) << "a scan of the main window goes back to it";
+    page().Combo1.select(0);
+    scan();
+    EXPECT_EQ(app->intCheck.Label6.Caption(), "1") << "the system folder's one file";
 
-    for (const char* ending : {"-md4.dat", "-md4.bak", "-md5.dat", "-md5.bak", "-sha1.dat", "-sha1.bak"}) {
-        pc.files.put(dataFolder + "1" + ending, "x");
+    page().addRem.click();
+    manager().List1.select(0);
+    const Rows own{"1.dat",     "1.bak",     "1-md4.dat",  "1-md4.bak",
+                   "1-md5.dat", "1-md5.bak", "1-sha1.dat", "1-sha1.bak"};
+    for (const Answer answer : {Answer::Cancel, Answer::Ok}) {
+        for (const std::string& name : own) {
+            pc.files.put(dataFolder + name, "x");
+        }
+        pc.dialogs.expect({.text = "Are you sure you want to remove this folder? Doing so will lose all "
+                                   "Integrity Checker data for this folder!",
+                           .answer = answer,
+                           .title = "Caution!",
+                           .buttons = Buttons::OkCancel});
+        manager().Command2.click();
+        for (const std::string& name : own) {
+            EXPECT_EQ(data(name), answer == Answer::Ok ? "(missing)" : "x") << name;
+        }
+        EXPECT_EQ(manager().List1.item(0), answer == Answer::Ok ? "1) Empty:" : "1) C:\\Tools\\");
     }
-    pc.files.put(dataFolder + "11.dat", "another slot's");
-    app->mForm1.addRem.click();
-    app->iCust.List1.select(0);
-    pc.dialogs.expect({.text =
-                           "Are you sure you want to remove this folder? Doing so will lose all Integrity "
-                           "Checker data for this folder!",
-                       .answer = Answer::Ok,
-                       .title = "Caution!",
-                       .buttons = Buttons::OkCancel});
-    app->iCust.Command2.click();
-    EXPECT_EQ(app->iCust.List1.item(0), "1) Empty:");
-    EXPECT_EQ(setting(1, "path"), "NULL");
-    for (const char* ending :
-         {".dat", ".bak", "-md4.dat", "-md4.bak", "-md5.dat", "-md5.bak", "-sha1.dat", "-sha1.bak"}) {
-        EXPECT_EQ(file(dataFolder + "1" + ending), "(missing)") << ending;
-    }
-    EXPECT_EQ(data("11.dat"), "another slot's");
+    EXPECT_THAT(data("Tarvelon.dat"), HasSubstr("[1]\r\npath=NULL\r\nargs=0,0,0,0,0,0,0\r\n"));
 }
 
-TEST_F(Folders, AddingIsRefusedForTheDefaultADoubleAndATwentyFirst) {
-    showManager();
-    tells(
+TEST_F(Folders, TwentyAreTakenWithoutTheDefaultAndDoubles) {
+    page().addRem.click();
+    addFolder(
+        R"(c:\windows\SYSTEM32)",
         "This is the default folder that Tarvelon scans. It cannot be added to the Custom Integrity Checker");
-    addFolder(R"(c:\windows\SYSTEM32)");
-    for (int i = 1; i <= 20; ++i) {
-        tells("Folder Added.");
-        addFolder("C:\\F" + std::to_string(i));
+    for (const bool saved : {false, true}) {
+        EXPECT_EQ(manager().List1.item(0), "1) Empty:") << "what was not saved is forgotten";
+        for (int i = 1; i <= 20; ++i) {
+            addFolder("C:\\F" + std::to_string(i));
+        }
+        asks("Do you wish to Save your changes?", saved ? Answer::Yes : Answer::No);
+        if (saved) {
+            tells("Save Successful!");
+        }
+        manager().close();
+        page().addRem.click();
     }
-    EXPECT_EQ(app->iCust.List1.item(19), "20) C:\\F20\\");
-    tells("This folder is already being scanned.");
-    addFolder(R"(c:\f20)");
-    addFolder(R"(C:\F21)");
-    EXPECT_EQ(app->iCust.List1.count(), 20);
-    pc.dialogs.expectFolder({.title = "Please Choose a Folder to Add", .choice = std::nullopt});
-    app->iCust.cButton2.click();
-
-    asks("Do you wish to Save your changes?", Answer::No);
-    pc.files.lock(dataFolder + "Tarvelon.dat"); // No matter by the next opening.
-    app->iCust.close();
-    pc.files.unlock(dataFolder + "Tarvelon.dat");
-    EXPECT_EQ(setting(1, "path"), "NULL");
-    app->mForm1.addRem.click();
-    EXPECT_EQ(app->iCust.List1.item(0), "1) Empty:") << "what was not saved is forgotten";
+    EXPECT_EQ(page().Combo1.items().back(), "C:\\F20\\");
+    addFolder(R"(c:\f20)", "This folder is already being scanned.");
+    pc.dialogs.expectFolder({.title = "Please Choose a Folder to Add", .choice = R"(C:\F21)"});
+    manager().cButton2.click();
+    EXPECT_EQ(manager().List1.items().back(), "20) C:\\F20\\");
+    pc.files.lock(app->globals.app.settFile); // Passed over.
+    clickTelling(manager().Command3, "Save Successful!");
+    EXPECT_FALSE(manager().Visible());
 }
 
 TEST_F(Folders, TypesAreEditedWhileTheirBoxIsTicked) {
-    showManager();
-    tells("Please select a folder to edit its properties!");
-    app->iCust.Check1.click();
-    EXPECT_EQ(app->iCust.Check1.BackColor(), 0x800000u);
-    tells("Folder Added.");
+    ICustScreen& form = manager();
+    page().addRem.click();
+    EXPECT_EQ(form.List2.items(), (Rows{"Scan DLL Files", "Scan DRV Files", "Scan 386, SYS Files",
+                                        "Scan OCX Files", "Scan EXE, COM Files", "Scan SCR, PIF Files!"}));
+    clickTelling(form.Check1, "Please select a folder to edit its properties!");
+    EXPECT_TRUE(form.Check1.BackColor() == 0x800000u && form.Check1.ForeColor() == colors::white);
     addFolder(R"(C:\Tools)");
-    app->iCust.List1.select(1);
-    EXPECT_FALSE(app->iCust.Check1.Enabled()) << "a free slot has no use";
-    app->iCust.List1.select(0);
-    EXPECT_EQ(app->iCust.Label1.Caption(), "Currently Selected: 1) C:\\Tools\\");
-    EXPECT_FALSE(app->iCust.List2.Enabled());
-    app->iCust.Check1.click();
-    EXPECT_TRUE(app->iCust.List2.Enabled());
-    app->iCust.List2.toggle(0);
-    app->iCust.List2.toggle(4);
-    app->iCust.Check2.click();
-    app->iCust.List4.toggle(5);
-    app->iCust.Check2.click();
-    EXPECT_EQ(app->iCust.Check2.BackColor(), 0x0000ffu);
-    EXPECT_FALSE(app->iCust.List4.Enabled());
-    app->iCust.List1.select(2);
-    EXPECT_EQ(app->iCust.Check1.BackColor(), 0x0000ffu) << "the box shows the slot that is selected";
-    asks("Do you wish to Save your changes?", Answer::Yes);
-    tells("Save Successful!");
-    app->iCust.close();
-    EXPECT_EQ(setting(1, "args"), "1,0,0,0,1,0,1");
-    EXPECT_EQ(setting(1, "args2"), "0,0,0,0,0,1,0");
+    form.List1.select(1);
+    EXPECT_FALSE(form.Check1.Enabled() || form.Check2.Enabled()) << "a free slot has no use";
+    form.List1.select(0);
+    EXPECT_EQ(form.Label1.Caption(), "Currently Selected: 1) C:\\Tools\\");
+    EXPECT_FALSE(form.List2.Enabled() || form.List4.Enabled());
+    click(form.Check1, form.Check2);
+    EXPECT_TRUE(form.List2.Enabled() && form.List4.Enabled());
+    form.List2.toggle(0);
+    form.List2.toggle(4);
+    form.List4.toggle(5);
+    form.List1.select(2);
+    EXPECT_TRUE(form.Check2.BackColor() == 0x0000ffu && form.Check2.ForeColor() == colors::black);
+    EXPECT_FALSE(form.List2.ticked(0) || form.List4.ticked(5)) << "the lists are the selected slot's";
+    form.List1.select(0);
+    EXPECT_TRUE(form.List2.ticked(0) && form.List4.ticked(5));
+    form.Check2.click();
+    EXPECT_FALSE(form.List4.Enabled());
+    clickTelling(form.Command3, "Save Successful!");
+    EXPECT_THAT(data("Tarvelon.dat"), HasSubstr("args=1,0,0,0,1,0,1\r\nargs2=0,0,0,0,0,1,0\r\n"));
     EXPECT_EQ(app->globals.scan.customIndex, 1) << "the last folder without a data file";
 
     pc.files.put(dataFolder + "1.dat", "");
-    app->mForm1.Combo1.select(1);
-    std::string ticks;
-    for (const FlatCheck& box : app->mForm1.check) {
-        ticks += std::to_string(box.value());
+    page().Combo1.select(1);
+    std::string digits;
+    for (const FlatCheck& box : page().check) {
+        digits += std::to_string(box.value());
     }
-    EXPECT_EQ(ticks, "100010");
-
-    app->mForm1.addRem.click();
-    EXPECT_EQ(app->iCust.Label1.Caption(), "Currently Selected:") << "closed, it keeps no selection";
-    pc.files.lock(app->globals.app.settFile);
-    tells("Save Successful!");
-    app->iCust.Command3.click();
-    EXPECT_FALSE(app->iCust.Visible()) << "a settings file out of reach is passed over";
+    EXPECT_EQ(digits, "100010");
+    page().addRem.click();
+    EXPECT_EQ(form.Label1.Caption(), "Currently Selected:") << "closed, it keeps no selection";
+    EXPECT_TRUE(form.Check1.Enabled() && !form.Check1.BackColor() && !form.List2.ticked(0));
 }
 
 TEST_F(Folders, ThePageStartsScansOfTheSystemFolder) {
-    app->mForm1.Image5.click();
-    EXPECT_TRUE(app->mForm1.intF.isShown());
-    tells("Please select the files to scan.");
-    app->mForm1.bSCAN.click();
+    click(page().bFULL, page().bCLEAR);
+    clickTelling(page().bSCAN, "Please select the files to scan.");
     pc.files.put(systemFolder + "b.exe", "b");
-    app->mForm1.bEXE.click();
-    app->mForm1.bDLL.click();
-    app->mForm1.bDLL.click();
-    app->mForm1.bSCAN.click();
-    EXPECT_TRUE(app->intCheck.Visible());
-    EXPECT_FALSE(settle());
+    click(page().bEXE, page().bDLL, page().bDLL);
+    scan();
     EXPECT_EQ(app->intCheck.l_dll2.Caption(), "DLL Scan --- Not Scanning");
     EXPECT_EQ(app->intCheck.List1.items(), (Rows{systemFolder + "b.exe *NEW*"}));
-
-    // Starting again with findings on the screen asks for them, and a No leaves them there.
     asks(leaveFindings, Answer::Yes, "Warning");
-    app->mForm1.bSCAN.click();
-    EXPECT_FALSE(settle());
-    EXPECT_EQ(app->intCheck.Label6.Caption(), "1");
-
+    scan();
     asks(leaveFindings, Answer::Yes, "Warning");
     app->intCheck.close();
     EXPECT_FALSE(app->intCheck.Visible());
-}
-
-TEST_F(Folders, EnteringWithoutABaselineOffersToStartOver) {
-    pc.files.remove(dataFolder + "Integrity.dat");
-    pc.files.put(dataFolder + "integrity.bak", "old");
-    asks(fullScanQuestion, Answer::No, "Missing File");
-    app->mForm1.Image5.click();
-    EXPECT_FALSE(app->mForm1.intF.Visible());
-    EXPECT_FALSE(app->mForm1.Frame2.Visible()) << "the bare frame";
-    asks(fullScanQuestion, Answer::Yes, "Missing File");
-    tells("Tarvelon needs to be re-started");
-    EXPECT_TRUE(ends([this] { app->mForm1.Image5.click(); }));
-    EXPECT_EQ(data("integrity.bak"), "(missing)");
-    EXPECT_EQ(pc.processes.started().size(), 1u);
 }
 
 } // namespace

@@ -78,6 +78,28 @@ protected:
     /// Awaits a question with Yes and No.
     void asks(const std::string& text, Answer answer, const std::string& title = "");
 
+    /// Clicks what ends with a box that has an OK.
+    template<class Control>
+    void clickTelling(Control& control, const std::string& text) {
+        tells(text);
+        control.click();
+    }
+
+    template<class... Controls>
+    static void click(Controls&... controls) {
+        (controls.click(), ...);
+    }
+
+    /// The values of check boxes, a digit each.
+    template<class Boxes>
+    static std::string ticks(const Boxes& boxes) {
+        std::string digits;
+        for (const auto* box : boxes) {
+            digits += std::to_string(box->value());
+        }
+        return digits;
+    }
+
     /// The command lines of the programs that were started.
     Rows lines() const;
 

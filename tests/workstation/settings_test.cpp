@@ -1,81 +1,53 @@
-// The settings page and the advanced page, and the shortcuts that they make.
+// The settings page, the advanced page and the wizard, and the shortcuts that they make.
 
 #include "tests/workstation/session.h"
-#include "ui/shortcuts.h"
 
 namespace tarvelon {
 namespace {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
+using testing::EndsWith;
 
+const std::string programsMenu = R"(C:\Documents and Settings\User\Start Menu\Programs\)";
 const std::string startupLink =
     R"(C:\Documents and Settings\All Users\Start Menu\Programs\Startup\Tarvelon.lnk)";
 const std::string desktopLink = R"(C:\Documents and Settings\User\Desktop\SecureShutDown.lnk)";
+const std::string ownLink = programFolder + "SecureShutDown.lnk";
 const std::string program = programFolder + "TarvelonLow.exe";
+const std::string noScanner = "You didn't choose an anti-virus software exe.  We recommend that you get one "
+                              "to take full advantage of Tarvelon";
 
 class SettingsRun : public Session {
 protected:
     void SetUp() override {
-        pc.files.put(program, "program");
-        pc.files.put(dataFolder + "Integrity.dat", "");
+        for (const std::string& path :
+             {program, dataFolder + "Integrity.dat", std::string("C:\\pavcl.exe")}) {
+            pc.files.put(path, "");
+        }
         ASSERT_FALSE(start());
     }
 
-    void openSettings() {
-        app->mForm1.Image11.click();
-        app->mForm1.cSettings.click();
-        ASSERT_TRUE(app->mForm1.qSett.isShown());
-        ASSERT_FALSE(app->mForm1.advF.Visible());
+    MForm1Screen& form() { return app->mForm1; }
+    WizardScreen& wizard() { return app->vDct; }
+
+    void load(const std::string& lines) {
+        pc.files.put(dataFolder + "Tarvelon.dat", "[Tarvelon]\r\n" + lines);
+        form().cButton2.click();
     }
 
-    void openAdvanced() {
-        app->mForm1.Image11.click();
-        app->mForm1.cButton2.click();
-        ASSERT_TRUE(app->mForm1.advF.isShown());
-        ASSERT_FALSE(app->mForm1.qSett.Visible());
-    }
+    void save() { clickTelling(form().cSave, "Settings Saved Successfully"); }
+    void saveAdvanced() { clickTelling(form().cSave2, "Save Success!"); }
 
-    void save() {
-        tells("Settings Saved Successfully");
-        app->mForm1.cSave.click();
-    }
-
-    void saveAdvanced() {
-        tells("Save Success!");
-        app->mForm1.cSave2.click();
-    }
-
-    void createSS(Answer onDesktop, const std::string& notice = "") {
-        pc.dialogs.expect(
-            {.text = "Tarvelon will now create a shortcut for you to use the Secure ShutDown and Scan "
-                     "Feature.\r\nWould you like this shortcut on your Desktop?",
-             .answer = onDesktop,
-             .buttons = Buttons::YesNo});
-        if (!notice.empty()) {
+    void createSS(Answer onDesktop, const Rows& notices) {
+        asks("Tarvelon will now create a shortcut for you to use the Secure ShutDown and Scan "
+             "Feature.\r\nWould you like this shortcut on your Desktop?",
+             onDesktop);
+        for (const std::string& notice : notices) {
             tells(notice);
         }
-        tells("Success!");
-        app->mForm1.cCreateSS.click();
+        form().cCreateSS.click();
     }
 
-    template<class Boxes>
-    static void tick(const Boxes& boxes, const std::string& ticks) {
-        for (std::size_t i = 0; i < boxes.size(); ++i) {
-            boxes[i]->setValue(ticks.at(i) == '1');
-        }
-    }
-
-    template<class Boxes>
-    static std::string ticks(const Boxes& boxes) {
-        std::string text;
-        for (const auto* box : boxes) {
-            text += std::to_string(box->value());
-        }
-        return text;
-    }
-
-    /// The caption of the one chosen option, or empty.
     template<class Choices>
     static std::string chosen(const Choices& choices) {
         std::string captions;
@@ -84,224 +56,246 @@ protected:
         }
         return captions;
     }
+
+    /// The boxes of the settings page, and what the advanced page shows.
+    std::string shown() {
+        return ticks(form().autoLoadChecks) + " " + ticks(form().shutDownChecks) + " " +
+               ticks(form().shellChecks) + " " + chosen(form().bufferOptions) + "," +
+               chosen(form().passOptions) + "," + chosen(form().algorithmOptions) +
+               (form().wsh.value() ? ",WSH" : "");
+    }
+
+    /// The title of the wizard's page, then what stands on it beside texts and ways on.
+    std::string page() {
+        std::string names = wizard().title.Caption();
+        for (const Control* control : wizard().controls()) {
+            if (control->Visible() && control->kind() != ControlKind::Label) {
+                names += ";" + control->Caption();
+            }
+        }
+        return names;
+    }
 };
 
+TEST_F(SettingsRun, ShowWhatTheFileHoldsAsFarAsItCanBeRead) {
+    load("antivirus=C:\\av one.exe| /s /x |y\r\nav2=C:\\b.exe|\r\n");
+    SAvirScreen& scanners = app->s_avir;
+    EXPECT_EQ(scanners.Text5.Caption() + ";" + scanners.Text6.Caption() + ";" + scanners.Text1.Caption(),
+              "C:\\av one.exe;/s /x |y;C:\\b.exe");
+    // One after the other: what a text does not hold, or holds behind a value of no use, stays as it was.
+    const std::pair<const char*, std::string> loadings[] = {
+        {"", "00000000 000000 100 64 Kb,500,CRC32"},
+        {"SETTINGS=1,0,1,0,1,0,1,1,1,1\r\nsettings2=1,0,1,0,1,0,1\r\nadvanced=131072,50,1\r\n"
+         "antivirus2=0,1,1,0\r\nalgo=Md5\r\n",
+         "10101011 101010 011 128 Kb,50,MD5,WSH"},
+        {"settings=0,1,0\r\nsettings2=0,1\r\nantivirus2=1,1\r\nalgo= sha1 \r\n",
+         "01001011 011010 111 128 Kb,50,SHA-1,WSH"},
+        {"advanced=70000,7,0\r\nalgo=rot13\r\n", "01001011 011010 111 ,,"},
+        {"settings=1,1,1\r\nsettings2=1,x,0\r\nadvanced=65536\r\n", "11101011 111010 111 ,,"},
+        {"advanced=65536,500,32768\r\nantivirus2=0,0,0\r\nalgo=MD5\r\n", "11101011 111010 111 64 Kb,500,"},
+        {"antivirus2=0,,0\r\nalgo=MD5\r\n", "11101011 111010 011 64 Kb,500,"}};
+    for (const auto& [lines, expected] : loadings) {
+        load(lines);
+        EXPECT_EQ(shown(), expected) << lines;
+    }
+}
+
 TEST_F(SettingsRun, SaveWritesBothListsAndTheShortcutIsTheAutoLoadSetting) {
-    openSettings();
-    MForm1Screen& form = app->mForm1;
-    EXPECT_EQ(form.Check1.value(), 0);
-    tick(form.autoLoadChecks, "11101101");
-    tick(form.shutDownChecks, "111011");
-    form.Check1.click();
+    load("settings=1,1,1,0,1,1,0,1\r\nsettings2=1,1,1,0,1,1\r\n");
+    form().Check1.click();
     pc.files.remove(dataFolder + "Tarvelon.dat"); // Made again in front of the write.
     save();
-    EXPECT_TRUE(form.qSett.isShown());
-    EXPECT_THAT(data("Tarvelon.dat"), HasSubstr("[Tarvelon]\r\n"
-                                                "settings=1,1,1,0,1,1,0,1\r\n"
-                                                "advanced=65536,500,0\r\n"
-                                                "antivirus=\r\n"
-                                                "av2=\r\n"
-                                                "antivirus2=1,0,0\r\n"
-                                                "algo=crc32\r\n"
-                                                "settings2=1,1,1,0,1,1\r\n"));
-    EXPECT_FALSE(app->globals.settings.autoScanFailed);
-    EXPECT_NE(file(startupLink), "(missing)");
-
-    form.Check8.click();
+    EXPECT_THAT(data("Tarvelon.dat"),
+                HasSubstr("[Tarvelon]\r\nsettings=1,1,1,0,1,1,0,1\r\nadvanced=65536,500,0\r\nantivirus=\r\n"
+                          "av2=\r\nantivirus2=1,0,0\r\nalgo=crc32\r\nsettings2=1,1,1,0,1,1\r\n\r\n[1]\r\n"));
+    EXPECT_THAT(data("Tarvelon.dat"),
+                EndsWith("[20]\r\npath=NULL\r\nargs=0,0,0,0,0,0,0\r\nargs2=0,0,0,0,0,0,0\r\n\r\n"));
+    form().Check8.click();
     pc.files.put(startupLink, "an old link");
     save();
     EXPECT_TRUE(app->globals.settings.autoScanFailed) << "at once";
     EXPECT_NE(file(startupLink), "an old link");
-    EXPECT_EQ(pc.shortcuts.shellLinks().size(), 2u);
 
     pc.files.remove(startupLink);
-    openSettings();
-    EXPECT_EQ(form.Check1.value(), 0) << "removed by hand";
-    form.Check1.click();
+    form().cSettings.click();
+    EXPECT_EQ(form().Check1.value(), 0) << "removed by hand";
+    form().Check1.click();
     save();
-    form.Check1.click();
+    form().Check1.click();
     save();
     EXPECT_EQ(file(startupLink), "(missing)");
+
+    pc.files.lock(dataFolder + "Tarvelon.dat");
+    clickTelling(form().cSave, "The settings file cannot be made:\r\n" + dataFolder + "Tarvelon.dat");
 }
 
-TEST_F(SettingsRun, WhatIsNotSavedIsForgottenAndShortListsLeaveTheRest) {
-    openSettings();
-    MForm1Screen& form = app->mForm1;
-    tick(form.autoLoadChecks, "11111111");
-    form.cCancelSett.click();
-    EXPECT_TRUE(form.setFq.isShown());
-    EXPECT_FALSE(form.settF.Visible());
-    EXPECT_EQ(form.Check7.value(), 1) << "read live until the next loading";
-    openSettings();
-    EXPECT_EQ(ticks(form.autoLoadChecks), "00000000");
-
-    tick(form.autoLoadChecks, "11111111");
-    tick(form.shutDownChecks, "111111");
-    pc.files.put(dataFolder + "Tarvelon.dat", "[Tarvelon]\r\nsettings=0,1,0\r\nsettings2=0,0\r\n");
-    openSettings();
-    EXPECT_EQ(ticks(form.autoLoadChecks), "01011111");
-    EXPECT_EQ(ticks(form.shutDownChecks), "001111");
-}
-
-TEST_F(SettingsRun, BothWaysOfMakingShortcutsDifferInTheirArguments) {
-    openSettings();
-    app->mForm1.Check1.click();
-    save();
-    createSS(Answer::Yes);
-    const auto shellLink = [](const std::string& path, const std::string& arguments) {
+TEST_F(SettingsRun, ShortcutsOfBothKindsAreMadeWhereTheUserSays) {
+    using namespace std::string_literals;
+    const auto link = [](const std::string& path, const std::string& arguments) {
         return MadeShortcut<ShellLink>{path,
                                        {.path = program,
                                         .workingDirectory = "",
                                         .arguments = arguments,
-                                        .description = std::string("Access Shortcut\0", 16),
+                                        .description = "Access Shortcut\0"s,
                                         .iconFile = program,
                                         .iconIndex = 0,
                                         .showCmd = 5,
                                         .resolveFlags = 4}};
     };
-    EXPECT_THAT(pc.shortcuts.shellLinks(),
-                ElementsAre(shellLink(startupLink, " /r"), shellLink(desktopLink, " /s")));
-    EXPECT_THAT(pc.shortcuts.scripted(), IsEmpty());
-
-    pc.files.remove(desktopLink);
-    app->globals.settings.useWsh = 1;
+    form().Check1.click();
     save();
-    createSS(Answer::Yes);
-    using Scripted = MadeShortcut<ScriptedShortcut>;
-    EXPECT_THAT(pc.shortcuts.scripted(),
-                ElementsAre(Scripted{startupLink, {"/r", "Tarvelon", program, 0}},
-                            Scripted{desktopLink, {"/s", "SecureShutDown", program, 0}}));
-    EXPECT_EQ(pc.shortcuts.shellLinks().size(), 2u);
-
-    Platform platform = pc.platform();
-    const CaseRules& cases = app->globals.cases;
-    EXPECT_TRUE(makeShortcutWsh(platform, cases, R"(C:\Page.URL)", "", program, ""));
-    EXPECT_TRUE(makeShortcutWsh(platform, cases, R"(C:\Plain)", "", program, ""));
-    EXPECT_EQ(pc.shortcuts.scripted()[2].path, R"(C:\Page.URL)");
-    EXPECT_EQ(pc.shortcuts.scripted()[3].path, R"(C:\Plain.lnk)");
-    EXPECT_FALSE(makeShortcut(platform, "", program, "", "", "", 0, 1));
-    EXPECT_FALSE(makeShortcut(platform, R"(C:\Empty.lnk)", "", "", "", "", 0, 1));
-    EXPECT_EQ(file(R"(C:\Empty.lnk)"), "(missing)");
+    createSS(Answer::Yes, {"Success!"});
+    load("advanced=65536,500,1\r\n");
+    save();
+    createSS(Answer::Yes, {"Success!"}); // It is there already.
+    createSS(Answer::No,
+             {"Tarvelon will now create a SecureShutDown shortcut in your Tarvelon directory.", "Success!"});
+    pc.files.remove(ownLink);
+    pc.folders.special.erase(0);
+    createSS(
+        Answer::Yes,
+        {"Error: Could not find Desktop directory...Creating shortcut in Tarvelon directory.", "Success!"});
+    EXPECT_THAT(pc.shortcuts.shellLinks(), ElementsAre(link(startupLink, " /r"), link(desktopLink, " /s")));
+    const MadeShortcut<ScriptedShortcut> own{ownLink, {"/s", "SecureShutDown", program, 0}};
+    const MadeShortcut<ScriptedShortcut> startup{startupLink, {"/r", "Tarvelon", program, 0}};
+    EXPECT_THAT(pc.shortcuts.scripted(), ElementsAre(startup, own, own));
 }
 
 TEST_F(SettingsRun, AShortcutThatCannotBeMadeIsOnlyMissing) {
-    openSettings();
     const auto checkAfterSaving = [this] {
-        app->mForm1.Check1.setValue(true);
+        form().Check1.setValue(true);
         save();
-        openSettings();
-        return app->mForm1.Check1.value();
+        form().cSettings.click();
+        return form().Check1.value();
     };
     pc.faults.failAlways(Operation::SaveShellLink);
     EXPECT_EQ(checkAfterSaving(), 0);
-    pc.shortcuts.hasScriptingHost = false;
-    pc.files.put(dataFolder + "Tarvelon.dat", "[Tarvelon]\r\nadvanced=65536,500,1\r\n");
-    openSettings();
-    EXPECT_EQ(checkAfterSaving(), 0);
-
-    pc.shortcuts.hasScriptingHost = true;
+    load("advanced=65536,500,1\r\n");
     pc.folders.special.erase(24);
     EXPECT_EQ(checkAfterSaving(), 0) << "no StartUp folder in that of the programs";
-    pc.files.makeFolders(R"(C:\Documents and Settings\User\Start Menu\Programs\StartUp\)");
-    EXPECT_EQ(checkAfterSaving(), 1);
-
-    const std::string link = R"(C:\Documents and Settings\User\Start Menu\Programs\StartUp\Tarvelon.lnk)";
+    const std::string link = programsMenu + "StartUp\\Tarvelon.lnk";
     pc.files.put(link, "of somebody else");
     pc.files.denyWrites(link);
     EXPECT_EQ(checkAfterSaving(), 1);
     EXPECT_EQ(file(link), "of somebody else");
 }
 
-TEST_F(SettingsRun, TheShutDownShortcutGoesWhereTheUserSays) {
-    app->mForm1.Image11.click();
-    const std::string ownLink = programFolder + "SecureShutDown.lnk";
-    createSS(Answer::No, "Tarvelon will now create a SecureShutDown shortcut in your Tarvelon directory.");
-    EXPECT_NE(file(ownLink), "(missing)");
-    EXPECT_EQ(file(desktopLink), "(missing)");
-
-    pc.files.put(desktopLink, "there already");
-    createSS(Answer::Yes);
-    EXPECT_EQ(file(desktopLink), "there already");
-
-    pc.files.remove(ownLink);
-    pc.folders.special.erase(0);
-    createSS(Answer::Yes,
-             "Error: Could not find Desktop directory...Creating shortcut in Tarvelon directory.");
-    EXPECT_NE(file(ownLink), "(missing)");
-}
-
-TEST_F(SettingsRun, TheAdvancedPageShowsWhatIsInForceAndSavesWhatIsPicked) {
-    MForm1Screen& form = app->mForm1;
-    openAdvanced();
-    EXPECT_EQ(chosen(form.bufferOptions) + "|" + chosen(form.passOptions) + "|" +
-                  chosen(form.algorithmOptions),
-              "64 Kb|500|CRC32");
-    for (Control* option : {&form.Option2, &form.Option5, &form.Option13}) {
-        static_cast<OptionButton*>(option)->click();
-    }
-    form.wsh.click();
-    form.Check11.click();
-    form.avfocus.click();
+TEST_F(SettingsRun, TheAdvancedPageSavesWhatIsPickedAndKeepsWhatItDoesNotOffer) {
+    load("antivirus2=1,0,0\r\n");
+    click(form().Option2, form().Option5, form().Option13, form().wsh, form().Check11, form().avfocus);
     saveAdvanced();
-    const std::string saved = data("Tarvelon.dat");
-    EXPECT_THAT(saved, HasSubstr("\r\nadvanced=131072,99999,1\r\n"));
-    EXPECT_THAT(saved, HasSubstr("\r\nantivirus2=1,1,1\r\nalgo=SHA1\r\n"));
+    EXPECT_EQ(data("Tarvelon.dat"),
+              "[Tarvelon]\r\nantivirus2=1,1,1\r\nadvanced=131072,99999,1\r\nalgo=SHA1\r\n");
     EXPECT_FALSE(app->globals.settings.shortPaths) << "follows at the next loading";
-    openAdvanced();
+    load("advanced=70000,7,0\r\nantivirus2=1,1,1\r\nalgo=rot13\r\n");
     EXPECT_TRUE(app->globals.settings.shortPaths);
-    EXPECT_EQ(chosen(form.bufferOptions) + "|" + chosen(form.passOptions) + "|" +
-                  chosen(form.algorithmOptions),
-              "128 Kb|Pass All Files|SHA-1");
-    EXPECT_EQ(form.wsh.value(), 1);
-
-    form.Option3.click();
-    form.cButton1.click();
-    EXPECT_TRUE(form.setFq.isShown());
-    pc.files.put(dataFolder + "Tarvelon.dat", "[Tarvelon]\r\nadvanced=70000,7,0\r\nalgo=rot13\r\n");
-    openAdvanced();
-    EXPECT_EQ(chosen(form.bufferOptions) + chosen(form.passOptions) + chosen(form.algorithmOptions), "");
     saveAdvanced();
-    EXPECT_THAT(data("Tarvelon.dat"), HasSubstr("advanced=70000,7,0\r\nalgo=rot13\r\n"))
-        << "other values last until an option is picked";
+    EXPECT_THAT(data("Tarvelon.dat"), HasSubstr("advanced=70000,7,0\r\nantivirus2=1,1,1\r\nalgo=rot13\r\n"));
 }
 
 TEST_F(SettingsRun, AnotherAlgorithmNeedsAFullScanOfItsOwn) {
-    openAdvanced();
-    app->mForm1.Option12.click();
+    pc.files.put(dataFolder + "Integrity-md5.bak", "old");
+    form().Option12.click();
     saveAdvanced();
-    EXPECT_EQ(app->globals.app.intFile, dataFolder + "Integrity-md5.dat");
-    EXPECT_EQ(data("Integrity.dat"), "");
     asks(fullScanQuestion, Answer::No, "Missing File");
-    app->mForm1.Image5.click();
-    EXPECT_FALSE(app->mForm1.intF.Visible());
-
-    openAdvanced();
-    app->mForm1.Option11.click();
-    saveAdvanced();
-    app->mForm1.Image5.click();
-    EXPECT_TRUE(app->mForm1.intF.isShown());
+    form().Image5.click();
+    EXPECT_FALSE(form().intF.Visible() || form().Frame2.Visible()) << "the bare window";
+    asks(fullScanQuestion, Answer::Yes, "Missing File");
+    tells("Tarvelon needs to be re-started");
+    EXPECT_TRUE(ends([this] { form().Image5.click(); }));
+    EXPECT_EQ(data("Integrity-md5.bak"), "(missing)");
+    EXPECT_EQ(lines(), Rows{program});
 }
 
 TEST_F(SettingsRun, TheWarningFollowsClicksOnly) {
-    MForm1Screen& form = app->mForm1;
-    pc.files.put(dataFolder + "Tarvelon.dat", "[Tarvelon]\r\nantivirus2=0,0,0\r\n");
-    openAdvanced();
-    EXPECT_FALSE(form.Label1.Visible()) << "not by opening the page";
-    for (const auto& [clicked, other] :
-         {std::pair(&form.Check10, &form.Check11), std::pair(&form.Check11, &form.Check10)}) {
-        SCOPED_TRACE(clicked->Caption());
+    load("antivirus2=0,0,0\r\n");
+    CheckBox& quotes = form().Check10;
+    CheckBox& names = form().Check11;
+    std::string warned = form().Label1.Visible() ? "!" : "-";
+    for (CheckBox* clicked : {&quotes, &quotes, &names, &quotes, &quotes, &names, &quotes, &names, &names}) {
         clicked->click();
-        EXPECT_FALSE(form.Label1.Visible());
-        clicked->click();
-        EXPECT_TRUE(form.Label1.Visible());
-        other->click();
-        EXPECT_FALSE(form.Label1.Visible());
-        clicked->click();
-        form.Label1.Visible = true;
-        clicked->click();
-        EXPECT_TRUE(form.Label1.Visible()) << "left as it is while the other is ticked";
-        other->click();
+        warned += form().Label1.Visible() ? "!" : "-";
     }
+    EXPECT_EQ(warned, "--!---!---") << "only by clearing the last one, not by opening the page";
+}
+
+TEST_F(SettingsRun, TheWizardHasNinePagesFromWelcomeToDone) {
+    load("settings=0,1,0,0,0,1,0,1\r\n");
+    const std::string pages[] = {
+        "Welcome to the Setup Wizard",
+        "Anti-Virus Setup (1/2);Anti-Virus Path;Locate...;;Help Me!",
+        "Anti-Virus Setup (2/2);Test It!",
+        "Main Settings (1/3);Enable Auto-Load (Highly Recommended)",
+        "Main Settings (2/3);Check DLL (Dynamic Linked Libraries);Check DRV (Drivers);Check SYS (System "
+        "files);Check OCX (ActiveX);Check EXE (Executables);Check SCR,PIF (Commonly Exploited File Types)",
+        "Main Settings (3/3);Enable Auto-Scan",
+        "Other Settings (1/2);Enable Logging Feature",
+        "Other Settings (2/2);Create Shutdown/Scan shortcut",
+        "You're done!;Save"};
+    std::string texts;
+    for (const std::string& expected : pages) {
+        form().cSetW.click(); // Asked for again, it stays where it is.
+        EXPECT_EQ(page(), expected);
+        EXPECT_EQ(wizard().Label2.Visible(), expected != pages[0]);
+        EXPECT_EQ(wizard().Label1.Visible(), expected != pages[8]);
+        texts += wizard().desc.Caption() + "\n";
+        if (expected == pages[2]) {
+            tells(noScanner);
+        }
+        wizard().Label1.click();
+    }
+    EXPECT_EQ(ticks(wizard().settingChecks), "01000101");
+    EXPECT_EQ(crcText(texts), "501A93E8") << "settled to the letter:\n" << texts;
+
+    click(wizard().Label2, wizard().Label2);
+    EXPECT_EQ(page(), pages[7]);
+    pc.messages.advance(95'000);
+    wizard().Label1.click();
+    EXPECT_THAT(wizard().desc.Caption(), EndsWith("This setup took: 2 minutes to complete."));
+    for (const Answer answer : {Answer::No, Answer::Yes}) {
+        asks("Are you sure you want to disregard all changes and exit the setup wizard?", answer);
+        wizard().Label3.click();
+        EXPECT_EQ(wizard().Visible(), answer == Answer::No);
+    }
+}
+
+TEST_F(SettingsRun, TheWizardWritesTheSettingsAndTheShortcut) {
+    load("settings=0,1,0,0,0,1,0,1\r\n");
+    form().cSetW.click();
+    pc.dialogs.expectOpenFile({.title = "Choose Anti-Virus Executable File", .choice = R"(C:\pavcl.exe)"});
+    click(wizard().locate, wizard().aload, wizard().Check1, wizard().Check6);
+    EXPECT_EQ(app->s_avir.Text6.Caption(), "/NSB /NOM /AUT");
+    clickTelling(wizard().Command2, "Settings Saved Successfully!");
+    EXPECT_FALSE(wizard().Visible());
+    EXPECT_EQ(data("Tarvelon.dat"),
+              "[Tarvelon]\r\nsettings=1,1,0,0,0,1,1,1\r\nantivirus=C:\\pavcl.exe|/NSB /NOM /AUT\r\n");
+    EXPECT_TRUE(app->globals.settings.autoScanFailed);
+    EXPECT_NE(file(startupLink), "(missing)");
+
+    form().cSetW.click();
+    wizard().aload.click();
+    wizard().vpath.typed("");
+    tells(noScanner);
+    clickTelling(wizard().Command2, "Settings Saved Successfully!");
+    EXPECT_EQ(file(startupLink), "(missing)");
+    EXPECT_THAT(data("Tarvelon.dat"), EndsWith("antivirus=Anti-Virus Software| \r\n"));
+}
+
+TEST_F(SettingsRun, TheWizardsLabelsLightUpOneAtATime) {
+    Label& next = wizard().Label1;
+    Label& cancel = wizard().Label3;
+    next.onMouseMove();
+    EXPECT_EQ(next.ForeColor(), 0xff0000u);
+    cancel.onMouseMove();
+    EXPECT_TRUE(cancel.Underlined() && !next.Underlined());
+    cancel.mouseDown();
+    EXPECT_EQ(cancel.ForeColor(), 0xff8080u);
+    cancel.mouseUp();
+    EXPECT_TRUE(cancel.ForeColor() == colors::black && !cancel.Underlined());
+    cancel.onMouseMove();
+    EXPECT_TRUE(cancel.Underlined()) << "lit again after a release";
+    wizard().onMouseMove();
+    EXPECT_FALSE(cancel.Underlined());
 }
 
 } // namespace
