@@ -25,25 +25,22 @@ protected:
 };
 
 TEST_F(DataFiles, EntriesAreFoundInSectionsCutAtTheirHeads) {
-    struct Look {
-        std::string text, section, name, value;
-        std::size_t sectionNumber = 0; ///< 0 when it is not found.
-    };
     const std::string entries =
-        nineSections("KERNEL32.dll= A B *E\r\na=b.dll=3=4*E\r\nopen.dll=5\r\nz.dll=6*E\r\n");
-    for (const Look& look : {Look{entries, "dll", "kernel32.DLL", "A B", 1},
-                             {entries, "DLL", "a=b.dll", "3=4", 1},
-                             {entries, "DLL", "open.dll", "5\r\nz.dll=6", 1}, // Up to the next end mark.
-                             {entries, "SCR", "kernel32.dll", "", 9},
-                             {header, "DLL", "kernel32.dll", ""},
-                             // A line that begins with "[" splits its section, and the tenth is not seen.
-                             {nineSections("a.dll=1*E\r\n[x].dll=2*E\r\n"), "DRV", "a.dll", "", 3},
-                             {nineSections("a.dll=1*E\r\n[x].dll=2*E\r\n"), "SCR", "a.dll", ""},
-                             {"[unclosed\r\n[DLL]\r\na.dll=7*E\r\n", "DLL", "A.DLL", "7", 2}}) {
-        pc.files.put(path, look.text);
+        nineSections("KERNEL32.dll= A B *E\r\na=b.dll=3=4*E\r\no.dll=5\r\nz.dll=6*E\r\n");
+    const std::string split = nineSections("a.dll=1*E\r\n[x].dll=2*E\r\n"); // By the "[", which makes ten.
+    for (const auto& [text, section, number, name, value] :
+         {std::tuple(entries, "dll", 1u, "kernel32.DLL", "A B"),
+          {entries, "DLL", 1u, "a=b.dll", "3=4"},
+          {entries, "DLL", 1u, "o.dll", "5\r\nz.dll=6"}, // Up to the next end mark.
+          {entries, "SCR", 9u, "kernel32.dll", ""},
+          {header, "DLL", 0u, "kernel32.dll", ""},
+          {split, "DRV", 3u, "a.dll", ""},
+          {split, "SCR", 0u, "a.dll", ""},
+          {"[unclosed\r\n[DLL]\r\na.dll=7*E\r\n", "DLL", 2u, "A.DLL", "7"}}) {
+        pc.files.put(path, text);
         app->dataFile.loadIntFile(path);
-        EXPECT_EQ(app->dataFile.getEntry(look.name, look.section), look.value);
-        EXPECT_EQ(app->settingsFile.findSection(look.section).value_or(0), look.sectionNumber) << look.text;
+        EXPECT_EQ(app->settingsFile.findSection(section).value_or(0), number) << text;
+        EXPECT_EQ(app->dataFile.getEntry(name, section), value);
     }
 }
 

@@ -200,8 +200,8 @@ TEST_F(RegistryWatch, OneFileOrAllGoToTheScannersAndAllIsAccepted) {
                   R"( "C:\WINDOWS\notepad.exe" "C:\WINDOWS\system\old.drv" "C:\Program.exe")"
                   R"( "C:\WINDOWS\a.exe" "%SystemRoot%\b.exe" "C:\double\x.exe" "%windir%\c.exe")");
     EXPECT_THAT(data("Log\\03-05-2006(3_04_07PM).log"),
-                HasSubstr("Registry Action - Scan and Update Multiple "
-                          "Entries,C:\\WINDOWS\\system32\\found.exe,,C:\\a,b\\x.exe,"));
+                testing::StartsWith("Registry Action - Scan and Update Multiple "
+                                    "Entries,C:\\WINDOWS\\system32\\found.exe,,C:\\a,b\\x.exe,"));
     EXPECT_EQ(refresh(), noWarnings);
 
     set(machine, run, "gone.exe", "changed.exe");
@@ -240,9 +240,10 @@ TEST_F(RegistryWatch, PendingOperationsAreShownAndScanned) {
     EXPECT_EQ(form().Command11.Caption(), "Scan all Files for Viruses");
     form().Command11.click();
     EXPECT_EQ(lines().at(0), "C:\\av.exe /s  \"C:\\T\\X.TMP\" \"C:\\B.DLL\"  \"C:\\a.tmp\" \"C:\\b.tmp\" ");
-    EXPECT_THAT(data("Log\\03-05-2006(3_04_07PM).log"),
-                HasSubstr("Precautionary Scan - These files were to be renamed/deleted/overwritten at "
-                          "startup,C:\\T\\X.TMP,"));
+    EXPECT_THAT(
+        data("Log\\03-05-2006(3_04_07PM).log"),
+        testing::StartsWith("Precautionary Scan - These files were to be renamed/deleted/overwritten at "
+                            "startup,C:\\T\\X.TMP,"));
     pending("\\??\\C:\\" + std::string(300, 'x'));
     EXPECT_EQ(form().List6.count(), 4) << "a value of more than 256 bytes reads as empty";
     form().Command1.click();
