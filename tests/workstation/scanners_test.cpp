@@ -43,8 +43,7 @@ TEST_F(Scanners, AChoiceBringsArgumentsByTheFirstScannersNameAndIsStored) {
     choose(form().cChoose, R"(C:\Pavcl\x.com)");
     EXPECT_EQ(form().Text6.Caption(), "/NSB /NOM /AUT");
     choose(form().cChoose, R"(C:\Tools\other.exe)");
-    tells("Save Success!");
-    form().cButton3.click();
+    clickTelling(form().cButton3, "Save Success!");
     EXPECT_FALSE(form().Visible());
     ASSERT_FALSE(start());
     EXPECT_EQ(fields(), R"(C:\Tools\other.exe||C:\Tools\other.exe|/HEUR:3)");
@@ -53,8 +52,7 @@ TEST_F(Scanners, AChoiceBringsArgumentsByTheFirstScannersNameAndIsStored) {
     form().Text1.typed(R"(C:\gone.exe)");
     tells("You didn't choose an anti-virus software exe.  We recommend that you get one to take full "
           "advantage of Tarvelon");
-    tells("Save Success!");
-    form().cButton3.click();
+    clickTelling(form().cButton3, "Save Success!");
     EXPECT_THAT(data("Tarvelon.dat"), HasSubstr("antivirus=Anti-Virus Software| \r\nav2=|\r\n"));
 }
 
@@ -68,8 +66,7 @@ TEST_F(Scanners, TheCatalogueSearchesTestsAndHandsOver) {
         help.List1.select(row);
         tells("Tarvelon may become unresponsive during the file search. This is normal.\r\rClick OK to "
               "continue.");
-        tells(outcome);
-        help.Command4.click();
+        clickTelling(help.Command4, outcome);
         return help.Command2.Enabled() ? help.Text2.Caption() : "(none)" + help.Text2.Caption();
     };
     const std::string notFound =
@@ -78,14 +75,14 @@ TEST_F(Scanners, TheCatalogueSearchesTestsAndHandsOver) {
     EXPECT_EQ(search(15, notFound), "(none)");
     EXPECT_EQ(search(13, "Success!"), exe);
     pc.files.remove(exe);
-    tells("You must choose a virus scanner before you proceed!");
-    help.Command2.click();
+    clickTelling(help.Command2, "You must choose a virus scanner before you proceed!");
     EXPECT_FALSE(help.Command3.Enabled());
     pc.files.put(exe, "");
-    tells("Tarvelon will now attempt to scan two files. If the Virus-Scanner you selected scans both files, "
-          "then it is fully compatible with Tarvelon! If not, make sure you chose the correct EXE file in "
-          "your anti-virus folder.");
-    help.Command2.click();
+    clickTelling(
+        help.Command2,
+        "Tarvelon will now attempt to scan two files. If the Virus-Scanner you selected scans both files, "
+        "then it is fully compatible with Tarvelon! If not, make sure you chose the correct EXE file in "
+        "your anti-virus folder.");
     EXPECT_EQ(lines().back(),
               exe + " \"" + dataFolder + "Tarvelon.dat\" \"" + dataFolder + "Integrity.dat\"");
     help.Command3.click();
@@ -99,10 +96,11 @@ TEST_F(Scanners, TheCatalogueSearchesTestsAndHandsOver) {
     EXPECT_EQ(app->vDct.vpath.Caption() + app->vDct.varg.Caption(), exe + "/HEUR:3");
 
     form().chlpFind.click();
-    tells("There is a very good chance that your anti-virus software is compatible.  As long as it supports "
-          "command line arguments, then it will work.\rTarvelon will now send you to the web site of "
-          "Quillfen.\r\rSimply click on Tarvelon, and click on Anti-Virus support.");
-    help.Command1.click();
+    clickTelling(
+        help.Command1,
+        "There is a very good chance that your anti-virus software is compatible.  As long as it supports "
+        "command line arguments, then it will work.\rTarvelon will now send you to the web site of "
+        "Quillfen.\r\rSimply click on Tarvelon, and click on Anti-Virus support.");
     EXPECT_EQ(pc.shell.opened().size(), 1u);
 }
 
