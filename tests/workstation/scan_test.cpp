@@ -1,5 +1,7 @@
-// Scans: what they take in, how they sort it and are left, and what becomes of their findings.
+// Scans: what they take in, how they sort it and are left, and what becomes of their findings; and the
+// baselines, in which the findings end.
 
+#include "core/failure.h"
 #include "tests/workstation/session.h"
 
 namespace tarvelon {
@@ -326,6 +328,72 @@ TEST_F(Scan, ReportNamesFollowTheRegionalForms) {
         pc.clock.time = time;
         EXPECT_EQ(app->logFiles.fileName(), dataFolder + "Log\\" + name);
     }
+}
+
+class DataFiles : public Scan {
+protected:
+    void SetUp() override { live({}, {}); }
+
+    /// The empty baseline, with these entries in its first section.
+    std::string with(const std::string& entries) const {
+        return replaceExact(before, "[DLL]\r\n", "[DLL]\r\n" + entries);
+    }
+
+    const std::string path = dataFolder + "Integrity.dat";
+};
+
+TEST_F(DataFiles, EntriesAreFoundInSectionsCutAtTheirHeads) {
+    const std::string entries = with("KERNEL32.dll= A B *E\r\na=b.dll=3=4*E\r\no.dll=5\r\nz.dll=6*E\r\n");
+    const std::string split = with("a.dll=1*E\r\n[x].dll=2*E\r\n"); // By the "[", which makes ten.
+    for (const auto& [text, section, number, name, value] :
+         {std::tuple(entries, "dll", 1u, "kernel32.DLL", "A B"),
+          {entries, "DLL", 1u, "a=b.dll", "3=4"},
+          {entries, "DLL", 1u, "o.dll", "5\r\nz.dll=6"}, // Up to the next end mark.
+          {entries, "SCR", 9u, "kernel32.dll", ""},
+          {"", "DLL", 0u, "kernel32.dll", ""},
+          {split, "DRV", 3u, "a.dll", ""},
+          {split, "SCR", 0u, "a.dll", ""},
+          {"[unclosed\r\n[DLL]\r\na.dll=7*E\r\n", "DLL", 2u, "A.DLL", "7"}}) {
+        pc.files.put(path, text);
+        app->dataFile.loadIntFile(path);
+        EXPECT_EQ(app->settingsFile.findSection(section).value_or(0), number) << text;
+        EXPECT_EQ(app->dataFile.getEntry(name, section), value);
+    }
+}
+
+TEST_F(DataFiles, SavingKeepsTheOldFileAndLosesNothingWhenItFails) {
+    const std::string after = replaceExact(with("new.dll=1*E\r\n"), "\r\n\r\n", "\r\n");
+    app->settingsFile.writeEntry(path, "new.dll", "1*E", "DLL");
+    app->dataFile.saveIntFile();
+    EXPECT_EQ(data("Integrity.dat"), after);
+    EXPECT_EQ(data("integrity.bak"), before);
+    pc.faults.failNth(Operation::WriteFile, 1);
+    EXPECT_THROW(app->dataFile.saveIntFile(), Failure);
+    pc.faults.failNth(Operation::MoveFile, 2);
+    EXPECT_THROW(app->dataFile.saveIntFile(), Failure);
+    EXPECT_EQ(data("Integrity.dat"), after);
+}
+
+TEST_F(DataFiles, ACustomFoldersMissingFileIsRestoredOrBuilt) {
+    const std::string custom = dataFolder + "7.dat", backup = dataFolder + "7.bak";
+    const std::string question = "The data file is missing! Would you like to use the backup?";
+    pc.files.put(backup, with("a.dll=1*E\r\n"));
+    asks(question, Answer::Yes, ".Dat file Missing!");
+    EXPECT_TRUE(app->dataFile.loadCustomDat(custom));
+    EXPECT_EQ(app->dataFile.getCustomEntry("a.dll", "DLL"), "1");
+
+    pc.files.remove(custom);
+    pc.files.put(R"(C:\Tools\b.dll)", "b");
+    app->settingsFile.writeEntry(dataFolder + "Tarvelon.dat", "path", R"(C:\Tools\)", "7");
+    asks(question, Answer::No, ".Dat file Missing!");
+    app->globals.app.autoLoadRun = true; // Builds it unasked.
+    pc.faults.failNth(Operation::MoveFile, 2);
+    EXPECT_THAT([&] { app->dataFile.loadCustomDat(custom); },
+                testing::ThrowsMessage<Failure>("The data file cannot be written:\r\n" + custom));
+    EXPECT_EQ(file(custom), "(missing)") << "an empty file would count as scanned";
+    pc.files.remove(backup);
+    EXPECT_TRUE(app->dataFile.loadCustomDat(custom));
+    EXPECT_EQ(file(custom), with("b.dll=NULL*E\r\n"));
 }
 
 } // namespace
