@@ -20,10 +20,8 @@ const std::string noScanner = "You didn't choose an anti-virus software exe.  We
 class SettingsRun : public Session {
 protected:
     void SetUp() override {
-        for (const std::string& path :
-             {program, dataFolder + "Integrity.dat", std::string("C:\\pavcl.exe")}) {
-            pc.files.put(path, "");
-        }
+        pc.files.put(dataFolder + "Integrity.dat", "");
+        pc.files.put(R"(C:\pavcl.exe)", "");
         ASSERT_FALSE(start());
     }
 
@@ -163,25 +161,12 @@ TEST_F(SettingsRun, TheAdvancedPageSavesWhatIsPickedAndKeepsWhatItDoesNotOffer) 
     saveAdvanced();
     EXPECT_THAT(data("Tarvelon.dat"), HasSubstr("\r\nadvanced=131072,99999,1\r\nantivirus=\r\nav2=\r\n"
                                                 "antivirus2=1,1,1\r\nalgo=SHA1\r\n"));
+    EXPECT_EQ(app->globals.app.intFile, dataFolder + "Integrity-sha1.dat");
     EXPECT_FALSE(app->globals.settings.shortPaths) << "follows at the next loading";
     load("advanced=70000,7,0\r\nantivirus2=1,1,1\r\nalgo=rot13\r\n");
     EXPECT_TRUE(app->globals.settings.shortPaths);
     saveAdvanced();
     EXPECT_THAT(data("Tarvelon.dat"), HasSubstr("advanced=70000,7,0\r\nantivirus2=1,1,1\r\nalgo=rot13\r\n"));
-}
-
-TEST_F(SettingsRun, AnotherAlgorithmNeedsAFullScanOfItsOwn) {
-    pc.files.put(dataFolder + "Integrity-md5.bak", "old");
-    form().Option12.click();
-    saveAdvanced();
-    asks(fullScanQuestion, Answer::No, "Missing File");
-    form().Image5.click();
-    EXPECT_FALSE(form().intF.Visible() || form().Frame2.Visible()) << "the bare window";
-    asks(fullScanQuestion, Answer::Yes, "Missing File");
-    tells("Tarvelon needs to be re-started");
-    EXPECT_TRUE(ends([this] { form().Image5.click(); }));
-    EXPECT_EQ(data("Integrity-md5.bak"), "(missing)");
-    EXPECT_EQ(lines(), Rows{program});
 }
 
 TEST_F(SettingsRun, TheWarningFollowsClicksOnly) {

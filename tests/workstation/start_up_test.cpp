@@ -65,8 +65,14 @@ TEST_F(StartUpRun, ABackupOfTheAlgorithmInForceIsRestoredOrDroppedForGood) {
     tells("Tarvelon needs to be re-started");
     EXPECT_TRUE(ends([this] { form().bSCAN.click(); }));
     EXPECT_EQ(data("Integrity-md5.bak"), "(missing)");
-    EXPECT_EQ(pc.processes.started().at(0),
-              (StartedProcess{programFolder + "TarvelonLow.exe", WindowStyle::MinimizedFocus}));
+    asks(fullScanQuestion, Answer::No, "Missing File");
+    form().Image5.click();
+    EXPECT_FALSE(form().intF.Visible() || form().Frame2.Visible()) << "the bare window";
+    asks(fullScanQuestion, Answer::Yes, "Missing File");
+    tells("Tarvelon needs to be re-started");
+    EXPECT_TRUE(ends([this] { form().Image5.click(); }));
+    const StartedProcess again{programFolder + "TarvelonLow.exe", WindowStyle::MinimizedFocus};
+    EXPECT_EQ(pc.processes.started(), (std::vector<StartedProcess>{again, again}));
 }
 
 TEST_F(StartUpRun, LeavingThePrimaryScanDeletesTheFileAndEnds) {
@@ -77,12 +83,10 @@ TEST_F(StartUpRun, LeavingThePrimaryScanDeletesTheFileAndEnds) {
     start();
     pc.messages.when([this] { return treated("3"); }, [this] { app->intCheck.Image11.click(); });
     pc.messages.when([this] { return treated("7"); }, [this] { app->intCheck.close(); });
-    for (const Answer answer : {Answer::No, Answer::Yes}) {
-        asks("If you stop the scan now, you will need to re-start it later\r\nAre you sure you want to "
-             "abandon "
-             "the full system scan?",
-             answer);
-    }
+    const std::string question = "If you stop the scan now, you will need to re-start it later\r\n"
+                                 "Are you sure you want to abandon the full system scan?";
+    asks(question, Answer::No);
+    asks(question, Answer::Yes);
     EXPECT_TRUE(settle());
     EXPECT_EQ(data("Integrity.dat"), "(missing)");
     EXPECT_TRUE(treated("7")) << "refused once, the scan went on";
@@ -92,11 +96,13 @@ TEST_F(StartUpRun, RefusedTwiceLeavesSwitchesWithoutUseAndElseAnOpenWindow) {
     const std::string damaged = "[Tarvelon]\r\nsettings=" + std::string(1 << 20, 'x');
     pc.files.put(dataFolder + "Tarvelon.dat", damaged);
     const std::string unfinished = "Primary Full Scan has not yet been completed.\r\nClosing";
-    for (const auto& [typed, message] : {std::pair<const char*, std::string>{"", ""},
-                                         {"/r /s", ""},
-                                         {"/r", "Cannot start Auto-Load.  " + unfinished},
-                                         {" /s ", "Cannot start Secure Shut Down.  " + unfinished + "."},
-                                         {"/a", "Cannot run Scheduled Scan.  " + unfinished + "."}}) {
+    const std::pair<const char*, std::string> switches[] = {
+        {"", ""},
+        {"/r /s", ""},
+        {"/r", "Cannot start Auto-Load.  " + unfinished},
+        {" /s ", "Cannot start Secure Shut Down.  " + unfinished + "."},
+        {"/a", "Cannot run Scheduled Scan.  " + unfinished + "."}};
+    for (const auto& [typed, message] : switches) {
         for (int i = 0; i < 2; ++i) {
             asks(firstRunQuestion, Answer::No);
             tells(firstRunRefused);
@@ -133,6 +139,9 @@ TEST_F(StartUpRun, EveryEntryOpensItsPageAndNoOther) {
     opens(window.cSettings, window.qSett);
     opens(window.cCancelSett, window.setFq);
     opens(window.cButton7, window.Frame2);
+    window.Check1.mouseMoveLabel();
+    window.qSett.onMouseMove();
+    EXPECT_FALSE(window.Check1.hovered());
     EXPECT_EQ(window.Label33.Caption(), "Version: 2.1.3");
     EXPECT_TRUE(ends([&] { window.cButton9.click(); }));
 }
@@ -164,11 +173,9 @@ TEST_F(StartUpRun, ButtonsLeadToTheHelpTheMakerAndTheUpdates) {
     click(window.cButton4, window.cButton5, window.Label37);
     pc.files.put(programFolder + "Help\\index.html", "");
     window.chlp.click();
-    Rows opened;
-    for (const OpenedDocument& document : pc.shell.opened()) {
-        opened.push_back(document.folder + document.file);
-    }
-    EXPECT_EQ(opened, (Rows{page, page, page + "orbexa/", mail, programFolder + "Help\\index.html"}));
+    const std::vector<OpenedDocument> expected{
+        {page, ""}, {page, ""}, {page + "orbexa/", ""}, {mail, ""}, {"index.html", programFolder + "Help\\"}};
+    EXPECT_EQ(pc.shell.opened(), expected);
     pc.registry.setText(Registry::localMachine,
                         R"(SOFTWARE\Microsoft\Windows\CurrentVersion\Uninstall\Orbexa_is1)",
                         "Inno Setup: App Path", R"(C:\Orbexa)");
