@@ -47,6 +47,9 @@ void Session::putSettings(const SettingsText& text) {
 }
 
 void Session::tells(const std::string& text, const std::string& title) {
+    if (text.empty()) {
+        return;
+    }
     pc.dialogs.expect({.text = text, .title = title, .buttons = Buttons::Ok});
 }
 

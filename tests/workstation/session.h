@@ -72,7 +72,7 @@ protected:
 
     void putSettings(const SettingsText& text);
 
-    /// Awaits a box with an OK.
+    /// Awaits a box with an OK; without a text, none.
     void tells(const std::string& text, const std::string& title = "");
 
     /// Awaits a question with Yes and No.

@@ -107,9 +107,7 @@ TEST_F(StartUpRun, RefusedTwiceLeavesSwitchesWithoutUseAndElseAnOpenWindow) {
             asks(firstRunQuestion, Answer::No);
             tells(firstRunRefused);
         }
-        if (!message.empty()) {
-            tells(message);
-        }
+        tells(message);
         EXPECT_EQ(start(typed), !message.empty()) << typed;
         EXPECT_TRUE(!app->intCheck.Visible() && form().Visible() == message.empty()) << typed;
     }
