@@ -94,6 +94,9 @@ TEST_F(SettingsTest, AFailedWriteLosesNothing) {
             pc.faults.clear(how);
         }
     }
+    pc.faults.failNth(WriteFileHalf, 1);
+    EXPECT_EQ(settings.writeEntry(path, "long", "", "A"), false);
+    EXPECT_EQ(content(), before) << "A shorter text is put back, too";
     pc.faults.failNth(SetLength, 1);
     settings.writeEntry(path, "long", "", "A");
     EXPECT_EQ(content(), "[A]\r\nk=1\r\nlong=\r\n" + std::string(10, '\n'))
