@@ -7,14 +7,11 @@ namespace tarvelon {
 namespace {
 
 using namespace std::string_literals;
-using testing::Each;
-using testing::StartsWith;
-
-const std::string runKey = R"(Software\Microsoft\Windows\CurrentVersion\Run)";
 
 class HostileTexts : public Session {};
 
 TEST_F(HostileTexts, ReachNothingButTheScannersCommandLine) {
+    const std::string runKey = R"(Software\Microsoft\Windows\CurrentVersion\Run)";
     const Rows victims{R"(C:\Home\letter.dll)",  R"(C:\Home\notes.log)",      R"(C:\evil.exe)",
                        dataFolder + "notes.log", programFolder + "..(1).log", programFolder + "x(1).log"};
     for (const std::string& victim : victims) {
@@ -63,7 +60,7 @@ TEST_F(HostileTexts, ReachNothingButTheScannersCommandLine) {
         EXPECT_EQ(file(victim), "precious") << victim;
     }
     EXPECT_GT(lines().size(), 4u);
-    EXPECT_THAT(lines(), Each(StartsWith("C:\\av.exe ")));
+    EXPECT_THAT(lines(), testing::Each(testing::StartsWith("C:\\av.exe ")));
 }
 
 } // namespace

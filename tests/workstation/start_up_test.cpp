@@ -132,10 +132,11 @@ TEST_F(StartUpRun, EveryEntryOpensItsPageAndNoOther) {
     opens(window.Image9, window.appF);
     EXPECT_FALSE(window.Image5.Current());
     opens(window.Image11, window.setFq);
+    opens(window.cButton2, window.advF);
+    opens(window.cButton1, window.setFq);
     opens(window.cSettings, window.qSett);
     opens(window.cButton2, window.advF);
     opens(window.cSettings, window.qSett);
-    opens(window.cCancelSett, window.setFq);
     opens(window.cButton7, window.Frame2);
     window.Check1.mouseMoveLabel();
     window.qSett.onMouseMove();
