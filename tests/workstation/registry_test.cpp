@@ -181,6 +181,10 @@ TEST_F(RegistryWatch, OneFileOrAllGoToTheScannersAndAllIsAccepted) {
     clickTelling(form().Command11, "Cannot find file, please scan manually");
 
     const std::string notice = "Unable to find the file: gone.exe\r\nPlease scan manually.";
+    pc.files.lock(dataFolder + "Tarvelon.dat"); // Which names the scanners.
+    tells(notice);
+    clickTelling(form().cScnUpd, notExecuted);
+    pc.files.unlock(dataFolder + "Tarvelon.dat");
     pc.processes.canStart = [](const std::string&) { return false; };
     tells(notice);
     clickTelling(form().cScnUpd, notExecuted + "C:\\av.exe");

@@ -91,6 +91,7 @@ TEST_F(Scanners, TheCatalogueSearchesTestsAndHandsOver) {
     form().cButton1.click();
     help.close();
     app->vDct.helpme.click();
+    EXPECT_TRUE(help.Visible());
     help.Command3.click();
     EXPECT_EQ(fields(), exe + "|/HEUR:3|" + exe + "|" + exe) << "for the first scanner by now";
     EXPECT_EQ(app->vDct.vpath.Caption() + app->vDct.varg.Caption(), exe + "/HEUR:3");
