@@ -214,10 +214,11 @@ TEST_F(RegistryWatch, OneFileOrAllGoToTheScannersAndAllIsAccepted) {
 
 TEST_F(RegistryWatch, PendingOperationsAreShownAndScanned) {
     ASSERT_FALSE(start());
-    form().Image7.click();
+    set(machine, run, "New", "new.exe");
+    refresh();
     clickTelling(form().cMod, "No files will be modified or deleted on Restart!");
     EXPECT_TRUE(form().List6.isShown() && !form().TreeView1.isShown());
-    EXPECT_EQ(entry(), "(none)");
+    EXPECT_TRUE(entry() == "(none)" && !form().cScnUpd.Enabled());
     pc.files.put(R"(C:\WINDOWS\wininit.ini)",
                  "[Rename]\r\nnul=C:\\T\\X.TMP\r\nno entry\r\nC:\\A.DLL=C:\\B.DLL\r\na=b=c");
     const auto pending = [this](const std::string& value) {
