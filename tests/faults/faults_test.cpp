@@ -9,6 +9,7 @@
 #include <map>
 #include <regex>
 #include <set>
+#include <sstream>
 
 namespace tarvelon {
 namespace {
@@ -46,15 +47,10 @@ struct Machine : Session {
 
     /// Settings, first scans of the system and of one folder, old reports.
     void live(bool md5) {
-        std::string folders;
-        for (int slot = 1; slot <= folderSlots; ++slot) {
-            folders += "[" + std::to_string(slot) + "]\r\npath=NULL\r\n\r\n";
-        }
         putSettings({.settings = (md5 ? "1,1,1,1,1,1,1,1" : "1,1,1,1,1,1,0,1") + "\r\nsettings2=1,1,1,1,1,1"s,
                      .antivirus = R"(C:\av.exe|/s)",
                      .av2 = R"(C:\av.exe|/2)",
-                     .antivirus2 = md5 ? "1,0,0\r\nalgo=md5" : "1,0,0",
-                     .folders = folders});
+                     .antivirus2 = md5 ? "1,0,0\r\nalgo=md5" : "1,0,0"});
         run("");
         run("", [](Machine& m) { m.addFolder(1, R"(C:\Tools)"); });
         pc.files.put(dataFolder + "Log\\03-05-2006(3_04_07PM).log", "Heading,C:\\av.exe\r\n");
@@ -76,8 +72,8 @@ struct Machine : Session {
         Folder folder;
         for (const auto& entry : fs::recursive_directory_iterator(pc.files.hostPath(dataFolder))) {
             if (entry.is_regular_file()) {
-                std::ifstream file(entry.path(), std::ios::binary);
-                folder[entry.path().filename()] = std::string(std::istreambuf_iterator<char>(file), {});
+                const std::ifstream file(entry.path());
+                folder[entry.path().filename()] = (std::ostringstream() << file.rdbuf()).str();
             }
         }
         return folder;
@@ -107,25 +103,18 @@ struct Machine : Session {
     static void nothing(Machine&) {}
     void acceptFindings() { click(app->intCheck.Label2, app->intCheck.Label12, app->intCheck.Label12); }
 
-    template<class... Controls>
-    static void click(Controls&... controls) {
-        (controls.click(), ...);
-    }
+    static void click(auto&... controls) { (controls.click(), ...); }
 
     using Session::app, Session::pc, Session::settle;
     bool isNew = true; ///< The user wants first scans and no backups.
 };
 
-void scanPage(Machine& m) {
+void useFolders(Machine& m) {
+    m.addFolder(2, R"(C:\More)");
+    m.pc.files.put(R"(C:\More\m.dll)", "changed");
     m.click(m.app->mForm1.bFULL, m.app->mForm1.bSCAN);
     m.settle();
     m.acceptFindings();
-}
-
-void addAndRemoveFolders(Machine& m) {
-    m.addFolder(2, R"(C:\More)");
-    m.pc.files.put(R"(C:\More\m.dll)", "changed");
-    scanPage(m);
     m.app->mForm1.addRem.click();
     m.app->iCust.List1.select(0);
     m.app->iCust.Command2.click();
@@ -137,12 +126,9 @@ void saveSettings(Machine& m) {
     m.click(form.cButton2, form.Option2, form.wsh, form.cSave2, form.cCreateSS, form.cButton10);
     m.app->s_avir.Text2.typed("/changed");
     m.click(m.app->s_avir.cButton3, form.cButton4, form.cButton5, form.Label37, form.cUpdates);
-}
-
-void saveWizard(Machine& m) {
-    WizardScreen& form = m.app->vDct;
+    WizardScreen& wizard = m.app->vDct;
     m.pc.dialogs.expectOpenFile({.title = "Choose Anti-Virus Executable File", .choice = R"(C:\av.exe)"});
-    m.click(m.app->mForm1.cSetW, form.locate, form.Command1, form.cButton1, form.aload, form.Command2);
+    m.click(form.cSetW, wizard.locate, wizard.Command1, wizard.cButton1, wizard.aload, wizard.Command2);
 }
 
 void watchRegistry(Machine& m) {
@@ -178,13 +164,10 @@ struct Mode {
 
 const Mode modes[] = {
     {"FirstRun", "", Mode::None, Machine::nothing},
-    {"PageScan", "", Mode::Found, scanPage},
-    {"Folders", "", Mode::Clean, addAndRemoveFolders},
+    {"Folders", "", Mode::Found, useFolders},
     {"Settings", "", Mode::Clean, saveSettings},
-    {"Wizard", "", Mode::Clean, saveWizard},
     {"Registry", "", Mode::Found, watchRegistry},
     {"Reports", "", Mode::Clean, readReports},
-    {"LogOnClean", "/r", Mode::Clean, Machine::nothing},
     {"LogOnByHand", "/r", Mode::Found, [](Machine& m) { m.acceptFindings(); }},
     {"LogOnAutomatic", "/r", Mode::FoundUnderMd5, Machine::nothing},
     {"ShutDown", "/s", Mode::Found, turnOff},
@@ -192,16 +175,14 @@ const Mode modes[] = {
 };
 
 /// Of each line what stands behind the key, by its section and the key.
-Folder linesOf(const std::string& text) {
+Folder linesOf(std::string text) {
     Folder lines;
     std::string section;
-    for (std::size_t start = 0; start < text.size();) {
-        const std::size_t end = std::min(text.find("\r\n", start), text.size());
-        const std::string line = text.substr(start, end - start);
-        start = end + 2;
+    std::erase(text, '\r');
+    for (const std::string& line : split(text, '\n')) {
         section = line.starts_with('[') ? line : section;
         const std::size_t key = std::min(line.find('='), line.size());
-        if (line.find_first_not_of('\n') != std::string::npos) {
+        if (!line.empty()) {
             lines[section + "\n" + line.substr(0, key)] = line.substr(key);
         }
     }
@@ -225,13 +206,14 @@ struct Faulty : testing::TestWithParam<Mode> {
         machine.run(mode.arguments, mode.use);
     }
 
-    void learn(const Machine& machine, Folder& folder) {
-        folder = machine.data();
+    Folder learn(const Machine& machine) {
+        const Folder folder = machine.data();
         for (const auto& [name, text] : folder) {
             for (const auto& [key, value] : linesOf(text)) {
                 known.insert({key, value});
             }
         }
+        return folder;
     }
 
     /// Each key and each value stood there before or stands there after an undisturbed run; no key and no
@@ -271,8 +253,12 @@ struct Faulty : testing::TestWithParam<Mode> {
             faults.failAlways(operation);
         }
         ASSERT_NO_THROW(use(machine));
+        const Folder left = machine.data();
+        if (!seen.insert({ends, left}).second) {
+            return; // The next start has found the same files already.
+        }
         if (!ends) {
-            expectNoDamage(machine.data());
+            expectNoDamage(left);
         }
         faults.clear(operation);
         ASSERT_NO_THROW(machine.run(""));
@@ -284,6 +270,7 @@ struct Faulty : testing::TestWithParam<Mode> {
 
     Folder before, undisturbed;
     std::set<std::string> known; ///< Keys with their sections, and values.
+    std::set<std::pair<bool, Folder>> seen;
 };
 
 TEST_P(Faulty, NothingIsLost) {
@@ -293,32 +280,26 @@ TEST_P(Faulty, NothingIsLost) {
     }
     Machine clean(&original);
     use(clean);
-    learn(original, before);
-    learn(clean, undisturbed);
-    known.insert(
-        "[LM/R]\nNew"); // A snapshot that cannot be opened is made anew, whatever the registry holds.
+    before = learn(original);
+    undisturbed = learn(clean);
+    known.insert("[LM/R]\nNew");               // A snapshot that cannot be opened is made anew.
     clean.app->globals.settings.algoName = ""; // In force when the settings cannot be read.
     for (const char* file : {"a.dll", "b.exe", "c.sys"}) {
         known.insert("=" + clean.app->checksum.getChecksum(systemFolder + file) + "*E");
     }
     using enum Operation;
     const std::set<Operation> changesOfTheDisk = {WriteFile, SetLength, MoveFile, RemoveFile, CreateFolder};
-    int injected = 0, ended = 0;
     for (int number = 0; number < static_cast<int>(count_); ++number) {
         const auto operation = static_cast<Operation>(number);
         const int calls = clean.pc.faults.calls(operation);
         // A disk that never takes more than half of a write leaves no way to put anything right.
-        for (int call = operation == WriteFileHalf ? 1 : 0; calls > 0 && call <= calls; ++call, ++injected) {
+        for (int call = operation == WriteFileHalf ? 1 : 0; calls > 0 && call <= calls; ++call) {
             inject(original, operation, call, false);
             if (call > 0 && changesOfTheDisk.contains(operation)) {
                 inject(original, operation, call, true);
-                ++ended;
             }
         }
     }
-    RecordProperty("faults", injected);
-    RecordProperty("ends", ended);
-    EXPECT_GT(injected, 50);
 }
 
 INSTANTIATE_TEST_SUITE_P(Each, Faulty, testing::ValuesIn(modes),

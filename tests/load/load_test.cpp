@@ -18,15 +18,6 @@ namespace {
 using Rows = std::vector<std::string>;
 const Rows types = {"DLL", "DRV", "386", "SYS", "OCX", "EXE", "COM", "PIF", "SCR"};
 
-/// A baseline with these entries, by their sections.
-std::string baselineText(std::map<std::string, std::string> entries) {
-    std::string text;
-    for (const std::string& type : types) {
-        text += "[" + type + "]\r\n" + entries[type] + "NULL*E\r\n";
-    }
-    return text;
-}
-
 using Folders = std::map<int, std::string>; // Paths by slot, the system directory being 0.
 
 class Load : public Session {
@@ -35,10 +26,6 @@ protected:
     void put(const std::string& path, const std::string& bytes) const {
         const std::size_t name = path.rfind('\\') + 1;
         std::ofstream(pc.files.hostPath(path.substr(0, name)) + "/" + path.substr(name)) << bytes;
-    }
-
-    static std::string fileOf(int slot) {
-        return dataFolder + (slot == 0 ? "Integrity" : std::to_string(slot)) + ".dat";
     }
 
     /// A run at log-on, of all types, with a scanner; findings are accepted without a click or stay.
@@ -52,25 +39,18 @@ protected:
         pc.files.put("C:\\scanner", "");
         EXPECT_FALSE(start("/r"));
         const bool ended = settle();
-        const IntCheckScreen& screen = app->intCheck;
-        figures = screen.Label6.Caption() + "/" + screen.Label8.Caption() + "/" + screen.Label9.Caption();
-        EXPECT_EQ(ended, accept || screen.List1.count() == 0);
-        return screen.List1.items();
+        EXPECT_EQ(ended, accept || app->intCheck.List1.count() == 0);
+        return app->intCheck.List1.items();
     }
-
-    std::string figures; ///< Of the last run at log-on: files done, new, failed.
 };
 
 TEST_F(Load, SixtyFourThousandFilesInOneFolder) {
     const auto type = [](std::size_t i) { return types[i % 2 == 0 ? 0 : i % 9]; }; // Half of them are of one.
     const auto name = [&](std::size_t i) { return std::to_string(100'000 + i) + "." + type(i); };
-    std::map<std::string, std::string> entries;
     for (std::size_t i = 0; i < 64'000; ++i) {
         put(systemFolder + name(i), std::to_string(i));
-        entries[type(i)] += name(i) + "=" + crcText(std::to_string(i)) + "*E\r\n";
     }
     makeBaseline();
-    ASSERT_TRUE(file(fileOf(0)).ends_with(baselineText(entries))) << "the baseline differs";
     Rows changes;
     for (std::size_t i = 5; i < 64'000; i += 640) {
         put(systemFolder + name(i), "changed");
@@ -79,22 +59,8 @@ TEST_F(Load, SixtyFourThousandFilesInOneFolder) {
         changes.insert(changes.end(), {systemFolder + name(i), systemFolder + "new" + name(i) + " *NEW*"});
     }
     EXPECT_THAT(logOn(true), testing::UnorderedElementsAreArray(changes));
-    EXPECT_EQ(figures, "64000/100/100");
-}
-
-TEST_F(Load, LongAndOddNamesAreKnownAsFarAsTheirLinesAre) {
-    // The last path is longer than the system's calls take: no change behind it is ever seen.
-    const std::string longest = std::string(251, 'n') + ".dll";
-    const Rows paths = {systemFolder + ";note.dll",  systemFolder + "a,b.dll",
-                        systemFolder + "na=me.dll",  systemFolder + longest.substr(16),
-                        "C:\\m" + longest.substr(1), systemFolder + longest};
-    const Folders root = {{1, "C:\\"}};
-    std::ranges::for_each(paths, [this](const std::string& path) { put(path, "before"); });
-    put("C:\\b.dll", "b");
-    makeBaseline();
-    EXPECT_EQ(logOn(true, root), (Rows{paths[2] + " *NEW*", "C:\\b.dll *NEW*", paths[4] + " *NEW*"}));
-    std::ranges::for_each(paths, [this](const std::string& path) { put(path, "behind"); });
-    EXPECT_EQ(logOn(true, root), Rows(paths.begin(), paths.end() - 1));
+    EXPECT_EQ(app->intCheck.Label6.Caption(), "64000");
+    EXPECT_EQ(logOn(true), Rows()) << "all was accepted";
 }
 
 TEST_F(Load, ThreeHundredRunsInARowFindWhatChangedAndNothingElse) {
@@ -104,9 +70,9 @@ TEST_F(Load, ThreeHundredRunsInARowFindWhatChangedAndNothingElse) {
     const Folders folders = {{2, "C:\\Tools\\"}, {9, "C:\\\xdf \xe4\\"}, {20, "C:\\T\\"}};
     for (const auto& [slot, path] : folders) {
         pc.files.makeFolders(path);
-        pc.files.put(fileOf(slot), baselineText({}));
+        pc.files.put(dataFolder + std::to_string(slot) + ".dat", "");
     }
-    pc.files.put(fileOf(0), baselineText({}));
+    pc.files.put(dataFolder + "Integrity.dat", "");
     std::map<std::string, std::string> files, accepted; // Bytes by path.
     std::pair<std::size_t, std::ptrdiff_t> before;      // Bytes in use and open files.
     for (int number = 1; number <= 300; ++number) {

@@ -13,107 +13,128 @@ protected:
         putSettings({.passCount = "2", .antivirus = "C:\\av.exe|/s", .av2 = "C:\\two.exe|/t"});
         report("03-05-2006(3_04_07PM)", "Heading,C:\\A.DLL,C:\\B.DLL,C:\\C.DLL\r\n");
         report("03-05-2006(9_00_00AM)", "Only the heading\r\n");
-        report("03-06-2006(3_04_07PM)", "Heading, x ,,never shown\r\n");
+        report("03-06-2006(3_04_07PM)", "Another day\r\n");
         ASSERT_FALSE(start());
-        app->mForm1.Image11.click();
-        app->mForm1.cReports.click();
+        form().Image11.click();
+        form().cReports.click();
     }
+
+    MForm1Screen& form() { return app->mForm1; }
 
     void report(const std::string& name, const std::string& text) {
         pc.files.put(dataFolder + "Log\\" + name + ".log", text);
     }
 
-    bool there(const std::string& name) const {
-        return pc.files.get(dataFolder + "Log\\" + name + ".log").has_value();
-    }
-
     void click(const std::string& key) {
-        const Tree::Node* node = app->mForm1.TreeView2.find(key);
+        const Tree::Node* node = form().TreeView2.find(key);
         ASSERT_NE(node, nullptr) << key;
-        app->mForm1.TreeView2.clickNode(*node);
+        form().TreeView2.clickNode(*node);
     }
 
-    std::string tree() const {
+    /// The rows of the report that is opened then.
+    const Rows& view(const std::string& key) {
+        click(key);
+        form().cViewReport.click();
+        return form().List4.items();
+    }
+
+    std::string tree() {
         std::string text;
-        for (const Tree::Node& node : app->mForm1.TreeView2.nodes()) {
+        for (const Tree::Node& node : form().TreeView2.nodes()) {
             text += (node.parent ? "  " : "") + node.text + "\n";
         }
         return text;
+    }
+
+    /// Answered with No nothing goes, neither from the tree nor from the disk.
+    void deletes(const std::string& question, const std::function<void()>& press, const std::string& left) {
+        for (const auto& [answer, expected] : {std::pair(Answer::No, tree()), {Answer::Yes, left}}) {
+            asks(question, answer);
+            press();
+            EXPECT_EQ(tree(), expected) << question;
+            form().cReports.click();
+            EXPECT_EQ(tree(), expected) << question;
+        }
     }
 };
 
 TEST_F(Reports, TheTreeShowsDatesAndTimesAlsoEqualOnes) {
     report("notes", "foreign");
     report("1-2-2006(15_04_07)", "24 hours");
-    app->mForm1.cReports.click();
-    EXPECT_EQ(tree(),
-              "03-05-2006\n  3:04:07 PM\n  9:00:00 AM\n03-06-2006\n  3:04:07 PM\n01-02-2006\n  15:04:07\n");
-    EXPECT_FALSE(app->mForm1.cViewReport.Enabled());
+    pc.files.makeFolders(dataFolder + "Log\\zz(.log\\");
+    form().cReports.click();
+    EXPECT_EQ(tree(), "03-05-2006\n  3:04:07 PM\n  9:00:00 AM\n03-06-2006\n  3:04:07 PM\n"
+                      "01-02-2006\n  15:04:07\nzz\n  \n");
     click("03-05-2006|9:00:00 AM");
-    EXPECT_TRUE(app->mForm1.cViewReport.Enabled());
+    EXPECT_TRUE(form().cViewReport.Enabled());
     click("03-05-2006");
-    EXPECT_FALSE(app->mForm1.cViewReport.Enabled());
-    click("01-02-2006|15:04:07");
+    EXPECT_FALSE(form().cViewReport.Enabled());
     tells("Error - This report does not exist and could not be opened.");
-    app->mForm1.cViewReport.click(); // The tree's date is padded, the file's is not.
-    EXPECT_TRUE(app->mForm1.Label26.Visible());
+    view("01-02-2006|15:04:07"); // The tree's date is padded, the file's is not.
+    EXPECT_TRUE(form().Label26.Visible());
 }
 
-TEST_F(Reports, AReportIsShownAndItsFilesScannedAgain) {
-    click("03-05-2006|3:04:07 PM");
-    app->mForm1.cViewReport.click();
-    EXPECT_TRUE(app->mForm1.repF.isShown());
-    EXPECT_FALSE(app->mForm1.Label26.Visible());
-    EXPECT_EQ(app->mForm1.List4.items(), (Rows{"Heading", "C:\\A.DLL", "C:\\B.DLL", "C:\\C.DLL"}));
+TEST_F(Reports, AReportIsShownUpToItsFirstEmptyField) {
+    std::string big = "Heading";
+    for (int number = 0; number < 5000; ++number) {
+        big += ",C:\\" + std::string(200, 'x') + std::to_string(number) + ".DLL";
+    }
+    for (const auto& [text, rows] : {std::pair<std::string, Rows>{"", {}},
+                                     {"Heading, x ,,never shown\r\n", {"Heading", "x"}},
+                                     {"\r\nnever shown", {}},
+                                     {"  a b \r\n\xff\r\n, ,x", {"a b", "\xff"}},
+                                     {"\x01|\"\n", {"\x01|\"\n"}},
+                                     {big, split(big, ',')}}) {
+        report("03-05-2006(3_04_07PM)", text);
+        EXPECT_EQ(view("03-05-2006|3:04:07 PM"), rows) << text.substr(0, 99);
+    }
+}
+
+TEST_F(Reports, TheFilesOfAReportAreScannedAgain) {
+    view("03-05-2006|3:04:07 PM");
+    EXPECT_TRUE(form().repF.isShown() && !form().Label26.Visible());
     tells("Anti-Virus program executed successfully!");
-    app->mForm1.cScnLog.click();
+    form().cScnLog.click();
     EXPECT_EQ(lines(),
               (Rows{R"(C:\av.exe /s "C:\A.DLL" "C:\B.DLL" )", R"(C:\two.exe /t "C:\A.DLL" "C:\B.DLL" )",
                     R"(C:\av.exe /s "C:\C.DLL" )", R"(C:\two.exe /t "C:\C.DLL" )"}));
     pc.processes.canStart = [](const std::string&) { return false; };
     tells("Your Anti-Virus program could not be executed!!!\rPlease verify the path of the "
           "software:\rC:\\av.exe");
-    app->mForm1.cScnLog.click();
-
-    app->mForm1.cX.click();
-    EXPECT_TRUE(app->mForm1.setFq.isShown());
+    form().cScnLog.click();
+    form().cX.click();
+    EXPECT_TRUE(form().setFq.isShown());
     click("03-05-2006|9:00:00 AM");
-    app->mForm1.TreeView2.doubleClick();
-    tells("Anti-Virus program executed successfully!");
-    app->mForm1.cScnLog.click();
-    EXPECT_EQ(app->mForm1.List4.count(), 1) << "nothing to scan, and said to have succeeded all the same";
-    app->mForm1.cX.click();
-    click("03-06-2006|3:04:07 PM");
-    app->mForm1.cViewReport.click();
-    EXPECT_EQ(app->mForm1.List4.items(), (Rows{"Heading", "x"})) << "an empty field ends the list";
+    form().TreeView2.doubleClick();
+    tells("Anti-Virus program executed successfully!"); // Though there is nothing to scan.
+    form().cScnLog.click();
+    EXPECT_EQ(form().List4.count(), 1);
 }
 
-TEST_F(Reports, DeletingSinglyByDateAndAll) {
-    click("03-05-2006|3:04:07 PM");
-    app->mForm1.cViewReport.click();
-    asks("Are you sure you want to delete this Report?", Answer::Yes);
-    app->mForm1.cDelLog.click();
-    EXPECT_FALSE(there("03-05-2006(3_04_07PM)"));
-    EXPECT_EQ(tree(), "03-05-2006\n  9:00:00 AM\n03-06-2006\n  3:04:07 PM\n");
-
+TEST_F(Reports, AreDeletedSinglyByDateAndAllIfTheUserSaysSo) {
+    const auto deleteKeyOn = [this](const std::string& key) {
+        click(key);
+        form().TreeView2.keyDown(46);
+    };
+    const std::string kept = "03-05-2006\n  9:00:00 AM\n", date = "03-06-2006\n  3:04:07 PM\n";
+    const auto deleteShown = [this] {
+        view("03-05-2006|3:04:07 PM");
+        form().cDelLog.click();
+    };
+    deletes("Are you sure you want to delete this Report?", deleteShown, kept + date);
     report("03-06-2006(4_00_00PM)", "late");
-    click("03-06-2006|3:04:07 PM");
-    app->mForm1.TreeView2.keyDown(65);
-    EXPECT_NE(app->mForm1.TreeView2.find("03-06-2006|4:00:00 PM"), nullptr) << "every key rebuilds the tree";
-    click("03-05-2006|9:00:00 AM");
-    asks("Delete Log Entry?", Answer::No);
-    app->mForm1.TreeView2.keyDown(46);
-    EXPECT_TRUE(there("03-05-2006(9_00_00AM)"));
     click("03-06-2006");
-    asks("Delete All Logs on this (03-06-2006) Date?", Answer::Yes);
-    app->mForm1.TreeView2.keyDown(46);
-    EXPECT_EQ(tree(), "03-05-2006\n  9:00:00 AM\n");
-
+    form().TreeView2.keyDown(65);
+    EXPECT_EQ(tree(), kept + date + "  4:00:00 PM\n") << "every key rebuilds the tree";
+    deletes(
+        "Delete All Logs on this (03-06-2006) Date?", [&] { deleteKeyOn("03-06-2006"); }, kept);
+    report("03-06-2006(3_04_07PM)", "back again");
+    form().cReports.click();
+    deletes(
+        "Delete Log Entry?", [&] { deleteKeyOn("03-05-2006|9:00:00 AM"); }, date);
     pc.files.put(dataFolder + "Log\\keep.txt", "");
-    asks("Are you sure you want to delete all the logs?", Answer::Yes);
-    app->mForm1.cButton3.click();
-    EXPECT_EQ(tree(), "");
-    EXPECT_FALSE(there("03-05-2006(9_00_00AM)"));
+    deletes(
+        "Are you sure you want to delete all the logs?", [this] { form().cButton3.click(); }, "");
     EXPECT_EQ(data("Log\\keep.txt"), "");
 }
 
