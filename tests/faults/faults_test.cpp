@@ -47,10 +47,15 @@ struct Machine : Session {
 
     /// Settings, first scans of the system and of one folder, old reports.
     void live(bool md5) {
+        std::string folders;
+        for (int slot = 1; slot <= folderSlots; ++slot) {
+            folders += "[" + std::to_string(slot) + "]\r\npath=NULL\r\n\r\n";
+        }
         putSettings({.settings = (md5 ? "1,1,1,1,1,1,1,1" : "1,1,1,1,1,1,0,1") + "\r\nsettings2=1,1,1,1,1,1"s,
                      .antivirus = R"(C:\av.exe|/s)",
                      .av2 = R"(C:\av.exe|/2)",
-                     .antivirus2 = md5 ? "1,0,0\r\nalgo=md5" : "1,0,0"});
+                     .antivirus2 = md5 ? "1,0,0\r\nalgo=md5" : "1,0,0",
+                     .folders = folders});
         run("");
         run("", [](Machine& m) { m.addFolder(1, R"(C:\Tools)"); });
         pc.files.put(dataFolder + "Log\\03-05-2006(3_04_07PM).log", "Heading,C:\\av.exe\r\n");
@@ -109,12 +114,16 @@ struct Machine : Session {
     bool isNew = true; ///< The user wants first scans and no backups.
 };
 
-void useFolders(Machine& m) {
-    m.addFolder(2, R"(C:\More)");
-    m.pc.files.put(R"(C:\More\m.dll)", "changed");
+void scanPage(Machine& m) {
     m.click(m.app->mForm1.bFULL, m.app->mForm1.bSCAN);
     m.settle();
     m.acceptFindings();
+}
+
+void addAndRemoveFolders(Machine& m) {
+    m.addFolder(2, R"(C:\More)");
+    m.pc.files.put(R"(C:\More\m.dll)", "changed");
+    scanPage(m);
     m.app->mForm1.addRem.click();
     m.app->iCust.List1.select(0);
     m.app->iCust.Command2.click();
@@ -164,7 +173,8 @@ struct Mode {
 
 const Mode modes[] = {
     {"FirstRun", "", Mode::None, Machine::nothing},
-    {"Folders", "", Mode::Found, useFolders},
+    {"PageScan", "", Mode::Found, scanPage},
+    {"Folders", "", Mode::Clean, addAndRemoveFolders},
     {"Settings", "", Mode::Clean, saveSettings},
     {"Registry", "", Mode::Found, watchRegistry},
     {"Reports", "", Mode::Clean, readReports},

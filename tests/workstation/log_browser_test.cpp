@@ -122,6 +122,7 @@ TEST_F(Reports, AreDeletedSinglyByDateAndAllIfTheUserSaysSo) {
         form().cDelLog.click();
     };
     deletes("Are you sure you want to delete this Report?", deleteShown, kept + date);
+    EXPECT_TRUE(form().setFq.isShown());
     report("03-06-2006(4_00_00PM)", "late");
     click("03-06-2006");
     form().TreeView2.keyDown(65);

@@ -75,9 +75,9 @@ TEST_F(Speeds, OneRunAtATimeAndNoneWithoutTheProgram) {
                std::to_string(app->globals.settings.readBuffer) + " " + std::to_string(chart().count());
     };
     app->globals.settings.readBuffer = 70'000;
-    pc.messages.when([this] { return form().List1.count() == 2; },
+    pc.messages.when([this] { return form().List1.count() == 1; },
                      [&] {
-                         EXPECT_EQ(state(), "Testing... (crc32) 131072 2");
+                         EXPECT_EQ(state(), "Testing... (crc32) 65536 1");
                          form().cSpeeds.click();
                      });
     form().cSpeeds.click();
