@@ -112,8 +112,11 @@ TEST_F(Folders, TwentyAreTakenWithoutTheDefaultAndDoubles) {
               "This is the default folder that Tarvelon scans. It cannot be added to "
               "the Custom Integrity Checker");
     for (const Answer answer : {Answer::No, Answer::Yes}) {
-        EXPECT_EQ(manager().List1.item(19), "20) Empty:") << "what was not saved is forgotten";
+        EXPECT_EQ(manager().List1.item(19) + manager().List5.item(19), "20) Empty:0,0,0,0,0,0,0")
+            << "what was not saved is forgotten";
         addFolder(R"(C:\F20)");
+        manager().List1.select(19);
+        manager().Check2.click();
         asks("Do you wish to Save your changes?", answer);
         tells(answer == Answer::Yes ? "Save Successful!" : "");
         manager().close();
