@@ -243,6 +243,7 @@ TEST_F(RegistryWatch, PendingOperationsAreShownAndScanned) {
         data("Log\\03-05-2006(3_04_07PM).log"),
         testing::StartsWith("Precautionary Scan - These files were to be renamed/deleted/overwritten at "
                             "startup,C:\\T\\X.TMP,"));
+    EXPECT_EQ(form().List6.item(1), "C:\\T\\X.TMP") << "as it was scanned";
     pending("\\??\\C:\\" + std::string(300, 'x'));
     EXPECT_EQ(form().List6.count(), 4) << "a value of more than 256 bytes reads as empty";
     form().Command1.click();
