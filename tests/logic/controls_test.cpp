@@ -49,7 +49,7 @@ TEST_F(Controls, ListenersHearOfRealChangesOnly) {
         check.setValue(true);
         plain.setValue(true);
         option.setValue(true);
-        bar.setValue(100);
+        EXPECT_TRUE(bar.setValue(100));
     }
     bar.setMax(50);
     EXPECT_EQ(bar.value(), 50);

@@ -152,15 +152,20 @@ TEST_F(ShutDownRun, EachActionReachesTheSystemWithItsFlags) {
 }
 
 TEST_F(ShutDownRun, AScheduledRunTakesTheFirstStepsAndEnds) {
-    pendingRenames("\\??\\C:\\1.TMP\0\0"s);
     pc.files.put(R"(C:\1.TMP)", "");
-    ASSERT_FALSE(start("/a"));
-    EXPECT_EQ(lines().at(0), "C:\\av.exe /s \"C:\\1.TMP\" ");
-    EXPECT_EQ(data("Log\\03-05-2006(3_04_07PM).log"),
-              "The following Files were scanned as a precaution (being renamed or deleted from the "
-              "Registry),C:\\1.TMP\r\n");
+    const auto run = [this](const std::string& source) {
+        ASSERT_FALSE(start("/a"));
+        EXPECT_EQ(lines().back(), "C:\\two.exe x \"C:\\1.TMP\" ");
+        EXPECT_EQ(data("Log\\03-05-2006(3_04_07PM).log"),
+                  "The following Files were scanned as a precaution (being renamed or deleted from " +
+                      source + "),C:\\1.TMP\r\n");
+        EXPECT_TRUE(settle());
+    };
+    pc.files.put(R"(C:\WINDOWS\wininit.ini)", "[Rename]\r\nNUL=C:\\1.TMP\r\n");
+    run("Wininit");
+    pendingRenames("\\??\\C:\\1.TMP\0\0"s);
+    run("the Registry");
     EXPECT_EQ(app->sProg.ProgressBar1.value(), 100);
-    EXPECT_TRUE(settle());
     EXPECT_EQ(pc.power.calls(), Rows());
 }
 
