@@ -81,6 +81,7 @@ TEST_F(Folders, AFolderIsAddedScannedChangedFoundAcceptedAndRemoved) {
     scan();
     EXPECT_EQ(app->intCheck.Label6.Caption(), "1") << "the system folder's one file";
 
+    write("args2", "1,1,1,1,1,1,1", "1");
     page().addRem.click();
     manager().List1.select(0);
     const Rows own{"1.dat",     "1.bak",     "1-md4.dat",  "1-md4.bak",
@@ -99,7 +100,7 @@ TEST_F(Folders, AFolderIsAddedScannedChangedFoundAcceptedAndRemoved) {
             EXPECT_EQ(data(name), answer == Answer::Ok ? "(missing)" : "x") << name;
         }
     }
-    EXPECT_EQ(manager().List1.item(0), "1) Empty:");
+    EXPECT_EQ(manager().List1.item(0) + manager().List5.item(0), "1) Empty:0,0,0,0,0,0,0");
     EXPECT_THAT(data("Tarvelon.dat"), HasSubstr("[1]\r\npath=NULL\r\nargs=0,0,0,0,0,0,0\r\n"));
 }
 
@@ -112,11 +113,12 @@ TEST_F(Folders, TwentyAreTakenWithoutTheDefaultAndDoubles) {
               "This is the default folder that Tarvelon scans. It cannot be added to "
               "the Custom Integrity Checker");
     for (const Answer answer : {Answer::No, Answer::Yes}) {
-        EXPECT_EQ(manager().List1.item(19) + manager().List5.item(19), "20) Empty:0,0,0,0,0,0,0")
-            << "what was not saved is forgotten";
+        for (const ListBox* types : {&manager().List3, &manager().List5}) {
+            EXPECT_EQ(manager().List1.item(19) + types->item(19), "20) Empty:0,0,0,0,0,0,0") << "forgotten";
+        }
         addFolder(R"(C:\F20)");
         manager().List1.select(19);
-        manager().Check2.click();
+        click(manager().Check1, manager().Check2);
         asks("Do you wish to Save your changes?", answer);
         tells(answer == Answer::Yes ? "Save Successful!" : "");
         manager().close();
