@@ -65,6 +65,8 @@ TEST_F(Speeds, TheReportIsWordForWordAndTheChartShowsItsFigures) {
     EXPECT_EQ(chart().share(0), 0);
     compare(0, 250'000);
     EXPECT_EQ(row(10), "Quickest Calculation at: 999 seconds. Using Buffer of: 0 Kb") << "none was quicker";
+    form().List1.select(6);
+    EXPECT_EQ(chart().marked(), -1);
     EXPECT_EQ(figureText(1.0F / 32768), "3.051758E-05");
 }
 
