@@ -23,9 +23,9 @@ TEST_F(Contract, FoldersAreToldWhereTheyFit) {
     }
     EXPECT_THAT(paths[0], testing::StartsWith(paths[1] + "\\"));
     for (const int csidl : {0, 2, 24, 38}) {
-        char buffer[260] = {};
-        EXPECT_TRUE(platform.folders.getSpecialFolderPath(csidl, buffer)) << csidl;
-        paths.emplace_back(buffer);
+        std::string buffer(260, '~');
+        EXPECT_TRUE(platform.folders.getSpecialFolderPath(csidl, buffer.data())) << csidl;
+        paths.emplace_back(buffer.c_str());
     }
     for (const std::string& path : paths) {
         EXPECT_FALSE(list(path + "\\").empty()) << path;
