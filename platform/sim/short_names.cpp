@@ -1,6 +1,5 @@
 #include "platform/sim/short_names.h"
 
-#include "core/text.h"
 #include "platform/sim/sim_codepage.h"
 
 #include <algorithm>
@@ -32,8 +31,7 @@ bool isShort(std::string_view name) {
 
 /// Capitals of the valid characters, at most `count` of them.
 std::string begin(std::string_view text, std::size_t count) {
-    SimCodePage codePage;
-    std::string capitals = CaseRules(codePage).upper(text);
+    std::string capitals = SimCodePage::capitals(std::string(text));
     std::erase_if(capitals, [](char character) { return !isValid(character); });
     return capitals.substr(0, count);
 }

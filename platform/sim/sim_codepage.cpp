@@ -38,4 +38,11 @@ unsigned char SimCodePage::lower(unsigned char character) {
     return isCapitalByRule(character) ? static_cast<unsigned char>(character + 32) : character;
 }
 
+std::string SimCodePage::capitals(std::string text) {
+    for (char& character : text) {
+        character = static_cast<char>(SimCodePage().upper(static_cast<unsigned char>(character)));
+    }
+    return text;
+}
+
 } // namespace tarvelon

@@ -2,12 +2,9 @@
 
 #include "platform/sim/faults.h"
 
-#include <nettle/md4.h>
-#include <nettle/md5.h>
-#include <nettle/sha1.h>
+#include <nettle/nettle-meta.h>
 
 #include <cstring>
-#include <optional>
 
 namespace tarvelon {
 
@@ -15,76 +12,25 @@ namespace {
 
 constexpr std::uint32_t rsaFull = 1;
 constexpr std::uint32_t newKeyset = 8;
-constexpr std::uint32_t verifyContext = 0xf0000000;
-constexpr std::uint32_t md4 = 0x8002;
-constexpr std::uint32_t md5 = 0x8003;
-constexpr std::uint32_t sha1 = 0x8004;
 constexpr std::uint32_t hashValue = 2;
-constexpr std::uint32_t hashSize = 4;
+
+const std::map<std::uint32_t, const nettle_hash*> algorithms = {
+    {0x8002, &nettle_md4}, {0x8003, &nettle_md5}, {0x8004, &nettle_sha1}};
 
 } // namespace
 
 /// One running digest. Reading its value ends it: more data is then refused, more reading is not.
-class SimCrypto::Hash {
-public:
-    virtual ~Hash() = default;
-
-    bool add(const void* data, std::size_t length) {
-        if (value_) {
-            return false;
-        }
-        update(length, static_cast<const std::uint8_t*>(data));
-        return true;
+struct SimCrypto::Hash {
+    explicit Hash(const nettle_hash& algorithm)
+        : kind(algorithm)
+        , context(kind.context_size) {
+        kind.init(context.data());
     }
-    const std::string& value() {
-        if (!value_) {
-            value_ = digest();
-        }
-        return *value_;
-    }
-    virtual std::uint32_t size() const = 0;
 
-private:
-    virtual void update(std::size_t length, const std::uint8_t* data) = 0;
-    virtual std::string digest() = 0;
-
-    std::optional<std::string> value_;
+    const nettle_hash& kind;
+    std::vector<std::uint8_t> context;
+    std::vector<std::uint8_t> value{};
 };
-
-namespace {
-
-template<class Context, auto start, auto feed, auto finish, std::uint32_t digestSize>
-class NettleHash : public SimCrypto::Hash {
-public:
-    NettleHash() { start(&context_); }
-    std::uint32_t size() const override { return digestSize; }
-
-private:
-    void update(std::size_t length, const std::uint8_t* data) override { feed(&context_, length, data); }
-    std::string digest() override {
-        std::uint8_t bytes[digestSize];
-        finish(&context_, digestSize, bytes);
-        return std::string(bytes, bytes + digestSize);
-    }
-
-    Context context_;
-};
-
-std::unique_ptr<SimCrypto::Hash> makeHash(std::uint32_t algorithm) {
-    switch (algorithm) {
-    case md4:
-        return std::make_unique<NettleHash<md4_ctx, md4_init, md4_update, md4_digest, MD4_DIGEST_SIZE>>();
-    case md5:
-        return std::make_unique<NettleHash<md5_ctx, md5_init, md5_update, md5_digest, MD5_DIGEST_SIZE>>();
-    case sha1:
-        return std::make_unique<
-            NettleHash<sha1_ctx, sha1_init, sha1_update, sha1_digest, SHA1_DIGEST_SIZE>>();
-    default:
-        return nullptr;
-    }
-}
-
-} // namespace
 
 SimCrypto::SimCrypto(Faults& faults)
     : providers{"Microsoft Enhanced Cryptographic Provider v1.0",
@@ -108,15 +54,9 @@ bool SimCrypto::acquireContext(Handle& provider, const std::string& container, c
     if (faults_.strikes(Operation::AcquireContext) || type != rsaFull || !providers.contains(providerName)) {
         return false;
     }
-    if (flags == newKeyset) {
-        if (!containers.insert(containerName).second) {
-            return false;
-        }
-    } else if (flags == 0) {
-        if (!containers.contains(containerName)) {
-            return false;
-        }
-    } else if (flags != verifyContext || !containerName.empty()) {
+    const bool goesOn = flags == newKeyset ? containers.insert(containerName).second
+                                           : flags == 0 && containers.contains(containerName);
+    if (!goesOn) {
         return false;
     }
     provider = nextHandle_++;
@@ -126,49 +66,38 @@ bool SimCrypto::acquireContext(Handle& provider, const std::string& container, c
 
 bool SimCrypto::createHash(Handle provider, std::uint32_t algorithm, Handle& hash) {
     log_.push_back("CryptCreateHash " + std::to_string(algorithm));
-    if (faults_.strikes(Operation::CreateHash) || !contexts_.contains(provider)) {
-        return false;
-    }
-    auto made = makeHash(algorithm);
-    if (!made) {
+    if (faults_.strikes(Operation::CreateHash) || !contexts_.contains(provider) ||
+        !algorithms.contains(algorithm)) {
         return false;
     }
     hash = nextHandle_++;
-    hashes_[hash] = std::move(made);
+    hashes_[hash] = std::make_unique<Hash>(*algorithms.at(algorithm));
     return true;
 }
 
 bool SimCrypto::hashData(Handle hash, const void* data, std::size_t length) {
     log_.push_back("CryptHashData " + std::to_string(length));
     Hash* const running = find(hash);
-    return !faults_.strikes(Operation::HashData) && running && running->add(data, length);
+    if (faults_.strikes(Operation::HashData) || !running || !running->value.empty()) {
+        return false;
+    }
+    running->kind.update(running->context.data(), length, static_cast<const std::uint8_t*>(data));
+    return true;
 }
 
 bool SimCrypto::getHashParam(Handle hash, std::uint32_t parameter, void* buffer, std::uint32_t& length) {
     log_.push_back("CryptGetHashParam " + std::to_string(parameter));
     Hash* const running = find(hash);
-    if (faults_.strikes(Operation::GetHashParam) || !running ||
-        (parameter != hashValue && parameter != hashSize)) {
+    if (faults_.strikes(Operation::GetHashParam) || !running || parameter != hashValue ||
+        length < running->kind.digest_size) {
         return false;
     }
-    std::string value;
-    if (parameter == hashSize) {
-        const std::uint32_t size = running->size();
-        value.assign(reinterpret_cast<const char*>(&size), sizeof size);
-    } else if (buffer) {
-        value = running->value();
-    } else {
-        value.resize(running->size());
+    length = running->kind.digest_size;
+    if (running->value.empty()) {
+        running->value.resize(length);
+        running->kind.digest(running->context.data(), length, running->value.data());
     }
-    const std::uint32_t room = length;
-    length = static_cast<std::uint32_t>(value.size());
-    if (!buffer) {
-        return true;
-    }
-    if (room < length) {
-        return false;
-    }
-    std::memcpy(buffer, value.data(), value.size());
+    std::memcpy(buffer, running->value.data(), length);
     return true;
 }
 

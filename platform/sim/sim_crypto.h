@@ -35,9 +35,8 @@ public:
     bool getHashParam(Handle hash, std::uint32_t parameter, void* buffer, std::uint32_t& length) override;
     bool destroyHash(Handle hash) override;
 
-    class Hash;
-
 private:
+    struct Hash;
     Hash* find(Handle hash) const;
 
     Faults& faults_;

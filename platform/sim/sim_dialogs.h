@@ -24,8 +24,6 @@ struct ExpectedBox {
     std::optional<std::string> title = std::nullopt;
     std::optional<Buttons> buttons = std::nullopt;
     std::optional<Icon> icon = std::nullopt;
-    /// Runs while the box is open: clicks elsewhere, time that passes.
-    std::function<void()> whileOpen = nullptr;
 };
 
 /// One file or folder dialog that the script awaits. No choice stands for Cancel.
@@ -45,15 +43,11 @@ public:
     void expectOpenFile(ExpectedChoice choice) { openFiles_.push_back(std::move(choice)); }
     void expectFolder(ExpectedChoice choice) { folders_.push_back(std::move(choice)); }
 
-    /// Every awaited box and dialog has come, and no other.
-    bool allAnswered() const { return problems().empty(); }
     /// What was awaited and did not come, and what came unawaited, a line each.
     std::string problems() const;
 
     /// All boxes so far, oldest first.
     const std::vector<MessageBox>& shown() const { return shown_; }
-    /// The records of the file dialogs as the program filled them in.
-    const std::vector<OpenFileRecord>& openFileRecords() const { return openFileRecords_; }
 
     Answer message(const MessageBox& box) override;
     bool getOpenFileName(OpenFileRecord& record) override;
@@ -68,7 +62,6 @@ private:
     std::deque<ExpectedChoice> openFiles_;
     std::deque<ExpectedChoice> folders_;
     std::vector<MessageBox> shown_;
-    std::vector<OpenFileRecord> openFileRecords_;
     std::vector<std::string> refused_;
 };
 

@@ -28,25 +28,13 @@ bool isFolder(const std::string& host) {
 }
 
 bool exists(const std::string& host) {
-    struct stat status;
-    return ::stat(host.c_str(), &status) == 0;
+    return ::access(host.c_str(), F_OK) == 0;
 }
 
 /// 0 for what is not there.
 std::uint64_t lengthOf(const std::string& host) {
     struct stat status;
     return ::stat(host.c_str(), &status) == 0 ? static_cast<std::uint64_t>(status.st_size) : 0;
-}
-
-int openFlags(OpenMode mode) {
-    switch (mode) {
-    case OpenMode::Read:
-        return O_RDONLY;
-    case OpenMode::ReadOrCreate:
-    case OpenMode::Create:
-        return O_RDWR;
-    }
-    return O_RDONLY;
 }
 
 int openHost(const std::string& host, int flags) {
@@ -86,12 +74,9 @@ void forEachEntry(const std::string& hostFolder, Visit visit) {
 
 } // namespace
 
-SimFiles::SimFiles(Faults& faults)
-    : faults_(faults) {}
-
-void SimFiles::mapDrive(char letter, const std::string& hostFolder) {
-    drives_[upper(std::string(1, letter))[0]] = hostFolder;
-}
+SimFiles::SimFiles(Faults& faults, std::string hostFolder)
+    : faults_(faults)
+    , root_(std::move(hostFolder)) {}
 
 std::string SimFiles::hostPath(const std::string& path) const {
     const auto asked = place(path);
@@ -159,12 +144,11 @@ std::unique_ptr<OpenFile> SimFiles::open(const std::string& path, OpenMode mode)
         (mode != OpenMode::Read && isReadOnly(path))) {
         return nullptr;
     }
-    const int flags = openFlags(mode);
-    int descriptor = openHost(asked->path, flags);
+    const bool writes = mode != OpenMode::Read;
+    int descriptor = openHost(asked->path, writes ? O_RDWR : O_RDONLY);
     if (descriptor < 0 && errno == ENOENT) {
-        const bool mayCreate = mode == OpenMode::ReadOrCreate || mode == OpenMode::Create;
-        if (const auto found = find(*asked, mayCreate)) {
-            descriptor = openHost(*found, mayCreate ? flags | O_CREAT : flags);
+        if (const auto found = find(*asked, writes)) {
+            descriptor = openHost(*found, writes ? O_RDWR | O_CREAT : O_RDONLY);
         }
     }
     if (descriptor < 0) {
@@ -182,17 +166,10 @@ std::unique_ptr<OpenFile> SimFiles::open(const std::string& path, OpenMode mode)
 
 std::optional<std::uint64_t> SimFiles::length(const std::string& path) {
     const auto asked = place(path);
-    if (faults_.strikes(Operation::LengthByName) || !asked) {
-        return std::nullopt;
-    }
+    const auto found = asked ? find(*asked) : std::nullopt;
     struct stat status;
-    if (::stat(asked->path.c_str(), &status) != 0) {
-        const auto found = find(*asked);
-        if (!found || ::stat(found->c_str(), &status) != 0) {
-            return std::nullopt;
-        }
-    }
-    if (S_ISDIR(status.st_mode)) {
+    if (faults_.strikes(Operation::LengthByName) || !found || ::stat(found->c_str(), &status) != 0 ||
+        S_ISDIR(status.st_mode)) {
         return std::nullopt;
     }
     return static_cast<std::uint64_t>(status.st_size);
@@ -261,7 +238,7 @@ bool SimFiles::searchTreeForFile(const std::string& root, const std::string& nam
         return false;
     }
     const std::string shown = root.back() == '\\' ? root : root + "\\";
-    const auto hit = searchFolder(*host, shown, upper(name));
+    const auto hit = searchFolder(*host, shown, SimCodePage::capitals(name));
     if (!hit || hit->size() > longestPath) {
         return false;
     }
@@ -278,9 +255,6 @@ std::uint32_t SimFiles::getShortPathName(const std::string& path, char* buffer, 
     std::string shortPath = path.substr(0, 3) + shortPathTo(*host, asked->rootLength);
     if (!asked->isRoot() && path.back() == '\\') {
         shortPath += '\\';
-    }
-    if (const auto set = shortPaths_.find(lockName(path)); set != shortPaths_.end()) {
-        shortPath = set->second;
     }
     const auto length = static_cast<std::uint32_t>(shortPath.size());
     if (length >= size) {
@@ -311,7 +285,7 @@ std::optional<std::string> SimFiles::searchFolder(const std::string& hostFolder,
             if (auto hit = searchFolder(host, shownFolder + name + "\\", upperName)) {
                 return hit;
             }
-        } else if (upper(name) == upperName) {
+        } else if (SimCodePage::capitals(name) == upperName) {
             return shownFolder + name;
         }
     }
@@ -319,20 +293,15 @@ std::optional<std::string> SimFiles::searchFolder(const std::string& hostFolder,
 }
 
 /// Takes a path apart as the system does: cut at the first zero, slashes of both kinds and runs of them
-/// alike, no blanks or dots at the end, no wildcards. Empty for a path that is not of the form `X:\...`.
+/// alike, no blanks or dots at the end, no wildcards. Empty for a path that is not of the form `C:\...`.
 std::optional<SimFiles::Place> SimFiles::place(const std::string& path) const {
     const std::string_view asked = path.c_str();
-    if (asked.size() < 3 || asked.size() > longestPath || asked[1] != ':' ||
-        (asked[2] != '\\' && asked[2] != '/') ||
+    const bool onDrive = asked.starts_with("C:\\") || asked.starts_with("c:\\");
+    if (!onDrive || asked.size() > longestPath ||
         asked.find_first_of("*?\"<>|", 2) != std::string_view::npos) {
         return std::nullopt;
     }
-    const char letter = static_cast<char>(SimCodePage().upper(static_cast<unsigned char>(asked[0])));
-    const auto drive = drives_.find(letter);
-    if (drive == drives_.end()) {
-        return std::nullopt;
-    }
-    Place result{drive->second, drive->second.size()};
+    Place result{root_, root_.size()};
     for (std::size_t from = 3; from < asked.size();) {
         const std::size_t slash = std::min(asked.find_first_of("\\/", from), asked.size());
         const std::string_view part = asked.substr(from, slash - from);
@@ -375,10 +344,10 @@ std::optional<std::string> SimFiles::find(const Place& asked, bool newLast) cons
 }
 
 std::string SimFiles::entryLike(const std::string& hostFolder, const std::string& name) const {
-    const std::string wanted = upper(name);
+    const std::string wanted = SimCodePage::capitals(name);
     std::string found;
     forEachEntry(hostFolder, [&](const std::string& entry) {
-        if (upper(entry) == wanted) {
+        if (SimCodePage::capitals(entry) == wanted) {
             found = entry;
         }
     });
@@ -394,7 +363,9 @@ std::string SimFiles::entryLike(const std::string& hostFolder, const std::string
 /// Without the dot entries, in the order of the upper-cased names.
 std::vector<std::string> SimFiles::namesIn(const std::string& hostFolder) const {
     std::vector<std::pair<std::string, std::string>> entries; // Upper-cased and as it is.
-    forEachEntry(hostFolder, [&](const std::string& entry) { entries.emplace_back(upper(entry), entry); });
+    forEachEntry(hostFolder, [&](const std::string& entry) {
+        entries.emplace_back(SimCodePage::capitals(entry), entry);
+    });
     std::sort(entries.begin(), entries.end());
     std::vector<std::string> names;
     names.reserve(entries.size());
@@ -404,17 +375,9 @@ std::vector<std::string> SimFiles::namesIn(const std::string& hostFolder) const 
     return names;
 }
 
-std::string SimFiles::upper(std::string text) const {
-    SimCodePage codePage;
-    for (char& character : text) {
-        character = static_cast<char>(codePage.upper(static_cast<unsigned char>(character)));
-    }
-    return text;
-}
-
 std::string SimFiles::lockName(const std::string& path) const {
     const auto asked = place(path);
-    return asked ? upper(asked->path) : std::string();
+    return asked ? SimCodePage::capitals(asked->path) : std::string();
 }
 
 bool SimFiles::isLocked(const std::string& path) const {

@@ -5,7 +5,6 @@
 
 #include <sys/types.h>
 
-#include <map>
 #include <set>
 #include <string>
 #include <vector>
@@ -14,15 +13,13 @@ namespace tarvelon {
 
 class Faults;
 
-/// Real files below host folders that stand for drives. Names count without regard to case, in code page
+/// Real files below a host folder that stands for drive C. Names count without regard to case, in code page
 /// 1252, and are kept on the host byte for byte; every entry is found by its short name too. A name in the
 /// right case costs what the host's own call costs.
 class SimFiles : public Files {
 public:
-    explicit SimFiles(Faults& faults);
+    SimFiles(Faults& faults, std::string hostFolder);
 
-    /// The drive's root is this existing host folder.
-    void mapDrive(char letter, const std::string& hostFolder);
     /// Where a path lies on the host, whether it exists or not. Throws std::invalid_argument for a bad path.
     std::string hostPath(const std::string& path) const;
 
@@ -41,10 +38,6 @@ public:
     void allowWrites(const std::string& path) { readOnly_.erase(lockName(path)); }
     /// Where files were moved to with bytes that a loss of power would have taken.
     const std::vector<std::string>& movedUnflushed() const { return movedUnflushed_; }
-    /// The short path of what is there, in place of the one made from its names.
-    void setShortPath(const std::string& path, const std::string& shortPath) {
-        shortPaths_[lockName(path)] = shortPath;
-    }
 
     std::string firstName(const std::string& folder) override;
     std::string nextName() override;
@@ -81,16 +74,14 @@ private:
     std::optional<std::string> searchFolder(const std::string& hostFolder, const std::string& shownFolder,
                                             const std::string& upperName) const;
 
-    std::string upper(std::string text) const;
     std::string lockName(const std::string& path) const;
     bool isLocked(const std::string& path) const;
     bool isReadOnly(const std::string& path) const;
 
     Faults& faults_;
-    std::map<char, std::string> drives_;
+    const std::string root_;
     std::set<std::string> locked_;
     std::set<std::string> readOnly_;
-    std::map<std::string, std::string> shortPaths_;
     std::set<ino_t> unflushed_; ///< Files by their numbers on the host.
     std::vector<std::string> movedUnflushed_;
     std::vector<std::string> listing_;

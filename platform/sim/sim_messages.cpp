@@ -19,21 +19,16 @@ SimMessages::SimMessages(SimClock& clock, SimView& view)
     : clock_(clock)
     , view_(view) {}
 
-void SimMessages::atPump(int n, Action action) {
-    script_.push_back({[due = pumps_ + n](int pump) { return pump >= due; }, std::move(action)});
-}
-
 void SimMessages::atQueueStatus(int n, Action action) {
-    script_.push_back(
-        {[this, due = statusCalls_ + n](int) { return statusCalls_ >= due; }, std::move(action)});
+    when([this, due = statusCalls_ + n] { return statusCalls_ >= due; }, std::move(action));
 }
 
 void SimMessages::when(std::function<bool()> condition, Action action) {
-    script_.push_back({[holds = std::move(condition)](int) { return holds(); }, std::move(action)});
+    script_.push_back({std::move(condition), std::move(action)});
 }
 
 void SimMessages::onWait(Action action) {
-    script_.push_back({[](int) { return false; }, std::move(action), true});
+    script_.push_back({[] { return false; }, std::move(action), true});
 }
 
 void SimMessages::advance(int milliseconds) {
@@ -46,8 +41,8 @@ void SimMessages::advance(int milliseconds) {
 }
 
 void SimMessages::pump() {
-    const int thisPump = ++pumps_;
-    for (auto step = readyStep(thisPump); step != script_.end(); step = readyStep(thisPump)) {
+    ++pumps_;
+    for (auto step = readyStep(); step != script_.end(); step = readyStep()) {
         const Action action = std::move(step->action);
         script_.erase(step);
         fruitlessWaits_ = 0;
@@ -60,13 +55,12 @@ void SimMessages::pump() {
 
 void SimMessages::wait() {
     const auto due = view_.nextDue();
-    if (readyStep(pumps_ + 1) != script_.end() || (due && *due <= clock_.now)) {
+    if (readyStep() != script_.end() || (due && *due <= clock_.now)) {
         return;
     }
-    const auto idleStep =
-        std::find_if(script_.begin(), script_.end(), [](const Step& step) { return step.awaitsIdle; });
+    const auto idleStep = std::ranges::find(script_, true, &Step::awaitsIdle);
     if (idleStep != script_.end()) {
-        idleStep->ready = [](int) { return true; };
+        idleStep->ready = [] { return true; };
         idleStep->awaitsIdle = false;
         return;
     }
@@ -82,15 +76,14 @@ std::uint32_t SimMessages::queueStatus(std::uint32_t flags) {
     ++statusCalls_;
     const auto due = view_.nextDue();
     std::uint32_t waiting = 0;
-    waiting |= readyStep(pumps_ + 1) != script_.end() ? mouseButtonInput : 0;
+    waiting |= readyStep() != script_.end() ? mouseButtonInput : 0;
     waiting |= due && *due <= clock_.now ? timerInput : 0;
     waiting &= flags;
     return waiting << 16 | waiting;
 }
 
-std::list<SimMessages::Step>::iterator SimMessages::readyStep(int pump) {
-    return std::find_if(script_.begin(), script_.end(),
-                        [pump](const Step& step) { return step.ready(pump); });
+std::list<SimMessages::Step>::iterator SimMessages::readyStep() {
+    return std::find_if(script_.begin(), script_.end(), [](const Step& step) { return step.ready(); });
 }
 
 } // namespace tarvelon

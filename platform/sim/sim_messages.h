@@ -26,9 +26,9 @@ public:
     SimMessages(SimClock& clock, SimView& view);
 
     /// The user acts now: the input waits for the next pump, and `queueStatus` tells of it.
-    void input(Action action) { atPump(1, std::move(action)); }
-    /// The input comes in time for the n-th pump from now; 1 is the next.
-    void atPump(int n, Action action);
+    void input(Action action) {
+        when([] { return true; }, std::move(action));
+    }
     /// The input comes in time for the n-th `queueStatus` from now, and waits for a pump from then on.
     void atQueueStatus(int n, Action action);
     /// The input comes as soon as the condition holds.
@@ -53,13 +53,12 @@ public:
 
 private:
     struct Step {
-        /// Asked with the number of the pump that runs or, outside pumps, that would run next.
-        std::function<bool(int pump)> ready;
+        std::function<bool()> ready;
         Action action;
         bool awaitsIdle = false;
     };
 
-    std::list<Step>::iterator readyStep(int pump);
+    std::list<Step>::iterator readyStep();
 
     SimClock& clock_;
     SimView& view_;

@@ -18,14 +18,6 @@ namespace {
 constexpr std::int32_t success = 0;
 constexpr Registry::Key firstKey = 0x100;
 
-std::string upper(const std::string& text) {
-    static const CaseRules cases = [] {
-        SimCodePage codePage;
-        return CaseRules(codePage);
-    }();
-    return cases.upper(text);
-}
-
 std::vector<std::string> namesIn(const std::string& path) {
     std::vector<std::string> names = split(path.c_str(), '\\');
     std::erase(names, "");
@@ -66,9 +58,10 @@ struct SimRegistry::Node {
     std::uint32_t denied = 0;
 
     auto valueLike(const std::string& asked) {
-        return std::ranges::find_if(values, [wanted = upper(asked.c_str())](const NamedValue& value) {
-            return upper(value.name) == wanted;
-        });
+        return std::ranges::find_if(values,
+                                    [wanted = SimCodePage::capitals(asked.c_str())](const NamedValue& value) {
+                                        return SimCodePage::capitals(value.name) == wanted;
+                                    });
     }
 };
 
@@ -88,7 +81,7 @@ SimRegistry::Node& SimRegistry::make(Key root, const std::string& path) {
     }
     Node* node = roots_.at(root).get();
     for (const std::string& name : namesIn(path)) {
-        std::unique_ptr<Node>& next = node->keys[upper(name)];
+        std::unique_ptr<Node>& next = node->keys[SimCodePage::capitals(name)];
         if (!next) {
             next = std::make_unique<Node>();
             next->name = name;
@@ -136,7 +129,7 @@ void SimRegistry::deny(Key root, const std::string& path, std::uint32_t rights) 
 SimRegistry::Node* SimRegistry::below(Node& start, const std::string& path) {
     Node* node = &start;
     for (const std::string& name : namesIn(path)) {
-        const auto next = node->keys.find(upper(name));
+        const auto next = node->keys.find(SimCodePage::capitals(name));
         if (next == node->keys.end()) {
             return nullptr;
         }

@@ -34,9 +34,8 @@ SimWorkstation::SimWorkstation()
     files.makeFolders(processes.file.substr(0, processes.file.rfind('\\') + 1));
 }
 
-SimWorkstation::SimWorkstation(const std::string& hostFolder) {
-    files.mapDrive('C', hostFolder);
-}
+SimWorkstation::SimWorkstation(const std::string& hostFolder)
+    : files(faults, hostFolder) {}
 
 SimWorkstation::~SimWorkstation() {
     if (!ownFolder_.empty()) {

@@ -38,7 +38,7 @@ public:
     Faults faults;
     SimClock clock;
     SimCodePage codePage;
-    SimFiles files{faults};
+    SimFiles files;
     SimFolders folders{faults};
     SimCrypto crypto{faults};
     SimView view{clock};
