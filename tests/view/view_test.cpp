@@ -1,6 +1,7 @@
 #include "platform/win32/view_theme.h"
 #include "platform/win32/win32_platform.h"
 #include "platform/win32/windows_api.h"
+#include "ui/controls/bar_chart.h"
 #include "ui/controls/tree.h"
 
 #include <gmock/gmock.h>
@@ -8,6 +9,7 @@
 #include <commctrl.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace tarvelon {
 
@@ -25,7 +27,6 @@ Box box; ///< Stands open while a test waits for its answer.
 void CALLBACK answerBox(HWND, UINT, UINT_PTR timer, DWORD) {
     KillTimer(nullptr, timer);
     EXPECT_FALSE(IsWindowEnabled(FindWindowA("TarvelonForm", "Sample")));
-    EXPECT_FALSE(IsWindowEnabled(FindWindowA("TarvelonForm", "Other")));
     const HWND window = FindWindowA("#32770", "TarvelonLow");
     EXPECT_TRUE(GetDlgItem(window, box.button) && !GetDlgItem(window, box.missing)) << box.button;
     SendMessageA(window, WM_COMMAND, static_cast<WPARAM>(box.button), 0);
@@ -35,7 +36,8 @@ struct SampleScreen : Screen {
     SampleScreen()
         : Screen("Sample", 400, 330) {}
 
-    Frame page{*this, at(0, 0, 400, 260)};
+    Frame page{*this, "", at(0, 0, 400, 260)};
+    Label step{page, "Step", at(8, 8, 120, 16), TextStyle::Step};
     Label gauge{page, "50%", at(200, 8, 192, 16), TextStyle::Gauge};
     FlatButton button{page, "A && B", at(8, 32, 120, 32)};
     Label action{page, "An action", at(136, 32, 120, 32), TextStyle::Action};
@@ -44,12 +46,14 @@ struct SampleScreen : Screen {
     OptionButton second{page, "Second", at(136, 104, 120, 24)};
     TextBox text{page, at(8, 136, 120, 24)};
     ListBox list{page, at(8, 168, 120, 80)};
-    ListBox unseenList{page, at(136, 168, 120, 80), false};
+    BarChart chart{page, "Chart", 2, at(136, 168, 120, 80)};
     CheckListBox checkList{page, at(264, 168, 120, 80)};
     ProgressBar bar{page, at(264, 104, 120, 16)};
     Tree tree{page, at(264, 32, 120, 60)};
     Picture lit{*this, at(300, 262, 64, 64), "restart-lit", "Restart"};
     Picture plain{*this, at(300, 262, 64, 64), "restart", "Restart"};
+    Frame navigation{*this, at(8, 264, 120, 60)};
+    NavButton entry{navigation, "Entry", at(0, 0, 120, 60), "integrity"};
 };
 
 class View : public testing::Test {
@@ -57,6 +61,7 @@ protected:
     View() {
         platform.view().attach(screen);
         screen.lit.Visible = false;
+        screen.checkList.Enabled = false;
         screen.show();
         form = FindWindowA("TarvelonForm", "Sample");
     }
@@ -72,7 +77,7 @@ protected:
     /// The control's window, as another program finds it by its number.
     HWND windowOf(const Control& control) const {
         const auto number = 100 + std::ranges::find(screen.controls(), &control) - screen.controls().begin();
-        return GetDlgItem(control.frame() ? GetDlgItem(form, 100) : form, static_cast<int>(number));
+        return GetDlgItem(control.frame() ? windowOf(*control.frame()) : form, static_cast<int>(number));
     }
 
     LRESULT ask(const Control& control, UINT message, WPARAM wide = 0, LPARAM low = 0) const {
@@ -121,16 +126,16 @@ protected:
 };
 
 TEST_F(View, CaptionsAnswerAtOnce) {
-    for (int turn = 0; turn < 100; ++turn) {
-        screen.Caption = "Sample " + std::to_string(turn);
-        screen.gauge.Caption = screen.Caption();
-        ASSERT_EQ(textOf(windowOf(screen.gauge)), screen.gauge.Caption());
-        ASSERT_EQ(textOf(form), screen.Caption());
+    for (const char* caption : {"Sample 1", "Sample 23"}) {
+        screen.Caption = caption;
+        screen.gauge.Caption = caption;
+        EXPECT_EQ(textOf(form), caption);
+        EXPECT_EQ(textOf(windowOf(screen.gauge)), caption);
     }
     EXPECT_EQ(ask(screen.gauge, WM_GETTEXTLENGTH), 9);
     EXPECT_EQ(textOf(windowOf(screen.gauge), 5), "Samp") << "Cut to the buffer, its zero included";
     pumpFor(60);
-    EXPECT_EQ(FindWindowA("TarvelonForm", "Sample 99"), form);
+    EXPECT_EQ(FindWindowA("TarvelonForm", "Sample 23"), form);
 }
 
 TEST_F(View, ControlsAreDrawnInTheirLastState) {
@@ -140,6 +145,10 @@ TEST_F(View, ControlsAreDrawnInTheirLastState) {
         screen.checkList.add(row);
     }
     screen.list.setListIndex(2);
+    screen.chart.add("1", 5);
+    screen.chart.add("2", 10);
+    screen.chart.mark(1);
+    screen.entry.Current = true;
     screen.bar.setMax(400);
     screen.bar.setValue(300);
     screen.second.setValue(true);
@@ -149,8 +158,12 @@ TEST_F(View, ControlsAreDrawnInTheirLastState) {
                  {screen.action, 0, theme.action.border},
                  {screen.action, 4, theme.action.normal},
                  {screen.check, 9, theme.field},
-                 {screen.check, 110, theme.page.ground},
-                 {screen.second, 4, theme.selected},
+                 {screen.check, 110, theme.card.ground},
+                 {screen.page, 4, theme.card.ground},
+                 {screen.chart, 30, theme.card.ground},
+                 {screen.chart, 90, theme.bar},
+                 {screen.entry, 110, theme.navigationCurrent},
+                 {screen.second, 4, RGB(0x3A, 0x63, 0x91)},
                  {screen.second, 9, theme.selectedText},
                  {screen.list, 2, theme.selected},
                  {screen.checkList, 2, theme.field},
@@ -169,40 +182,49 @@ TEST_F(View, ControlsAreDrawnInTheirLastState) {
                  {screen.button, 4, theme.button.hovered},
                  {screen.action, 4, theme.action.pressed},
                  {screen.check, 14, theme.selected},
+                 {screen.check, 10, theme.selectedText},
                  {screen.second, 4, theme.disabledText},
                  {screen.plain, 15, theme.restart.disabled}});
 }
 
 TEST_F(View, ButtonsArePressedByMouseKeysAndOtherPrograms) {
-    screen.button.onClick = screen.check.onClick = hear("click ");
+    screen.button.onClick = screen.check.onClick = screen.step.onClick = screen.gauge.onClick =
+        hear("click ");
     screen.action.onMouseDown = hear("down ");
     screen.action.onMouseUp = hear("up ");
     screen.action.onClick = hear("action ");
-    ask(screen.button, BM_CLICK);
-    ask(screen.check, BM_CLICK);
+    for (const Control* button : {static_cast<Control*>(&screen.button), static_cast<Control*>(&screen.check),
+                                  static_cast<Control*>(&screen.step)}) {
+        ask(*button, BM_CLICK);
+    }
     EXPECT_EQ(ask(screen.check, BM_GETCHECK), BST_CHECKED);
+    EXPECT_EQ(ask(screen.gauge, WM_NCHITTEST), HTCLIENT);
+    click(screen.gauge, 5, 5);
     click(screen.button, 60, 16);
+    EXPECT_EQ(std::exchange(heard, ""), "click click click click click ");
     ask(screen.action, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(60, 16));
     ask(screen.action, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(60, 90));
-    EXPECT_EQ(heard, "click click click down up ") << "The mouse has left while held";
+    EXPECT_EQ(heard, "down up ") << "The mouse has left while held";
     ask(screen.action, WM_LBUTTONUP, 0, MAKELPARAM(60, 90));
-    heard.clear();
-    screen.button.Enabled = false;
-    ask(screen.button, BM_CLICK);
+    screen.action.Enabled = false;
     click(screen.action, 60, 16);
-    EXPECT_EQ(heard, "down up action ");
-
+    EXPECT_EQ(std::exchange(heard, ""), "down up up ");
+    screen.action.Enabled = true;
     for (const bool stays : {false, true}) {
         SetFocus(windowOf(screen.action));
         ask(screen.action, WM_KEYDOWN, VK_SPACE, 1);
         SetFocus(windowOf(stays ? screen.action : static_cast<const Control&>(screen.text)));
         ask(screen.action, WM_KEYUP, VK_SPACE, static_cast<LPARAM>(0xC0000001));
     }
-    EXPECT_EQ(heard, "down up action down up down up action ");
+    EXPECT_EQ(heard, "down up down up action ");
 
     EXPECT_TRUE(isTabStop(screen.first) && isTabStop(screen.second));
     ask(screen.second, BM_CLICK);
     EXPECT_TRUE(isTabStop(screen.second) && !isTabStop(screen.first)) << "Tab leads to the choice";
+    SetFocus(windowOf(screen.second));
+    PostMessageA(windowOf(screen.second), WM_KEYDOWN, VK_RIGHT, 1);
+    pumpFor(0);
+    EXPECT_EQ(GetFocus(), windowOf(screen.first)) << "The arrows go round among the choices";
     ask(screen.first, BM_CLICK);
     EXPECT_EQ(ask(screen.second, BM_GETCHECK), BST_UNCHECKED);
     for (const int x : {40, 4}) {
@@ -212,21 +234,21 @@ TEST_F(View, ButtonsArePressedByMouseKeysAndOtherPrograms) {
 }
 
 TEST_F(View, KeysGoOnlyToWhatIsSeen) {
-    screen.unseenList.add("row");
-    pumpFor(60);
-    EXPECT_FALSE(IsWindowVisible(windowOf(screen.unseenList))) << "New rows bring nothing to light";
     SetFocus(windowOf(screen.check));
-    screen.check.Visible = false;
+    screen.check.Visible = screen.navigation.Visible = false;
     pumpFor(60);
-    EXPECT_TRUE(GetFocus() != windowOf(screen.check) && GetFocus() != form);
+    EXPECT_EQ(GetFocus(), windowOf(screen.step)) << "The first that takes them";
 
     // The character of the key comes behind the click, to a button that is hidden by then.
-    screen.button.onClick = [&] { screen.page.Visible = false; };
+    screen.button.onClick = [&] {
+        screen.page.Visible = false;
+        screen.navigation.Visible = true;
+    };
     SetFocus(windowOf(screen.button));
     PostMessageA(windowOf(screen.button), WM_KEYDOWN, VK_RETURN, 1);
     pumpFor(60);
     EXPECT_FALSE(IsWindowVisible(windowOf(screen.gauge)));
-    EXPECT_EQ(GetFocus(), windowOf(screen.plain));
+    EXPECT_EQ(GetFocus(), windowOf(screen.entry)) << "On the page that has come";
 
     // A lit picture takes the mouse and leaves the keyboard to the plain one below.
     screen.plain.onFocusLost = [&] { screen.lit.Visible = false; };
@@ -234,16 +256,24 @@ TEST_F(View, KeysGoOnlyToWhatIsSeen) {
     screen.plain.onKeyClick = hear("plain ");
     screen.lit.onClick = hear("lit");
     screen.lit.Visible = true;
-    ask(screen.plain, WM_KEYDOWN, VK_RETURN, 1);
+    for (const WPARAM key : {VK_SPACE, VK_RETURN}) {
+        ask(screen.plain, WM_KEYDOWN, key, 1);
+        ask(screen.plain, WM_KEYUP, key, static_cast<LPARAM>(0xC0000001));
+    }
     click(screen.lit, 32, 32);
     EXPECT_EQ(GetFocus(), windowOf(screen.plain));
-    EXPECT_EQ(heard, "press plain lit");
+    EXPECT_EQ(heard, "press plain press plain lit");
     RECT place;
     GetWindowRect(windowOf(screen.lit), &place);
     EXPECT_EQ(ask(screen.lit, WM_NCHITTEST, 0, MAKELPARAM(place.left + 32, place.top + 32)), HTCLIENT);
     EXPECT_EQ(ask(screen.lit, WM_NCHITTEST, 0, MAKELPARAM(place.left + 2, place.top + 2)), HTTRANSPARENT);
     EXPECT_FALSE(isTabStop(screen.lit));
-    SetFocus(form);
+    for (const bool usable : {false, true}) {
+        screen.plain.Enabled = usable;
+        screen.navigation.Visible = usable;
+        pumpFor(60);
+        EXPECT_EQ(GetFocus(), usable ? windowOf(screen.entry) : form) << "As soon as something takes them";
+    }
     EXPECT_FALSE(IsWindowVisible(windowOf(screen.lit)));
 }
 
@@ -262,7 +292,14 @@ TEST_F(View, RowsFollowAndAreChosen) {
     char text[32] = {};
     ask(screen.list, LB_GETTEXT, 1, reinterpret_cast<LPARAM>(text));
     EXPECT_EQ(heard, text) << "Selected by code, it raises no click";
+    ask(screen.list, LB_SETTOPINDEX, 500);
+    screen.list.replace(5, std::string(99, 'w'));
+    EXPECT_EQ(ask(screen.list, LB_GETTOPINDEX), 500) << "Rows that change do not move";
+    EXPECT_GT(ask(screen.list, LB_GETHORIZONTALEXTENT), 400) << "As far as the longest";
 
+    EXPECT_FALSE(IsWindowEnabled(windowOf(screen.checkList)));
+    screen.checkList.Enabled = true;
+    EXPECT_TRUE(IsWindowEnabled(windowOf(screen.checkList)));
     screen.checkList.add("first");
     screen.checkList.add("second");
     EXPECT_EQ(ask(screen.checkList, LB_GETCOUNT), 2);
@@ -271,6 +308,9 @@ TEST_F(View, RowsFollowAndAreChosen) {
     EXPECT_TRUE(screen.checkList.ticked(1) && ask(screen.checkList, LB_GETITEMDATA, 1) == 1);
     ask(screen.checkList, WM_KEYDOWN, VK_SPACE);
     EXPECT_FALSE(screen.checkList.ticked(1));
+    ask(screen.checkList, WM_KEYDOWN, VK_UP);
+    ask(screen.checkList, WM_KEYDOWN, VK_SPACE);
+    EXPECT_TRUE(screen.checkList.ticked(0));
 
     screen.text.onChange = hear(" typed");
     screen.text.Caption = "by code";
@@ -286,9 +326,10 @@ TEST_F(View, ATreeMayBeFilledAnewByItsOwnClickAndKeys) {
         screen.tree.clear();
         screen.tree.addRoot("root", "Root");
         screen.tree.addChild("root", "value", std::string("seen\0unseen", 11));
+        screen.tree.addChild("root", "last", "Last");
     };
     fill();
-    LRESULT shown = 2;
+    LRESULT shown = 3;
     screen.tree.onDoubleClick = hear("twice ");
     screen.tree.onExpandOrCollapse = hear("opened ");
     screen.tree.onNodeClick = [&] {
@@ -315,7 +356,7 @@ TEST_F(View, ATreeMayBeFilledAnewByItsOwnClickAndKeys) {
     shown = 1;
     ask(screen.tree, WM_KEYDOWN, VK_DOWN, 1); // The keyboard finds its way in where nothing is selected.
     platform.view().refresh();
-    shown = 2;
+    shown = 3;
     ask(screen.tree, WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(30, 10));
     EXPECT_EQ(heard, "root opened value other root twice opened ");
 }
@@ -330,16 +371,22 @@ TEST_F(View, FormsComeForwardCloseAndAreAllBlockedByABox) {
         other.show();
         pumpFor(0);
     };
+    screen.onMouseMove = hear("over ");
+    SendMessageA(form, WM_MOUSEMOVE, 0, 0);
+    SetFocus(windowOf(screen.text));
     PostMessageA(windowOf(screen.button), BM_CLICK, 0, 0);
     PostMessageA(windowOf(screen.text), WM_KEYDOWN, VK_SHIFT, 1);
     PostMessageA(windowOf(screen.text), WM_KEYUP, VK_SHIFT, static_cast<LPARAM>(0xC0000001));
     pumpFor(0);
-    EXPECT_EQ(heard, "16-16");
+    EXPECT_EQ(heard, "over 16-16");
     const HWND otherForm = FindWindowA("TarvelonForm", "Other");
+    SetForegroundWindow(form);
+    EXPECT_EQ(GetFocus(), windowOf(screen.text)) << "As it was left";
     for (const bool iconic : {false, true}) {
-        iconic ? ShowWindow(otherForm, SW_MINIMIZE) : SetForegroundWindow(form);
+        other.Minimized = iconic;
+        EXPECT_EQ(IsIconic(otherForm) != FALSE, iconic);
         other.show();
-        EXPECT_TRUE(GetActiveWindow() == otherForm && !IsIconic(otherForm)) << iconic;
+        EXPECT_TRUE(GetActiveWindow() == otherForm && !IsIconic(otherForm) && !other.Minimized()) << iconic;
     }
     for (const Box& shown :
          {Box{Buttons::Ok, IDOK, Answer::Ok, IDCANCEL},
