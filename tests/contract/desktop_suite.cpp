@@ -13,8 +13,6 @@ namespace {
 using testing::ElementsAre;
 using Window = Desktop::Window;
 
-constexpr std::uint32_t closeMessage = 16;
-
 TEST_F(Contract, WindowsAreMetFoundAndClosed) {
     Desktop& desktop = platform.desktop;
     /// Those of these windows that the walk meets, from the front to the back.
@@ -33,16 +31,16 @@ TEST_F(Contract, WindowsAreMetFoundAndClosed) {
         (desktop.*call)(window, buffer.data(), size);
         return std::string(buffer.c_str());
     };
-    const Window plain = workstation->openWindow("Contract Window", "ContractOne");
-    const Window untitled = workstation->openWindow("", "ContractOne");
-    const Window hidden = workstation->openWindow("Contract Hidden", "ContractTwo", false);
-    const Window twin = workstation->openWindow("Contract Window", "ContractTwo");
+    const Window plain = workstation->openWindow("Contract Window", "Static", true);
+    const Window untitled = workstation->openWindow("", "Static", true);
+    const Window hidden = workstation->openWindow("Contract Hidden", "ScrollBar", false);
+    const Window twin = workstation->openWindow("Contract Window", "ScrollBar", true);
     EXPECT_EQ(text(&Desktop::windowText, plain), "Contract Window");
     EXPECT_EQ(text(&Desktop::windowText, untitled), "");
-    EXPECT_EQ(text(&Desktop::className, hidden), "ContractTwo");
+    EXPECT_EQ(text(&Desktop::className, hidden), "ScrollBar");
     EXPECT_EQ(desktop.processOf(hidden), workstation->windowProcess);
     EXPECT_EQ(text(&Desktop::windowText, plain, 9), "Contract") << "Cut, and ended by a zero";
-    EXPECT_EQ(text(&Desktop::className, plain, 9), "Contract");
+    EXPECT_EQ(text(&Desktop::className, plain, 5), "Stat");
 
     for (const auto& [front, back] : {std::pair{plain, twin}, {twin, plain}}) {
         desktop.bringToTop(front);
@@ -50,10 +48,11 @@ TEST_F(Contract, WindowsAreMetFoundAndClosed) {
         EXPECT_EQ(desktop.find(std::nullopt, "contract WINDOW"), front);
     }
     EXPECT_THAT(walk({untitled, hidden}), testing::UnorderedElementsAre(untitled, hidden));
-    EXPECT_EQ(desktop.find("contractONE", "Contract Window"), plain);
-    EXPECT_EQ(desktop.find("ContractOne", "Contract Hidden"), 0u);
+    EXPECT_EQ(desktop.find("sTATIC", "Contract Window"), plain);
+    EXPECT_EQ(desktop.find("Static", "Contract Hidden"), 0u);
     EXPECT_EQ(desktop.find(std::nullopt, "Contract"), 0u);
 
+    constexpr std::uint32_t closeMessage = 16;
     desktop.send(hidden, closeMessage);
     EXPECT_EQ(desktop.find(std::nullopt, "Contract Hidden"), 0u);
     for (const Window none : {hidden, Window{0}}) {
@@ -69,7 +68,7 @@ TEST_F(Contract, WindowsAreMetFoundAndClosed) {
 TEST_F(Contract, OnlyTheProgramThatIsNamedIsStartedAndNotAwaited) {
     // On Windows this very test, which lists itself.
     put("two three.exe", read(platform.processes.programFile()));
-    ASSERT_TRUE(put("two.exe", "in the other's place"));
+    ASSERT_TRUE(put("two.exe", "in the other's place") && put("two three", "no program"));
     const std::string made = folder + "made.json";
     const std::string program = folder + "two three";
     std::string arguments = "--gtest_list_tests --gtest_output=json:" + made + " ";

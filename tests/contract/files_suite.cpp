@@ -1,6 +1,7 @@
 #include "tests/contract/contract_fixture.h"
 
 #include <cstring>
+#include <tuple>
 
 namespace tarvelon {
 
@@ -26,18 +27,12 @@ TEST_F(Contract, OneListingGivesAllNamesInOrder) {
 }
 
 TEST_F(Contract, OpenModesMakeAndKeepWhatTheySay) {
-    struct {
-        OpenMode mode;
-        const char* missing; ///< What then stands in a file that was not there.
-        const char* kept;    ///< And in one that was.
-        bool writes;
-    } const cases[] = {
-        {OpenMode::Read, "(cannot be opened)", "content", false},
-        {OpenMode::ReadOrCreate, "", "content", true},
-        {OpenMode::Create, "", "", true},
-    };
     ASSERT_TRUE(files.createFolder(folder + "sub"));
-    for (const auto& [mode, missing, kept, writes] : cases) {
+    // What then stands in a file that was not there, and in one that was.
+    for (const auto& [mode, missing, kept, writes] :
+         {std::tuple{OpenMode::Read, "(cannot be opened)", "content", false},
+          {OpenMode::ReadOrCreate, "", "content", true},
+          {OpenMode::Create, "", "", true}}) {
         files.remove(folder + "made");
         files.open(folder + "made", mode);
         EXPECT_EQ(get("made"), missing);
@@ -68,10 +63,8 @@ TEST_F(Contract, PositionsAndLengths) {
     }
     EXPECT_EQ(file->readAt(7, buffer, 8), 3u) << "Fewer come at the end";
     EXPECT_EQ(file->readAt(99, buffer, 8), 0u);
-    EXPECT_TRUE(file->writeAt(2, "xx"));
-    EXPECT_TRUE(file->writeAt(4, "y"));
-    EXPECT_TRUE(file->setLength(5));
-    EXPECT_TRUE(file->flush());
+    EXPECT_TRUE(file->writeAt(2, "xx") && file->writeAt(4, "y"));
+    EXPECT_TRUE(file->setLength(5) && file->flush());
     EXPECT_EQ(file->length(), 5u);
     EXPECT_TRUE(file->writeAt(7, "end"));
     EXPECT_EQ(get("f"), "01xxy\0\0end"s) << "The gap is zeros";
@@ -83,14 +76,13 @@ TEST_F(Contract, PositionsAndLengths) {
 }
 
 TEST_F(Contract, FilesAreMovedAndRemovedUnlessHeld) {
-    ASSERT_TRUE(put("to", "a longer old content"));
+    ASSERT_TRUE(put("from", "new content") && put("to", "a longer old content"));
     const auto expectLeft = [&] {
         EXPECT_FALSE(files.open(folder + "TO", OpenMode::ReadOrCreate));
         EXPECT_FALSE(files.open(folder + "TO", OpenMode::Create));
         EXPECT_FALSE(files.move(folder + "from", folder + "to"));
         EXPECT_FALSE(files.remove(folder + "to"));
     };
-    ASSERT_TRUE(put("from", "new content"));
     auto lock = workstation->lock(folder + "to");
     expectLeft();
     EXPECT_EQ(get("to"), "(cannot be opened)");

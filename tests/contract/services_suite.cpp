@@ -93,8 +93,7 @@ TEST_F(Contract, TimersTickInPumpsWhileEnabled) {
         platform.messages.wait();
         platform.messages.pump();
     }
-    EXPECT_EQ(ticks, 3);
-    EXPECT_EQ(shots, 1);
+    EXPECT_TRUE(ticks == 3 && shots == 1);
     EXPECT_EQ(platform.messages.queueStatus(0x85), 0u) << "No key, mouse button or hot key waits";
     workstation.reset();
 }

@@ -53,7 +53,7 @@ public:
         }
         return {};
     }
-    Desktop::Window openWindow(const std::string& title, const std::string& className, bool visible = true) {
+    Desktop::Window openWindow(const std::string& title, const std::string& className, bool visible) {
         return sim_.desktop.open({title, className, windowProcess, visible});
     }
     const std::uint32_t windowProcess = 4321;

@@ -27,12 +27,7 @@ public:
         std::filesystem::create_directory(folder);
         makeKey(key);
     }
-    ~ContractWorkstation() {
-        for (const HWND window : windows_) {
-            DestroyWindow(window);
-        }
-        empty();
-    }
+    ~ContractWorkstation() { empty(); }
 
     Platform platform() { return win32_.platform(); }
     /// False when this machine does not hold anybody back from writing: Wine does not, for its administrator.
@@ -44,7 +39,6 @@ public:
     /// Keeps the file open so that nobody else can, until the result goes.
     std::shared_ptr<void> lock(const std::string& path) {
         const HANDLE file = CreateFileA(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
-        EXPECT_NE(file, INVALID_HANDLE_VALUE) << path;
         return std::shared_ptr<void>(file, CloseHandle);
     }
     void makeKey(const std::string& path) {
@@ -87,28 +81,18 @@ public:
         EXPECT_HRESULT_SUCCEEDED(link->GetArguments(arguments, MAX_PATH));
         EXPECT_HRESULT_SUCCEEDED(link->GetDescription(description, MAX_PATH));
         EXPECT_HRESULT_SUCCEEDED(link->GetIconLocation(icon, MAX_PATH, &iconIndex));
-        std::string read;
-        for (const char* text : texts) {
-            read += std::string(text) + "|";
-        }
         // Wine's object reads the normal window out of every file, whatever stands in its header.
         std::int32_t show = -1;
         EXPECT_EQ(Win32Files().open(path, OpenMode::Read)->readAt(60, &show, sizeof show), sizeof show);
-        return read + std::to_string(iconIndex) + "|" + std::to_string(show);
+        return std::string(target) + "|" + workingDirectory + "|" + arguments + "|" + description + "|" +
+               icon + "|" + std::to_string(iconIndex) + "|" + std::to_string(show);
     }
-    /// Opens a window that closes when it is asked to, at the latest together with the workstation.
-    Desktop::Window openWindow(const std::string& title, const std::string& className, bool visible = true) {
-        WNDCLASSA description{};
-        description.lpfnWndProc = DefWindowProcA;
-        description.lpszClassName = className.c_str();
-        RegisterClassA(&description); // Fails for one that is there, which serves as well.
+    /// Opens a window that closes when it is asked to. A class of the system's own serves.
+    static Desktop::Window openWindow(const std::string& title, const std::string& className, bool visible) {
         // A kind of window that no window manager has to be waited for.
-        const HWND window = CreateWindowExA(WS_EX_TOOLWINDOW, className.c_str(), title.c_str(), WS_POPUP, 0,
-                                            0, 200, 100, nullptr, nullptr, nullptr, nullptr);
-        EXPECT_NE(window, nullptr) << title;
-        ShowWindow(window, visible ? SW_SHOWNOACTIVATE : SW_HIDE);
-        windows_.push_back(window);
-        return reinterpret_cast<Desktop::Window>(window);
+        return reinterpret_cast<Desktop::Window>(CreateWindowExA(
+            WS_EX_TOOLWINDOW, className.c_str(), title.c_str(), WS_POPUP | (visible ? WS_VISIBLE : 0), 0, 0,
+            200, 100, nullptr, nullptr, nullptr, nullptr));
     }
     /// The process that these windows belong to.
     const std::uint32_t windowProcess = GetCurrentProcessId();
@@ -128,7 +112,6 @@ private:
 
     Win32Platform win32_;
     std::string readOnly_;
-    std::vector<HWND> windows_;
 };
 
 } // namespace tarvelon

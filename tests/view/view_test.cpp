@@ -272,8 +272,8 @@ TEST_F(View, KeysGoOnlyToWhatIsSeen) {
     EXPECT_EQ(ask(screen.lit, WM_NCHITTEST, 0, MAKELPARAM(place.left + 2, place.top + 2)), HTTRANSPARENT);
     EXPECT_FALSE(isTabStop(screen.lit));
     for (const bool usable : {false, true}) {
-        screen.plain.Enabled = usable;
         screen.navigation.Visible = usable;
+        screen.plain.Enabled = usable;
         pumpFor(60);
         EXPECT_EQ(GetFocus(), usable ? windowOf(screen.entry) : form) << "As soon as something takes them";
     }
