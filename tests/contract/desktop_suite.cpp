@@ -68,7 +68,7 @@ TEST_F(Contract, WindowsAreMetFoundAndClosed) {
 TEST_F(Contract, OnlyTheProgramThatIsNamedIsStartedAndNotAwaited) {
     // On Windows this very test, which lists itself.
     put("two three.exe", read(platform.processes.programFile()));
-    ASSERT_TRUE(put("two.exe", "in the other's place") && put("two three", "no program"));
+    ASSERT_TRUE(put("two.exe", "in the other's place"));
     const std::string made = folder + "made.json";
     const std::string program = folder + "two three";
     std::string arguments = "--gtest_list_tests --gtest_output=json:" + made + " ";

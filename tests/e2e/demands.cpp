@@ -66,36 +66,6 @@ std::string whatIsWrongWithFocus(const Program& program) {
                                                                                  : "";
 }
 
-/// Every line but comments has the mark, the last is whole, and so many sections begin.
-void demandLines(const std::string& name, const std::string& text, const std::string& mark, int sections) {
-    std::size_t from = 0;
-    for (std::size_t end = 0; (end = text.find("\r\n", from)) != std::string::npos; from = end + 2) {
-        const std::string line = text.substr(from, end - from);
-        const bool isHead = line.starts_with("[") && line.ends_with("]");
-        sections -= isHead ? 1 : 0;
-        if (!isHead && !line.empty() && !line.starts_with("//") && line.find(mark) == std::string::npos) {
-            throw NotSeen(name + " holds \"" + line + "\"");
-        }
-    }
-    if (from != text.size() || sections != 0) {
-        throw NotSeen(name + (sections != 0 ? " lacks sections" : " breaks off in its last line"));
-    }
-}
-
-void demandOneFolder(const std::string& name, const std::string& text,
-                     char (*folderOf)(const std::string& name)) {
-    std::istringstream lines(text);
-    std::set<char> folders;
-    for (std::string line; std::getline(lines, line);) {
-        if (line.find('=') != std::string::npos) {
-            folders.insert(folderOf(line));
-        }
-    }
-    if (folders.size() > 1) {
-        throw NotSeen(name + " holds entries of several folders");
-    }
-}
-
 } // namespace
 
 void demandUsable(const Program& program) {
@@ -117,18 +87,28 @@ void demandUsable(const Program& program) {
     }
 }
 
-void demandWholeFiles(const ProgramFolder& folder, char (*folderOf)(const std::string& name)) {
+void demandWholeFiles(const ProgramFolder& folder) {
     for (const std::string& name : namesIn(folder.path() + "Data\\")) {
-        const std::string text = folder.data(name).value_or("");
-        if (name == "Tarvelon.dat") {
-            demandLines(name, text, "=", 21);
-        } else if (name == "Registry.dat") {
-            demandLines(name, text, "=", 17);
-        } else if (name != "Log") {
-            demandLines(name, text, "*E", 9);
-            if (std::isdigit(static_cast<unsigned char>(name[0])) != 0) {
-                demandOneFolder(name, text, folderOf); // The system's own may hold names of the others.
+        const bool isSettings = name == "Tarvelon.dat";
+        const bool isBaseline = !isSettings && name != "Registry.dat";
+        int sections = name == "Log" ? 0 : isSettings ? 21 : isBaseline ? 9 : 17;
+        std::set<bool> folders;
+        std::istringstream lines(folder.data(name).value_or(""));
+        for (std::string line; std::getline(lines, line);) {
+            const bool isHead = line.starts_with("[");
+            const bool isEntry = !isHead && !line.starts_with("//") && line != "\r";
+            sections -= isHead ? 1 : 0;
+            if (!line.ends_with('\r') ||
+                (isEntry && line.find(isBaseline ? "*E" : "=") == std::string::npos)) {
+                throw NotSeen(name + " holds \"" + line + "\"");
             }
+            if (isEntry && line.find('=') != std::string::npos) {
+                folders.insert(std::isdigit(static_cast<unsigned char>(line[0])) != 0);
+            }
+        }
+        const bool isOfAnAddedFolder = std::isdigit(static_cast<unsigned char>(name[0])) != 0;
+        if (sections != 0 || (isOfAnAddedFolder && folders.size() > 1)) {
+            throw NotSeen(name + (sections != 0 ? " lacks sections" : " holds entries of two folders"));
         }
     }
 }

@@ -10,8 +10,8 @@ namespace e2e {
 /// Every window of the program answers, something of it can be used, and the keyboard is where it is of use.
 void demandUsable(const Program& program);
 
-/// Its settings, baselines and snapshot are complete, and no baseline of an added folder holds names of two.
-/// `folderOf` tells them apart.
-void demandWholeFiles(const ProgramFolder& folder, char (*folderOf)(const std::string& name));
+/// Its settings, baselines and snapshot are complete, and no baseline of an added folder holds names that
+/// begin with a digit beside others: those lie in another folder.
+void demandWholeFiles(const ProgramFolder& folder);
 
 } // namespace e2e

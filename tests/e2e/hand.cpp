@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdlib>
 
 namespace e2e {
 
@@ -26,16 +25,19 @@ constexpr Key keys[] = {{24, 0, VK_TAB, "Tab"},       {8, VK_SHIFT, VK_TAB, "Shi
                         {2, 0, VK_END, "End"},        {2, 0, VK_PRIOR, "Page Up"},
                         {1, VK_MENU, VK_F4, "Alt+F4"}};
 
-/// Texts of controls that may end the program.
-constexpr std::array endings = {"Exit", "Cancel", "Close Integrity Check Window", "Scan Failing Files..."};
-
-bool mayEnd(HWND control) {
-    return std::ranges::count(endings, withoutMarks(shownText(control))) > 0 ||
-           classOf(GetAncestor(control, GA_ROOT)) == "#32770";
+/// Labels, and what may end the program.
+bool isDull(HWND control) {
+    constexpr std::array endings = {"Exit", "Cancel", "Close Integrity Check Window",
+                                    "Scan Failing Files..."};
+    return (GetWindowLongA(control, GWL_STYLE) & WS_TABSTOP) == 0 ||
+           std::ranges::count(endings, withoutMarks(shownText(control))) > 0;
 }
 
-LONG middleOfTitle(const RECT& window) {
-    return window.top + GetSystemMetrics(SM_CYFIXEDFRAME) + GetSystemMetrics(SM_CYCAPTION) / 2;
+/// Half-way down the title bar, so far from its right end.
+POINT onTitle(HWND window, LONG fromRight) {
+    const RECT place = placeOf(window);
+    return {place.right - fromRight,
+            place.top + GetSystemMetrics(SM_CYFIXEDFRAME) + GetSystemMetrics(SM_CYCAPTION) / 2};
 }
 
 /// Somewhere well inside.
@@ -48,32 +50,20 @@ POINT pointIn(const RECT& place, Chance& chance) {
     return {x, between(place.top, place.bottom)};
 }
 
-void press(const POINT& where, int times = 1) {
+/// Presses here and lets go there.
+void press(const POINT& where, const POINT& there) {
     SetCursorPos(where.x, where.y);
     Sleep(touch);
-    for (; times > 0; --times) {
-        sendMouse(MOUSEEVENTF_LEFTDOWN);
-        Sleep(touch);
-        sendMouse(MOUSEEVENTF_LEFTUP);
-    }
+    sendMouse(MOUSEEVENTF_LEFTDOWN);
+    Sleep(touch);
+    SetCursorPos(there.x, there.y);
+    sendMouse(MOUSEEVENTF_LEFTUP);
 }
 
 std::string named(HWND control) {
     const std::string text = shownText(control);
     return (text.empty() ? classOf(control) : "\"" + text + "\"") +
            (IsWindowEnabled(control) != 0 ? "" : " (disabled)");
-}
-
-/// "Are you sure you want to close TITLE(NUMBER)", of a window that is not the program's.
-bool asksToCloseAStranger(const Program& program, const Box& box) {
-    const std::size_t number = box.text.rfind('(');
-    if (!box.text.starts_with("Are you sure you want to close ") || number == std::string::npos) {
-        return false;
-    }
-    DWORD owner = 0;
-    GetWindowThreadProcessId(
-        reinterpret_cast<HWND>(std::strtoull(box.text.c_str() + number + 1, nullptr, 10)), &owner);
-    return owner != program.id();
 }
 
 } // namespace
@@ -97,20 +87,18 @@ Hand::~Hand() {
 }
 
 std::string Hand::act(Chance& chance) {
-    left_ = false;
     const std::vector<HWND> windows = program_.windows();
     if (windows.empty()) {
         Sleep(touch);
         return "waits for a window";
     }
     if (const auto box = program_.boxNow()) {
-        left_ = true;
         if (isSystemDialog(box->window)) {
             return useSystemDialog(*box, chance);
         }
-        if (asksToCloseAStranger(program_, *box)) {
-            program_.press("No");
-            return "leaves the window of another program open";
+        if (box->text.starts_with("Are you sure you want to close ")) {
+            program_.press("No"); // It may be that of another program.
+            return "leaves a window open";
         }
     }
     HWND const front = GetForegroundWindow();
@@ -142,13 +130,12 @@ std::string Hand::pressSomeKey(Chance& chance) {
     GUITHREADINFO focus{};
     focus.cbSize = sizeof focus;
     GetGUIThreadInfo(GetWindowThreadProcessId(GetForegroundWindow(), nullptr), &focus);
-    left_ = left_ || key.first == VK_MENU || key.key == VK_ESCAPE || mayEnd(focus.hwndFocus);
-    for (const WORD part : {key.first, key.key}) {
-        part == 0 ? void() : sendKey(part, 0);
-    }
-    Sleep(touch);
-    for (const WORD part : {key.key, key.first}) {
-        part == 0 ? void() : sendKey(part, KEYEVENTF_KEYUP);
+    for (const DWORD flags : {DWORD{0}, DWORD{KEYEVENTF_KEYUP}}) {
+        if (key.first != 0) {
+            sendKey(key.first, flags);
+        }
+        sendKey(key.key, flags);
+        Sleep(touch);
     }
     return std::string(key.name) + " on " + named(focus.hwndFocus);
 }
@@ -157,7 +144,6 @@ std::string Hand::holdOrLetGo(WORD key) {
     const bool down = held_.insert(key).second;
     if (!down) {
         held_.erase(key);
-        left_ = true; // A press ends with its release.
     }
     sendKey(key, down ? 0 : KEYEVENTF_KEYUP);
     return std::string(down ? "holds " : "lets go ") + (key == VK_SHIFT ? "SHIFT" : "Space");
@@ -177,68 +163,48 @@ std::vector<HWND> Hand::targets(HWND window) const {
     return all;
 }
 
-/// What has been used less, out of a few; labels and what ends the program less often than the rest.
-HWND Hand::chooseTarget(const std::vector<HWND>& all, Chance& chance) {
-    const auto uses = [&](HWND control) {
-        const bool dull = mayEnd(control) || (GetWindowLongA(control, GWL_STYLE) & WS_TABSTOP) == 0;
-        return habits_[named(control)] + (dull ? 5 : 0);
-    };
-    HWND best = chance.of(all);
-    for (int more = 0; more < 3; ++more) {
-        HWND const other = chance.of(all);
-        best = uses(other) < uses(best) ? other : best;
-    }
-    ++habits_[named(best)];
-    return best;
-}
-
 std::string Hand::clickSomething(Chance& chance) {
     const std::vector<HWND> windows = program_.windows();
     if (windows.empty()) {
         return "finds nothing to click";
     }
     const std::vector<HWND> all = targets(chance.oneIn(6) ? chance.of(windows) : windows.front());
-    HWND const control = chooseTarget(all, chance);
-    left_ = left_ || mayEnd(control);
-    const std::string name = named(control);
-    const POINT where = pointIn(placeOf(control), chance);
-    if (chance.oneIn(15)) {
-        const POINT elsewhere = pointIn(placeOf(chance.of(all)), chance);
-        SetCursorPos(where.x, where.y);
-        sendMouse(MOUSEEVENTF_LEFTDOWN);
-        Sleep(touch);
-        SetCursorPos(elsewhere.x, elsewhere.y);
-        Sleep(touch);
-        sendMouse(MOUSEEVENTF_LEFTUP);
-        return "drags from " + name;
+    HWND control = chance.of(all);
+    for (int more = 0; more < 2 && isDull(control); ++more) {
+        control = chance.of(all);
     }
-    const bool twice = chance.oneIn(8);
-    press(where, twice ? 2 : 1);
-    return (twice ? "double click on " : "click on ") + name;
+    const POINT where = pointIn(placeOf(control), chance);
+    const bool drags = chance.oneIn(15);
+    const bool twice = !drags && chance.oneIn(8);
+    const std::string done = (drags   ? "drags from "
+                              : twice ? "double click on "
+                                      : "click on ") +
+                             named(control);
+    press(where, drags ? pointIn(placeOf(chance.of(all)), chance) : where);
+    if (twice) {
+        press(where, where);
+    }
+    return done;
 }
 
-/// The title bar, with its buttons.
+/// One of the title bar's buttons, or the bar beside them.
 std::string Hand::useFrame(Chance& chance) {
     HWND const window = GetForegroundWindow();
-    const RECT place = placeOf(window);
-    const int height = GetSystemMetrics(SM_CYCAPTION);
-    const bool closes = chance.oneIn(6);
-    POINT where{place.right - height / 2, middleOfTitle(place)};
-    while (where.x > place.left + height &&
-           send(window, WM_NCHITTEST, 0, MAKELPARAM(where.x, where.y)) != (closes ? HTCLOSE : HTMINBUTTON)) {
-        where.x -= height;
-    }
-    left_ = left_ || closes;
-    press(where);
-    return (closes ? "close box of " : "minimise box or title bar of ") + named(window);
+    const LONG button = GetSystemMetrics(SM_CYCAPTION);
+    const POINT where = onTitle(window, button / 2 + button * static_cast<LONG>(chance.below(6)));
+    press(where, where);
+    return "title bar of " + named(window);
 }
 
 /// From another program, or from a window that is minimised.
 std::string Hand::comeBack(HWND window) {
+    const std::string done = (IsIconic(window) != 0 ? "restores " : "comes back to ") + named(window);
     const RECT place = placeOf(window);
-    const bool iconic = IsIconic(window) != 0;
-    press({(place.left + place.right) / 2, middleOfTitle(place)}, iconic ? 2 : 1);
-    return (iconic ? "restores " : "comes back to ") + named(window);
+    const POINT where = onTitle(window, (place.right - place.left) / 2);
+    for (int times = IsIconic(window) != 0 ? 2 : 1; times > 0; --times) {
+        press(where, where);
+    }
+    return done;
 }
 
 /// One that asks for a file has a field for its name, one that asks for a folder a tree.

@@ -3,7 +3,6 @@
 #include "tools/driver/driver.h"
 
 #include <cstdint>
-#include <map>
 #include <random>
 #include <set>
 #include <string>
@@ -31,23 +30,15 @@ private:
 /// screen. All of it goes through the system's input queue.
 class Hand {
 public:
-    /// How often each control has been clicked.
-    using Habits = std::map<std::string, int>;
-
-    /// It likes best what it has clicked less. `scanner` is the file that it picks where a file is asked for.
-    Hand(const Program& program, std::string scanner, Habits& habits)
+    /// `scanner` is the file that it picks where a file is asked for.
+    Hand(const Program& program, std::string scanner)
         : program_(program)
-        , scanner_(std::move(scanner))
-        , habits_(habits) {}
+        , scanner_(std::move(scanner)) {}
     Hand(const Hand&) = delete;
     ~Hand();
 
     /// One event. Tells what was done.
     std::string act(Chance& chance);
-
-    /// True when that event may have ended the program: a window was closed, a box answered, or a control
-    /// used that says so.
-    bool left() const { return left_; }
 
 private:
     std::string pressSomeKey(Chance& chance);
@@ -57,13 +48,10 @@ private:
     std::string comeBack(HWND window);
     std::string useSystemDialog(const Box& box, Chance& chance);
     std::vector<HWND> targets(HWND window) const;
-    HWND chooseTarget(const std::vector<HWND>& all, Chance& chance);
 
     const Program& program_;
     const std::string scanner_;
-    Habits& habits_;
     std::set<WORD> held_;
-    bool left_ = false;
 };
 
 /// True for a dialog that is the system's own, not a message box.

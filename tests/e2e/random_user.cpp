@@ -10,6 +10,7 @@
 
 #include "demands.h"
 #include "hand.h"
+#include "hidden_window.h"
 #include "recorder.h"
 #include "tools/driver/planted_value.h"
 #include "tools/driver/seen_windows.h"
@@ -17,21 +18,12 @@
 
 #include <algorithm>
 #include <atomic>
-#include <cctype>
 #include <cstdio>
 #include <map>
 #include <memory>
 
 namespace e2e {
 namespace {
-
-struct Options {
-    std::uint32_t seed = 1;
-    std::uint32_t plays = 1;
-    std::uint32_t events = 250;
-    std::uint32_t minutes = 0; ///< In place of the plays, unless it is 0.
-    std::uint32_t shutDown = 0;
-};
 
 /// How the program is started, out of ten times.
 constexpr const char* usualStarts[] = {"", "", "", "", "", "", "/r", "/r", "/r", "/a"};
@@ -46,22 +38,15 @@ public:
 
 private:
     static DWORD WINAPI stand(void*) {
-        WNDCLASSA kind{};
-        kind.lpfnWndProc = onMessage;
-        kind.lpszClassName = "Guard";
-        RegisterClassA(&kind);
-        CreateWindowA(kind.lpszClassName, "", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr);
+        makeHiddenWindow(onMessage);
         for (MSG message{}; GetMessageA(&message, nullptr, 0, 0) > 0;) {
             DispatchMessageA(&message);
         }
         return 0;
     }
     static LRESULT CALLBACK onMessage(HWND window, UINT message, WPARAM wide, LPARAM low) {
-        if (message == WM_QUERYENDSESSION) {
-            ++asked;
-            return FALSE;
-        }
-        return DefWindowProcA(window, message, wide, low);
+        asked += message == WM_QUERYENDSESSION ? 1 : 0;
+        return message == WM_QUERYENDSESSION ? FALSE : DefWindowProcA(window, message, wide, low);
     }
     static inline std::atomic<int> asked = 0;
 };
@@ -81,11 +66,6 @@ struct WatchedFolders {
             writeFile(big.path() + name, "");
             PlantedFile::stretch(big.path() + name, 600'000'000);
         }
-    }
-
-    /// By a file's name: from the first, the second, or elsewhere.
-    static char folderOf(const std::string& name) {
-        return name.find('.') == 1 ? 'b' : std::isdigit(static_cast<unsigned char>(name[0])) != 0 ? 'm' : 's';
     }
 };
 
@@ -129,13 +109,10 @@ public:
             Chance chance(seed_, ++event_);
             start(chance);
             const std::uint32_t last = std::min(events, event_ + 60 + chance.below(90));
-            {
-                Hand hand(*program_, scanner_.path(), habits_);
-                while (event_ < last && go(hand)) {
-                }
+            for (Hand hand(*program_, scanner_.path()); event_ < last && go(hand);) {
             }
             program_.reset(); // As if the power had gone.
-            demandWholeFiles(folder_, WatchedFolders::folderOf);
+            demandWholeFiles(folder_);
         }
     }
 
@@ -157,8 +134,6 @@ private:
         }
         std::printf("%u: starts it%s with \"%s\"\n", event_, firstTime ? " for the first time" : "",
                     arguments);
-        sinceLeft_ = leavingLasts + 1;
-        endsByItself_ = *arguments != '\0';
         program_ = std::make_unique<Program>(folder_.program(), arguments);
         comesTrue([this] { return !program_->windows().empty() || program_->ends(Milliseconds(0)); });
     }
@@ -167,31 +142,24 @@ private:
     bool go(Hand& hand) {
         Chance chance(seed_, ++event_);
         closeOtherPrograms(*program_);
-        std::printf("%u: ", event_);
-        std::printf("%s\n", hand.act(chance).c_str());
+        std::printf("%u: %s\n", event_, hand.act(chance).c_str());
         std::fflush(stdout);
-        sinceLeft_ = hand.left() ? 0 : sinceLeft_ + 1;
         Sleep(pause);
         demandUsable(*program_);
-        demandPowerStaysOn();
+        if (!shutDown_ && Guard::timesAsked() > 0) {
+            throw NotSeen("the system is asked to go down");
+        }
         if (!program_->ends(Milliseconds(0))) {
             return true;
         }
-        if (program_->exitCode() != 0 || (!endsByItself_ && sinceLeft_ > leavingLasts)) {
+        if (program_->exitCode() != 0) {
             throw NotSeen("the program has ended with " + std::to_string(program_->exitCode()));
         }
         std::printf("%u: it has ended\n", event_);
         return false;
     }
 
-    void demandPowerStaysOn() const {
-        if (!shutDown_ && Guard::timesAsked() > 0) {
-            throw NotSeen("the system is asked to go down");
-        }
-    }
-
-    static constexpr DWORD pause = 30;     ///< Milliseconds until an event has reached the program.
-    static constexpr int leavingLasts = 5; ///< Events until a program that was left has ended.
+    static constexpr DWORD pause = 30; ///< Milliseconds until an event has reached the program.
 
     const std::uint32_t seed_;
     const WatchedFolders& watched_;
@@ -201,23 +169,16 @@ private:
     const PlantedValue stranger_{HKEY_LOCAL_MACHINE, R"(Software\Microsoft\Windows\CurrentVersion\Run)",
                                  "Stranger", systemDirectory() + "notepad.exe /silent"};
     std::unique_ptr<Program> program_;
-    Hand::Habits habits_;
     std::uint32_t event_ = 0;
-    bool endsByItself_ = false;
-    int sinceLeft_ = 0; ///< Events since one that may have ended it.
 };
 
+using Options = std::map<std::string, std::uint32_t>;
+
 Options readOptions(int count, char** arguments) {
-    Options options;
-    const std::map<std::string, std::uint32_t*> numbers = {{"--seed", &options.seed},
-                                                           {"--plays", &options.plays},
-                                                           {"--events", &options.events},
-                                                           {"--minutes", &options.minutes},
-                                                           {"--shut-down", &options.shutDown}};
+    Options options = {
+        {"--seed", 1}, {"--plays", 1}, {"--events", 250}, {"--minutes", 0}, {"--shut-down", 0}};
     for (int i = 2; i + 1 < count; i += 2) {
-        const auto number = static_cast<std::uint32_t>(std::strtoul(arguments[i + 1], nullptr, 10));
-        const auto known = numbers.find(arguments[i]);
-        (known == numbers.end() ? throw NotSeen("unknown option") : *known->second) = number;
+        options.at(arguments[i]) = static_cast<std::uint32_t>(std::strtoul(arguments[i + 1], nullptr, 10));
     }
     return options;
 }
@@ -226,20 +187,19 @@ Options readOptions(int count, char** arguments) {
 int play(const Options& options) {
     const Guard guard;
     const WatchedFolders watched;
-    const auto start = std::chrono::steady_clock::now();
-    const auto minutes = [&] {
-        return std::chrono::duration<double, std::ratio<60>>(std::chrono::steady_clock::now() - start)
-            .count();
-    };
+    const DWORD start = GetTickCount();
     std::uint32_t plays = 0;
     std::uint32_t events = 0;
     int failed = 0;
-    for (; options.minutes != 0 ? minutes() < options.minutes : plays < options.plays; ++plays) {
-        const std::uint32_t seed = options.seed + plays;
+    const auto goesOn = [&, minutes = options.at("--minutes")] {
+        return minutes != 0 ? GetTickCount() - start < minutes * 60'000 : plays < options.at("--plays");
+    };
+    for (; goesOn(); ++plays) {
+        const std::uint32_t seed = options.at("--seed") + plays;
         std::printf("Seed %u\n", seed);
-        Play one(seed, watched, options.shutDown != 0);
+        Play one(seed, watched, options.at("--shut-down") != 0);
         try {
-            one.run(options.events);
+            one.run(options.at("--events"));
         } catch (const std::exception& failure) {
             std::printf("FAILED: seed %u, event %u: %s\n%s\n", seed, one.event(), failure.what(),
                         one.describe().c_str());
@@ -247,8 +207,8 @@ int play(const Options& options) {
         }
         events += one.event();
     }
-    std::printf("%u plays, %u events, %.1f minutes, %d asked to go down, %d failed\n", plays, events,
-                minutes(), Guard::timesAsked(), failed);
+    std::printf("%u plays, %u events, %lu seconds, %d asked to go down, %d failed\n", plays, events,
+                (GetTickCount() - start) / 1000, Guard::timesAsked(), failed);
     return failed == 0 ? 0 : 1;
 }
 
@@ -257,9 +217,8 @@ int play(const Options& options) {
 
 int main(int count, char** arguments) {
     try {
-        const e2e::Options options = e2e::readOptions(count, arguments);
         e2e::setInputs({arguments[1], ""});
-        return e2e::play(options);
+        return e2e::play(e2e::readOptions(count, arguments));
     } catch (const std::exception& failure) {
         std::fprintf(stderr, "%s\n", failure.what());
         return 1;

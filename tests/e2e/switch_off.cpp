@@ -6,6 +6,7 @@
 // for the next start, and the two minutes that this gives are cut short. Ends with 0 when the system goes
 // down.
 
+#include "hidden_window.h"
 #include "recorder.h"
 #include "tools/driver/driver.h"
 #include "tools/driver/workplace.h"
@@ -22,16 +23,6 @@ LRESULT CALLBACK onMessage(HWND window, UINT message, WPARAM wide, LPARAM low) {
     return DefWindowProcA(window, message, wide, low);
 }
 
-HWND makeHiddenWindow() {
-    WNDCLASSA kind{};
-    kind.lpfnWndProc = onMessage;
-    kind.hInstance = GetModuleHandleA(nullptr);
-    kind.lpszClassName = "SwitchOff";
-    RegisterClassA(&kind);
-    return CreateWindowA(kind.lpszClassName, "", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, kind.hInstance,
-                         nullptr);
-}
-
 void chooseAndWait(const std::string& programFile, const std::string& choice) {
     using namespace e2e;
     setInputs({programFile, ""});
@@ -44,7 +35,7 @@ void chooseAndWait(const std::string& programFile, const std::string& choice) {
     const PlantedFile pending(folder.path() + "pending.tmp", "");
     const PlantedFile wininit("C:\\windows\\wininit.ini",
                               findings ? "[Rename]\r\nNUL=" + pending.path() + "\r\n" : "");
-    HWND const window = makeHiddenWindow();
+    HWND const window = makeHiddenWindow(onMessage);
     const Program program(folder.program(), "/s");
     program.press(choice);
     if (findings) {

@@ -75,10 +75,6 @@ TEST_F(SystemDialogs, AFolderIsPickedAndScanned) {
                   {"Save and Exit", "Save Successful!"},
                   {"OK"}});
     EXPECT_THAT(settings(), HasSubstr("path=" + watched.path() + "\r\nargs=1,0,0,0,0,0,1\r\n"));
-    program.form("Welcome to Tarvelon").choose(watched.path());
-    program.play({{"Yes", "Initial Custom Folder Scan Completed Successfully!"}, {"OK"}});
-    EXPECT_THAT(folder_.data("1.dat").value_or("no baseline"),
-                HasSubstr("[DLL]\r\nletter.dll=" + crcText("a letter") + "*E\r\nNULL*E\r\n"));
 }
 
 TEST_F(SystemDialogs, AScannerIsPicked) {
