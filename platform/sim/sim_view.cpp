@@ -37,7 +37,14 @@ bool SimView::tickOne() {
     return true;
 }
 
+void SimView::loaded(Screen&) {}
+
+void SimView::changed(Screen&, Aspect) {
+    ++changes_;
+}
+
 void SimView::changed(Control& control, Aspect aspect) {
+    ++changes_;
     if (aspect == Aspect::Enabled) {
         follow(control);
     }

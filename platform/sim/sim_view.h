@@ -10,7 +10,7 @@ namespace tarvelon {
 
 struct SimClock;
 
-/// Stands where the windows would be: runs the timers of the attached screens.
+/// Stands where the windows would be: hears of every change to the attached screens and runs their timers.
 class SimView : public ScreenListener {
 public:
     explicit SimView(const SimClock& clock);
@@ -24,8 +24,11 @@ public:
     /// Lets the earliest timer tick that is due by now; false when none is.
     bool tickOne();
 
-    void loaded(Screen&) override {}
-    void changed(Screen&, Aspect) override {}
+    /// How many changes the attached screens and their controls have told of.
+    int changes() const { return changes_; }
+
+    void loaded(Screen& screen) override;
+    void changed(Screen& screen, Aspect aspect) override;
     void changed(Control& control, Aspect aspect) override;
 
 private:
@@ -38,6 +41,7 @@ private:
 
     const SimClock& clock_;
     std::vector<RunningTimer> running_; ///< In the order in which they were enabled.
+    int changes_ = 0;
 };
 
 } // namespace tarvelon
