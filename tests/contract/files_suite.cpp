@@ -63,7 +63,7 @@ TEST_F(Contract, PositionsAndLengths) {
     }
     EXPECT_EQ(file->readAt(7, buffer, 8), 3u) << "Fewer come at the end";
     EXPECT_EQ(file->readAt(99, buffer, 8), 0u);
-    EXPECT_TRUE(file->writeAt(2, "xx") && file->writeAt(4, "y"));
+    EXPECT_TRUE(file->writeAt(4, "y") && file->writeAt(2, "xx"));
     EXPECT_TRUE(file->setLength(5) && file->flush());
     EXPECT_EQ(file->length(), 5u);
     EXPECT_TRUE(file->writeAt(7, "end"));
