@@ -35,7 +35,7 @@ constexpr std::array<PassRow, 6> passRows{
      {".EXE", ".COM", "Executable Scan --- Not Scanning"},
      {".PIF", ".SCR", "Commonly Exploited Executables --- Not Scanning"}}};
 
-constexpr const char* closeWindowCaption = "Close Integrity Check Window";
+constexpr const char* closeCheckCaption = "Close Integrity Check Window";
 
 } // namespace
 
@@ -168,7 +168,7 @@ void IntCheck::finish() {
         }
     }
     if (screen_.Label14.Visible()) {
-        screen_.Label2.Caption = closeWindowCaption;
+        screen_.Label2.Caption = closeCheckCaption;
     }
     if (scan.customFirstScan) {
         resultAction();
@@ -216,7 +216,7 @@ void IntCheck::setPaused(bool paused) {
 }
 
 void IntCheck::Label2_Click() {
-    if (screen_.Label2.Caption() == closeWindowCaption) {
+    if (screen_.Label2.Caption() == closeCheckCaption) {
         Command1_Click();
         return;
     }

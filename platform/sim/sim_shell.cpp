@@ -7,7 +7,7 @@ namespace tarvelon {
 
 namespace {
 
-constexpr std::intptr_t success = 42;
+constexpr std::intptr_t started = 42;
 
 } // namespace
 
@@ -31,7 +31,7 @@ std::intptr_t SimShell::resultFor(const std::string& file, const std::string& fo
     const std::size_t colon = file.find(':');
     const bool isAddress = colon != std::string::npos && colon > 1;
     const bool isWholePath = colon == 1;
-    return isAddress || files_.get(isWholePath ? file : folder + file) ? success : fileNotFound;
+    return isAddress || files_.get(isWholePath ? file : folder + file) ? started : fileNotFound;
 }
 
 } // namespace tarvelon

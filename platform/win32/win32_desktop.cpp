@@ -6,7 +6,7 @@ namespace tarvelon {
 
 namespace {
 
-HWND handleOf(Desktop::Window window) {
+HWND hwndOf(Desktop::Window window) {
     return reinterpret_cast<HWND>(window);
 }
 
@@ -21,23 +21,23 @@ Desktop::Window Win32Desktop::firstWindow() {
 }
 
 Desktop::Window Win32Desktop::nextWindow(Window window) {
-    return windowOf(GetWindow(handleOf(window), GW_HWNDNEXT));
+    return windowOf(GetWindow(hwndOf(window), GW_HWNDNEXT));
 }
 
 void Win32Desktop::windowText(Window window, char* buffer, int size) {
     // For a window that has gone, some systems give what happens to lie in memory.
-    if (!IsWindow(handleOf(window)) || GetWindowTextA(handleOf(window), buffer, size) == 0) {
+    if (!IsWindow(hwndOf(window)) || GetWindowTextA(hwndOf(window), buffer, size) == 0) {
         *buffer = '\0';
     }
 }
 
 void Win32Desktop::className(Window window, char* buffer, int size) {
-    GetClassNameA(handleOf(window), buffer, size);
+    GetClassNameA(hwndOf(window), buffer, size);
 }
 
 std::uint32_t Win32Desktop::processOf(Window window) {
     DWORD process = 0;
-    GetWindowThreadProcessId(handleOf(window), &process);
+    GetWindowThreadProcessId(hwndOf(window), &process);
     return process;
 }
 
@@ -46,11 +46,11 @@ Desktop::Window Win32Desktop::find(const std::optional<std::string>& className, 
 }
 
 void Win32Desktop::bringToTop(Window window) {
-    BringWindowToTop(handleOf(window));
+    BringWindowToTop(hwndOf(window));
 }
 
 void Win32Desktop::send(Window window, std::uint32_t message) {
-    SendMessageA(handleOf(window), message, 0, 0);
+    SendMessageA(hwndOf(window), message, 0, 0);
 }
 
 } // namespace tarvelon

@@ -99,9 +99,9 @@ TEST_F(Contract, TimersTickInPumpsWhileEnabled) {
 }
 
 TEST_F(Contract, DateTimeAndVersionAreTold) {
-    const auto numbersIn = [](const std::string& text) {
+    const auto numbersIn = [](const std::string& told) {
         std::array<int, 3> numbers{-1, -1, -1};
-        std::sscanf(text.c_str(), "%d%*c%d%*c%d", &numbers[0], &numbers[1], &numbers[2]);
+        std::sscanf(told.c_str(), "%d%*c%d%*c%d", &numbers[0], &numbers[1], &numbers[2]);
         return numbers;
     };
     EXPECT_THAT(numbersIn(platform.clock.dateText()), testing::Each(testing::Gt(0)));

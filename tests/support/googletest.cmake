@@ -9,6 +9,7 @@ add_library(gmock_main STATIC EXCLUDE_FROM_ALL
     ${GOOGLETEST_SOURCE_DIR}/googlemock/src/gmock-all.cc
     ${GOOGLETEST_SOURCE_DIR}/googlemock/src/gmock_main.cc)
 target_compile_options(gmock_main PRIVATE -w)
+set_target_properties(gmock_main PROPERTIES UNITY_BUILD OFF) # A program with a `main` of its own leaves out that file.
 target_include_directories(gmock_main SYSTEM
     PUBLIC ${GOOGLETEST_SOURCE_DIR}/googletest/include ${GOOGLETEST_SOURCE_DIR}/googlemock/include
     PRIVATE ${GOOGLETEST_SOURCE_DIR}/googletest ${GOOGLETEST_SOURCE_DIR}/googlemock)
