@@ -1,10 +1,10 @@
 #include "appwatch/app_page.h"
 
+#include "appwatch/app_page_controls.h"
 #include "core/text.h"
 #include "platform/dialogs.h"
 #include "platform/messages.h"
 #include "platform/platform.h"
-#include "ui/mform1_screen.h"
 
 #include <algorithm>
 #include <optional>
@@ -38,7 +38,7 @@ std::string titleInRow(const std::string& row) {
 
 } // namespace
 
-AppPage::AppPage(MForm1Screen& screen, Platform& platform)
+AppPage::AppPage(AppPageControls& screen, Platform& platform)
     : screen_(screen)
     , platform_(platform) {
     bind();

@@ -7,7 +7,7 @@
 
 namespace tarvelon {
 
-struct MForm1Screen;
+struct AppPageControls;
 struct Platform;
 
 /// The page of open windows: the top-level windows of all programs that have a title, hidden ones as well.
@@ -15,7 +15,7 @@ struct Platform;
 /// with one title it is the first that is meant.
 class AppPage {
 public:
-    AppPage(MForm1Screen& screen, Platform& platform);
+    AppPage(AppPageControls& screen, Platform& platform);
 
     /// Adds a row for each titled window, unless the same row is there already. Gives the number added.
     std::int32_t listOpenWindows();
@@ -31,7 +31,7 @@ private:
     /// The window of the selected row by its class and title; 0 when there is none any more.
     Desktop::Window shownWindow() const;
 
-    MForm1Screen& screen_;
+    AppPageControls& screen_;
     Platform& platform_;
 };
 

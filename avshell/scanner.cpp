@@ -6,7 +6,7 @@
 #include "platform/files.h"
 #include "platform/platform.h"
 #include "platform/processes.h"
-#include "ui/mform1_screen.h"
+#include "ui/controls/controls.h"
 
 #include <algorithm>
 #include <numeric>
@@ -59,8 +59,7 @@ std::string Scanner::toShortPath(const std::string& path) const {
 }
 
 void Scanner::runScanner(const std::string& exe, const std::string& arguments) const {
-    const WindowStyle style =
-        mForm1_.avfocus.value() == 1 ? WindowStyle::NormalFocus : WindowStyle::MinimizedFocus;
+    const WindowStyle style = avfocus_.value() == 1 ? WindowStyle::NormalFocus : WindowStyle::MinimizedFocus;
     // Without a scanner's name the first file would stand in its place, and the suspect itself be started.
     const bool namesNoScanner = exe.empty() || exe.starts_with(' ');
     if (namesNoScanner || !platform_.processes.start(exe, arguments, style)) {

@@ -7,8 +7,8 @@
 namespace tarvelon {
 
 struct Globals;
-struct MForm1Screen;
 struct Platform;
+class CheckBox;
 
 /// One of the user's two scanners. An empty program (blanks aside) stands for none.
 struct ScannerCommand {
@@ -40,8 +40,8 @@ std::string couldNotBeExecuted(const std::string& exe);
 /// Starts the user's scanners and shapes what stands on their command lines.
 class Scanner {
 public:
-    Scanner(const MForm1Screen& mForm1, const Globals& globals, Platform& platform)
-        : mForm1_(mForm1)
+    Scanner(const CheckBox& avfocus, const Globals& globals, Platform& platform)
+        : avfocus_(avfocus)
         , globals_(globals)
         , platform_(platform) {}
 
@@ -76,7 +76,7 @@ public:
 private:
     std::string item(const std::string& name) const;
 
-    const MForm1Screen& mForm1_;
+    const CheckBox& avfocus_;
     const Globals& globals_;
     Platform& platform_;
 };

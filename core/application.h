@@ -76,30 +76,34 @@ public:
     Checksum scanChecksum{globals.scan.algorithm, globals, platform};
     SnapshotFile snapshotFile{globals, platform};
     DataFile dataFile{globals, platform, settingsFile, utilities};
-    Baseline baseline{globals, platform, dataFile, utilities, mForm1};
+    Baseline baseline{globals, platform, dataFile, utilities, mForm1, mForm1.Combo1};
     Comparison comparison{intCheck,     sProg,        globals,  platform,
                           settingsFile, scanChecksum, dataFile, utilities};
     IntCheck scan{intCheck,
                   {globals, platform, settingsFile, scanChecksum, dataFile, baseline, utilities, comparison}};
-    Scanner scanner{mForm1, globals, platform};
-    LogFiles logFiles{mForm1, globals, platform};
+    Scanner scanner{mForm1.avfocus, globals, platform};
+    LogFiles logFiles{mForm1.Check7, globals, platform};
     SAvir scannerChoice{s_avir, globals, platform, settingsFile, utilities};
     AVirHelp scannerCatalogue{aVirHelp, s_avir, globals.cases, platform, utilities, scanner};
     Wizard wizard{vDct, {globals, platform, settingsFile, utilities, scanner, s_avir}};
-    LogBrowser logBrowser{mForm1, {globals, platform, settingsFile, utilities, scanner}};
+    LogBrowser logBrowser{mForm1, mForm1.Image11, {globals, platform, settingsFile, utilities, scanner}};
     Detection detection{mForm1, globals, platform, settingsFile};
     RegPage regPage{mForm1, {globals, platform, settingsFile, utilities, scanner, logFiles, detection}};
     AppPage appPage{mForm1, platform};
     PowerAction powerAction{platform};
     Logoff logoff{frmLogoff, globals.app, platform};
-    Sequence shutDownSequence{
-        frmLogoff, sProg, mForm1, s_avir, {globals, platform, utilities, scanner, logFiles, powerAction}};
+    Sequence shutDownSequence{frmLogoff,
+                              sProg,
+                              mForm1.List5,
+                              s_avir,
+                              {globals, platform, utilities, scanner, logFiles, powerAction}};
     ResultAction resultAction{
         intCheck, {globals, platform, settingsFile, scanChecksum, dataFile, utilities, scanner, logFiles}};
-    FolderScanPage folderScanPage{mForm1,
-                                  {globals, platform, settingsFile, checksum, dataFile, baseline, utilities}};
+    FolderScanPage folderScanPage{
+        mForm1, mForm1.Image5, {globals, platform, settingsFile, checksum, dataFile, baseline, utilities}};
     OwnShortcuts ownShortcuts{globals, platform, utilities};
-    SettingsPages settingsPages{mForm1, s_avir, globals, platform, settingsFile, utilities, ownShortcuts};
+    SettingsPages settingsPages{mForm1,   mForm1,       s_avir,    globals,
+                                platform, settingsFile, utilities, ownShortcuts};
     AdvancedPage advancedPage{mForm1, globals, platform, settingsFile, checksum};
     SpeedComparison speedComparison{mForm1, globals, platform, checksum};
     MForm1 mainForm{mForm1, globals.app, platform};

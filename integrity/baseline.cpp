@@ -10,7 +10,7 @@
 #include "platform/files.h"
 #include "platform/messages.h"
 #include "platform/platform.h"
-#include "ui/mform1_screen.h"
+#include "ui/controls/controls.h"
 
 #include <array>
 #include <optional>
@@ -83,12 +83,13 @@ void writeBlank(Files& files, const std::string& path, const SectionLists& lists
 } // namespace
 
 Baseline::Baseline(Globals& globals, Platform& platform, DataFile& dataFile, const Utilities& utilities,
-                   MForm1Screen& mForm1)
+                   Screen& mainWindow, const ComboBox& folders)
     : globals_(globals)
     , platform_(platform)
     , dataFile_(dataFile)
     , utilities_(utilities)
-    , mForm1_(mForm1) {}
+    , mainWindow_(mainWindow)
+    , folders_(folders) {}
 
 void Baseline::checkIntFile() {
     if (!platform_.files.open(globals_.app.intFile, OpenMode::Read)) {
@@ -114,7 +115,7 @@ void Baseline::checkIntFile() {
         }
         buildPrimary();
     }
-    mForm1_.Caption = "Welcome to Tarvelon";
+    mainWindow_.Caption = "Welcome to Tarvelon";
 }
 
 void Baseline::restoreOrRestart(const std::string& backup) {
@@ -136,13 +137,13 @@ void Baseline::buildPrimary() {
     globals_.baselines.primaryBuild = true;
     const std::string& path = globals_.app.intFile;
     makeEmpty(platform_.files, path);
-    mForm1_.Caption = "Building Integrity File...";
+    mainWindow_.Caption = "Building Integrity File...";
     platform_.messages.pump();
     const SectionLists lists = walk(globals_, platform_, trim(utilities_.getSysDir()));
-    mForm1_.Caption = "Saving...";
+    mainWindow_.Caption = "Saving...";
     platform_.messages.pump();
     writeBlank(platform_.files, path, lists);
-    mForm1_.hide();
+    mainWindow_.hide();
     globals_.baselines.primaryScan = true;
     hooks.showScan();
     hooks.loadUp();
@@ -177,7 +178,7 @@ bool Baseline::buildCustomDat(std::string folder, const std::string& datFile, co
     hooks.leaveScan();
     dataFile_.loadCustomDat(datFile);
     scan.want(true);
-    scan.customIndex = static_cast<std::int16_t>(mForm1_.Combo1.listIndex());
+    scan.customIndex = static_cast<std::int16_t>(folders_.listIndex());
     scan.customFirstScan = true;
     scan.pageScan = true;
     scan.customFolder = folder;

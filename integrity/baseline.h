@@ -7,8 +7,9 @@ namespace tarvelon {
 
 struct Globals;
 struct Platform;
-struct MForm1Screen;
+class ComboBox;
 class DataFile;
+class Screen;
 class Utilities;
 
 /// How the baseline build reaches the scan window, which stands above it.
@@ -23,7 +24,7 @@ struct BaselineHooks {
 class Baseline {
 public:
     Baseline(Globals& globals, Platform& platform, DataFile& dataFile, const Utilities& utilities,
-             MForm1Screen& mForm1);
+             Screen& mainWindow, const ComboBox& folders);
 
     BaselineHooks hooks;
 
@@ -44,7 +45,8 @@ private:
     Platform& platform_;
     DataFile& dataFile_;
     const Utilities& utilities_;
-    MForm1Screen& mForm1_;
+    Screen& mainWindow_;
+    const ComboBox& folders_; ///< What the user picks a folder from.
 };
 
 } // namespace tarvelon

@@ -7,10 +7,10 @@
 #include "hash/checksum.h"
 #include "integrity/baseline.h"
 #include "integrity/data_file.h"
+#include "integrity/folder_scan_controls.h"
 #include "platform/dialogs.h"
 #include "platform/messages.h"
 #include "platform/platform.h"
-#include "ui/mform1_screen.h"
 
 #include <cstdint>
 #include <string>
@@ -18,15 +18,16 @@
 
 namespace tarvelon {
 
-FolderScanPage::FolderScanPage(MForm1Screen& screen, const FolderScanParts& parts)
+FolderScanPage::FolderScanPage(FolderScanControls& screen, NavButton& entry, const FolderScanParts& parts)
     : screen_(screen)
+    , entry_(entry)
     , parts_(parts)
     , globals_(parts.globals) {
     bind();
 }
 
 void FolderScanPage::bind() {
-    screen_.Image5.onClick = [this] { Image5_Click(); };
+    entry_.onClick = [this] { Image5_Click(); };
     screen_.Combo1.onClick = [this] { Combo1_Click(); };
     for (std::size_t i = 0; i < screen_.check.size(); ++i) {
         screen_.typeButtons[i]->onClick = [this, i] {
@@ -62,7 +63,7 @@ void FolderScanPage::Image5_Click() {
     loadf();
     hooks.norms2();
     if (parts_.utilities.fileThere(globals_.app.intFile)) {
-        screen_.Image5.Current = true;
+        entry_.Current = true;
         screen_.intF.Visible = true;
         return;
     }

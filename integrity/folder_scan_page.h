@@ -4,12 +4,13 @@
 
 namespace tarvelon {
 
+struct FolderScanControls;
 struct Globals;
-struct MForm1Screen;
 struct Platform;
 class Baseline;
 class Checksum;
 class DataFile;
+class NavButton;
 class SettingsFile;
 class Utilities;
 
@@ -35,7 +36,7 @@ struct FolderScanParts {
 /// in the drop-down list is taken for its slot, which holds as long as no slot in front of it is free.
 class FolderScanPage {
 public:
-    FolderScanPage(MForm1Screen& screen, const FolderScanParts& parts);
+    FolderScanPage(FolderScanControls& screen, NavButton& entry, const FolderScanParts& parts);
 
     FolderScanHooks hooks;
 
@@ -51,7 +52,8 @@ private:
     void Combo1_Click();
     void bSCAN_Click();
 
-    MForm1Screen& screen_;
+    FolderScanControls& screen_;
+    NavButton& entry_; ///< Opens the page.
     FolderScanParts parts_;
     Globals& globals_;
 };

@@ -6,12 +6,12 @@
 #include "core/globals.h"
 #include "core/settings_file.h"
 #include "core/utilities.h"
+#include "logging/log_controls.h"
 #include "logging/report_name.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
 #include "platform/messages.h"
 #include "platform/platform.h"
-#include "ui/mform1_screen.h"
 
 #include <algorithm>
 #include <vector>
@@ -28,8 +28,9 @@ bool isReport(const CaseRules& cases, const std::string& name) {
 
 } // namespace
 
-LogBrowser::LogBrowser(MForm1Screen& screen, const LogBrowserParts& parts)
+LogBrowser::LogBrowser(LogControls& screen, NavButton& options, const LogBrowserParts& parts)
     : screen_(screen)
+    , options_(options)
     , parts_(parts)
     , globals_(parts.globals) {
     bind();
@@ -110,7 +111,7 @@ void LogBrowser::open() {
     fillReport(trim(*text));
     screen_.Label26.Visible = false;
     norms2();
-    screen_.Image11.Current = true;
+    options_.Current = true;
     screen_.repF.Visible = true;
 }
 
@@ -219,8 +220,8 @@ bool LogBrowser::deleteEntry(const Tree::Node& node) {
 
 void LogBrowser::backToTree() {
     norms2();
-    screen_.Image11.Current = true;
-    screen_.setFq.Visible = true;
+    options_.Current = true;
+    screen_.optionsPage.Visible = true;
 }
 
 bool LogBrowser::confirms(const std::string& question) const {

@@ -8,8 +8,9 @@
 namespace tarvelon {
 
 struct Globals;
-struct MForm1Screen;
+struct LogControls;
 struct Platform;
+class NavButton;
 class Scanner;
 class SettingsFile;
 class Utilities;
@@ -27,7 +28,7 @@ struct LogBrowserParts {
 /// reports.
 class LogBrowser {
 public:
-    LogBrowser(MForm1Screen& screen, const LogBrowserParts& parts);
+    LogBrowser(LogControls& screen, NavButton& options, const LogBrowserParts& parts);
 
     std::function<void()> norms2; ///< Hides all pages of the main window.
 
@@ -49,7 +50,8 @@ private:
     std::string folder() const;
     std::string fileOf(const Tree::Node& node) const;
 
-    MForm1Screen& screen_;
+    LogControls& screen_;
+    NavButton& options_; ///< Opens the page of options, which the tree is on.
     LogBrowserParts parts_;
     Globals& globals_;
 };

@@ -6,7 +6,7 @@
 #include "logging/report_name.h"
 #include "platform/clock.h"
 #include "platform/platform.h"
-#include "ui/mform1_screen.h"
+#include "ui/controls/controls.h"
 
 #include <algorithm>
 
@@ -46,7 +46,7 @@ bool LogFiles::passesGate(const std::string& listText) {
     if (globals_.app.shutAction != -1) {
         globals_.shutDown.scanLogged = 1;
     }
-    return mForm1_.Check7.value() != 0;
+    return autoLogging_.value() != 0;
 }
 
 std::string LogFiles::fileName() const {

@@ -5,14 +5,14 @@
 namespace tarvelon {
 
 struct Globals;
-struct MForm1Screen;
 struct Platform;
+class FlatCheck;
 
 /// Writes the reports about files that were handed to the scanners.
 class LogFiles {
 public:
-    LogFiles(const MForm1Screen& mForm1, Globals& globals, Platform& platform)
-        : mForm1_(mForm1)
+    LogFiles(const FlatCheck& autoLogging, Globals& globals, Platform& platform)
+        : autoLogging_(autoLogging)
         , globals_(globals)
         , platform_(platform) {}
 
@@ -29,7 +29,7 @@ public:
 private:
     bool passesGate(const std::string& listText);
 
-    const MForm1Screen& mForm1_;
+    const FlatCheck& autoLogging_;
     Globals& globals_;
     Platform& platform_;
 };

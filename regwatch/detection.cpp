@@ -6,7 +6,7 @@
 #include "platform/platform.h"
 #include "regwatch/locations.h"
 #include "regwatch/reg_class.h"
-#include "ui/mform1_screen.h"
+#include "regwatch/reg_page_controls.h"
 
 #include <algorithm>
 #include <vector>
@@ -25,7 +25,7 @@ const LocationRoot& rootOf(const Location& location) {
 
 } // namespace
 
-Detection::Detection(MForm1Screen& screen, Globals& globals, Platform& platform, SettingsFile& settings)
+Detection::Detection(RegPageControls& screen, Globals& globals, Platform& platform, SettingsFile& settings)
     : screen_(screen)
     , globals_(globals)
     , platform_(platform)

@@ -7,8 +7,8 @@ namespace tarvelon {
 
 struct Globals;
 struct Location;
-struct MForm1Screen;
 struct Platform;
+struct RegPageControls;
 class RegClass;
 class SettingsFile;
 
@@ -16,7 +16,7 @@ class SettingsFile;
 /// what is new or changed. While `regNew` is set it records instead.
 class Detection {
 public:
-    Detection(MForm1Screen& screen, Globals& globals, Platform& platform, SettingsFile& settings);
+    Detection(RegPageControls& screen, Globals& globals, Platform& platform, SettingsFile& settings);
 
     /// One pass over all locations. Window messages run inside. A location that cannot be read is left empty.
     void setReg();
@@ -34,7 +34,7 @@ private:
                    std::string& keyTail);
     void showOutcome();
 
-    MForm1Screen& screen_;
+    RegPageControls& screen_;
     Globals& globals_;
     Platform& platform_;
     SettingsFile& settings_;

@@ -13,7 +13,7 @@
 #include "regwatch/file_path.h"
 #include "regwatch/pending_files.h"
 #include "regwatch/reg_class.h"
-#include "ui/mform1_screen.h"
+#include "regwatch/reg_page_controls.h"
 
 #include <algorithm>
 
@@ -34,7 +34,7 @@ std::string before(const std::string& text, char mark) {
 
 } // namespace
 
-RegPage::RegPage(MForm1Screen& screen, const RegPageParts& parts)
+RegPage::RegPage(RegPageControls& screen, const RegPageParts& parts)
     : screen_(screen)
     , parts_(parts)
     , globals_(parts.globals) {

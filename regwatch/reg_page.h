@@ -6,7 +6,7 @@
 namespace tarvelon {
 
 struct Globals;
-struct MForm1Screen;
+struct RegPageControls;
 struct Platform;
 struct ScannerCommand;
 class Detection;
@@ -30,7 +30,7 @@ struct RegPageParts {
 /// view of what is pending for the next boot.
 class RegPage {
 public:
-    RegPage(MForm1Screen& screen, const RegPageParts& parts);
+    RegPage(RegPageControls& screen, const RegPageParts& parts);
 
     /// The page comes to light: its lists are as they were left, and nothing can be acted on yet.
     void opened();
@@ -59,7 +59,7 @@ private:
     void refuseToAccept();
     void enableEntryButtons(bool enabled);
 
-    MForm1Screen& screen_;
+    RegPageControls& screen_;
     RegPageParts parts_;
     Globals& globals_;
     std::string selEntry; ///< The selection: root, "|", label of the location.

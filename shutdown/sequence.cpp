@@ -14,15 +14,15 @@
 #include "shutdown/logoff_screen.h"
 #include "shutdown/power_action.h"
 #include "shutdown/sprog_screen.h"
-#include "ui/mform1_screen.h"
+#include "ui/controls/controls.h"
 
 namespace tarvelon {
 
-Sequence::Sequence(LogoffScreen& logoff, SProgScreen& sProg, const MForm1Screen& mForm1,
+Sequence::Sequence(LogoffScreen& logoff, SProgScreen& sProg, const ListBox& warnings,
                    const SAvirScreen& scanners, const SequenceParts& parts)
     : logoff_(logoff)
     , sProg_(sProg)
-    , mForm1_(mForm1)
+    , warnings_(warnings)
     , scanners_(scanners)
     , parts_(parts)
     , globals_(parts.globals) {
@@ -150,7 +150,7 @@ void Sequence::goOnWithoutScan(const Failure& failure) {
 void Sequence::PreShut2() {
     status("Scanning Registry...");
     hooks.setReg();
-    if (mForm1_.List5.item(1) != "*No new or modified Registry Entries*") {
+    if (warnings_.item(1) != "*No new or modified Registry Entries*") {
         status("Found Modified Registry Entries...");
         hooks.cScnUpd();
     }

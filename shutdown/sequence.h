@@ -7,11 +7,11 @@ namespace tarvelon {
 
 struct Globals;
 struct LogoffScreen;
-struct MForm1Screen;
 struct Platform;
 struct SAvirScreen;
 struct SProgScreen;
 class Failure;
+class ListBox;
 class LogFiles;
 class PowerAction;
 class Scanner;
@@ -39,8 +39,8 @@ struct SequenceParts {
 /// minutes otherwise.
 class Sequence {
 public:
-    Sequence(LogoffScreen& logoff, SProgScreen& sProg, const MForm1Screen& mForm1,
-             const SAvirScreen& scanners, const SequenceParts& parts);
+    Sequence(LogoffScreen& logoff, SProgScreen& sProg, const ListBox& warnings, const SAvirScreen& scanners,
+             const SequenceParts& parts);
 
     SequenceHooks hooks;
 
@@ -66,7 +66,7 @@ private:
 
     LogoffScreen& logoff_;
     SProgScreen& sProg_;
-    const MForm1Screen& mForm1_;
+    const ListBox& warnings_; ///< Of the watched registry locations.
     const SAvirScreen& scanners_;
     SequenceParts parts_;
     Globals& globals_;

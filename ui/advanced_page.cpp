@@ -5,8 +5,8 @@
 #include "hash/checksum.h"
 #include "platform/dialogs.h"
 #include "platform/platform.h"
+#include "ui/advanced_controls.h"
 #include "ui/join_values.h"
-#include "ui/mform1_screen.h"
 
 #include <string>
 
@@ -43,8 +43,8 @@ void showWarning(const CheckBox& clicked, const CheckBox& other, Label& warning)
 
 } // namespace
 
-AdvancedPage::AdvancedPage(MForm1Screen& screen, Globals& globals, Platform& platform, SettingsFile& settings,
-                           Checksum& checksum)
+AdvancedPage::AdvancedPage(AdvancedControls& screen, Globals& globals, Platform& platform,
+                           SettingsFile& settings, Checksum& checksum)
     : screen_(screen)
     , globals_(globals)
     , platform_(platform)

@@ -4,14 +4,14 @@ namespace tarvelon {
 
 class Checksum;
 class SettingsFile;
+struct AdvancedControls;
 struct Globals;
-struct MForm1Screen;
 struct Platform;
 
 /// The advanced page of the main window.
 class AdvancedPage {
 public:
-    AdvancedPage(MForm1Screen& screen, Globals& globals, Platform& platform, SettingsFile& settings,
+    AdvancedPage(AdvancedControls& screen, Globals& globals, Platform& platform, SettingsFile& settings,
                  Checksum& checksum);
 
     /// Shows the settings in force on the page. A value that no option stands for leaves its group without a
@@ -21,7 +21,7 @@ public:
 private:
     void cSave2_Click();
 
-    MForm1Screen& screen_;
+    AdvancedControls& screen_;
     Globals& globals_;
     Platform& platform_;
     SettingsFile& settings_;

@@ -9,9 +9,10 @@
 #include "platform/dialogs.h"
 #include "platform/files.h"
 #include "platform/platform.h"
+#include "ui/advanced_controls.h"
 #include "ui/join_values.h"
-#include "ui/mform1_screen.h"
 #include "ui/own_shortcuts.h"
+#include "ui/settings_controls.h"
 #include "ui/shortcuts.h"
 
 #include <cstdint>
@@ -38,10 +39,11 @@ bool tick(const Boxes& boxes, const std::string& list) {
 
 } // namespace
 
-SettingsPages::SettingsPages(MForm1Screen& screen, SAvirScreen& scanners, Globals& globals,
-                             Platform& platform, SettingsFile& settings, const Utilities& utilities,
-                             OwnShortcuts& shortcuts)
+SettingsPages::SettingsPages(SettingsControls& screen, AdvancedControls& advanced, SAvirScreen& scanners,
+                             Globals& globals, Platform& platform, SettingsFile& settings,
+                             const Utilities& utilities, OwnShortcuts& shortcuts)
     : screen_(screen)
+    , advanced_(advanced)
     , scanners_(scanners)
     , globals_(globals)
     , platform_(platform)
@@ -100,11 +102,11 @@ bool SettingsPages::loadAdvanced() {
 }
 
 bool SettingsPages::loadShellOptions() {
-    if (!tick(screen_.shellChecks, settings_.getSetting("ANTIVIRUS2"))) {
+    if (!tick(advanced_.shellChecks, settings_.getSetting("ANTIVIRUS2"))) {
         return false;
     }
-    globals_.settings.quoteChar = screen_.Check10.value() != 0 ? "\"" : "";
-    globals_.settings.shortPaths = screen_.Check11.value() != 0;
+    globals_.settings.quoteChar = advanced_.Check10.value() != 0 ? "\"" : "";
+    globals_.settings.shortPaths = advanced_.Check11.value() != 0;
     return true;
 }
 

@@ -4,10 +4,11 @@
 
 namespace tarvelon {
 
+struct AdvancedControls;
 struct Globals;
-struct MForm1Screen;
 struct Platform;
 struct SAvirScreen;
+struct SettingsControls;
 class OwnShortcuts;
 class SettingsFile;
 class Utilities;
@@ -15,8 +16,9 @@ class Utilities;
 /// The settings page and the advanced page of the main window.
 class SettingsPages {
 public:
-    SettingsPages(MForm1Screen& screen, SAvirScreen& scanners, Globals& globals, Platform& platform,
-                  SettingsFile& settings, const Utilities& utilities, OwnShortcuts& shortcuts);
+    SettingsPages(SettingsControls& screen, AdvancedControls& advanced, SAvirScreen& scanners,
+                  Globals& globals, Platform& platform, SettingsFile& settings, const Utilities& utilities,
+                  OwnShortcuts& shortcuts);
 
     /// Fills both pages, the scanner fields and every global that depends on the settings from the settings
     /// file. A list with fewer positions leaves the rest as it is. A value that cannot be taken ends the
@@ -29,7 +31,8 @@ private:
     bool loadAdvanced();
     bool loadShellOptions();
 
-    MForm1Screen& screen_;
+    SettingsControls& screen_;
+    AdvancedControls& advanced_;
     SAvirScreen& scanners_;
     Globals& globals_;
     Platform& platform_;

@@ -7,7 +7,7 @@
 #include "platform/files.h"
 #include "platform/messages.h"
 #include "platform/platform.h"
-#include "ui/mform1_screen.h"
+#include "ui/advanced_controls.h"
 
 #include <array>
 #include <cstdio>
@@ -30,7 +30,7 @@ constexpr std::int32_t kilobytes(std::int32_t bytes) {
 /// What the comparison borrows while it runs: the button, the list and the read buffer.
 class SpeedComparison::Session {
 public:
-    Session(MForm1Screen& screen, Settings& settings)
+    Session(AdvancedControls& screen, Settings& settings)
         : screen_(screen)
         , settings_(settings)
         , readBuffer_(settings.readBuffer) {
@@ -49,12 +49,12 @@ public:
     }
 
 private:
-    MForm1Screen& screen_;
+    AdvancedControls& screen_;
     Settings& settings_;
     std::int32_t readBuffer_;
 };
 
-SpeedComparison::SpeedComparison(MForm1Screen& screen, Globals& globals, Platform& platform,
+SpeedComparison::SpeedComparison(AdvancedControls& screen, Globals& globals, Platform& platform,
                                  Checksum& checksum)
     : screen_(screen)
     , globals_(globals)

@@ -9,8 +9,8 @@
 namespace tarvelon {
 
 class Checksum;
+struct AdvancedControls;
 struct Globals;
-struct MForm1Screen;
 struct Platform;
 
 /// Compare Speeds: how long the checksum of the program's own file takes with each size of the read buffer.
@@ -18,7 +18,7 @@ struct Platform;
 /// the last one, or that of the row which the user selects.
 class SpeedComparison {
 public:
-    SpeedComparison(MForm1Screen& screen, Globals& globals, Platform& platform, Checksum& checksum);
+    SpeedComparison(AdvancedControls& screen, Globals& globals, Platform& platform, Checksum& checksum);
 
 private:
     class Session;
@@ -36,7 +36,7 @@ private:
     void List1_Click();
     void draw(const Test& test);
 
-    MForm1Screen& screen_;
+    AdvancedControls& screen_;
     Globals& globals_;
     Platform& platform_;
     Checksum& checksum_;

@@ -1,0 +1,80 @@
+#pragma once
+
+#include "ui/controls/bar_chart.h"
+#include "ui/controls/controls.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+#include <utility>
+
+namespace tarvelon {
+
+/// The controls of the advanced settings page, which hold their settings while the program runs.
+struct AdvancedControls {
+    explicit AdvancedControls(Frame& settF)
+        : advF(settF, at(0, 0, 600, 488), false) {
+        Label1.Visible = false;
+        Label1.ForeColor = colors::warningRed;
+        List1.name = "Speed report";
+    }
+
+    Frame advF;
+    Label Label22{advF, "Tarvelon Integrity Checker Read Buffer:", at(16, 16, 248, 24)};
+    Frame bufferGroup{advF, at(264, 16, 320, 24)};
+    OptionButton Option1{bufferGroup, "64 Kb", at(0, 0, 80, 24)};
+    OptionButton Option2{bufferGroup, "128 Kb", at(80, 0, 80, 24)};
+    OptionButton Option3{bufferGroup, "256 Kb", at(160, 0, 80, 24)};
+    OptionButton Option4{bufferGroup, "512 Kb", at(240, 0, 80, 24)};
+    Frame Frame1{advF, "Pass 'x' Files at a Time (500 is recommended)", at(16, 48, 320, 80)};
+    OptionButton Option5{Frame1, "Pass All Files", at(16, 24, 136, 24)};
+    OptionButton Option6{Frame1, "50", at(152, 24, 72, 24)};
+    OptionButton Option7{Frame1, "100", at(232, 24, 72, 24)};
+    OptionButton Option8{Frame1, "200", at(16, 50, 72, 24)};
+    OptionButton Option9{Frame1, "350", at(152, 50, 72, 24)};
+    OptionButton Option10{Frame1, "500", at(232, 50, 72, 24)};
+    Frame Frame3{advF, "Integrity Checker Algorithm:", at(344, 48, 240, 80)};
+    OptionButton Option11{Frame3, "CRC32", at(16, 24, 96, 24)};
+    OptionButton Option12{Frame3, "MD5", at(128, 24, 96, 24)};
+    OptionButton Option13{Frame3, "SHA-1", at(16, 50, 96, 24)};
+    OptionButton Option14{Frame3, "MD4", at(128, 50, 96, 24)};
+    Label Label28{advF, "Anti-Virus Shell Options:", at(16, 136, 568, 20)};
+    CheckBox Check10{advF, "Enclose Files with Quotes", at(16, 156, 240, 24)};
+    Label Label1{advF, "Warning! Current options may cause errors!", at(264, 156, 320, 24)};
+    CheckBox Check11{
+        advF, "Use ShortPath File Names (For DOS-Based On-Demand Anti-Virus scanners...Example: McAfee)",
+        at(16, 180, 568, 24)};
+    CheckBox avfocus{advF, "Give anti-virus program Focus (Fixes GUI Errors with AVAST 4)",
+                     at(16, 204, 568, 24)};
+    Label Label30{advF, "Micellaneous:", at(16, 232, 96, 24)};
+    FlatCheck wsh{advF, "Use Windows Scripting Host (If Auto-Load won't create shortcut/save)",
+                  at(112, 232, 472, 24)};
+
+    // Compare Speeds: the report, and one of its three tests as a chart.
+    ListBox List1{advF, at(16, 264, 468, 162)};
+    Label chartHeading{advF, "Time by buffer:", at(490, 262, 102, 18), TextStyle::Hint};
+    BarChart speedChart{advF, "", 4, at(490, 280, 94, 146)};
+    FlatButton cSave2{advF, "Save", at(16, 440, 136, 32)};
+    FlatButton cButton1{advF, "Cancel", at(160, 440, 136, 32)};
+    FlatButton cSpeeds{advF, "Compare Speeds", at(408, 440, 176, 32)};
+
+    /// The controls behind the positions of a stored list.
+    std::array<CheckBox*, 3> shellChecks{&Check10, &Check11, &avfocus};
+
+    /// The options of the advanced page, each with what it stands for.
+    template<class Value, std::size_t count>
+    using Choices = std::array<std::pair<OptionButton*, Value>, count>;
+    Choices<std::int32_t, 4> bufferOptions{
+        {{&Option1, 65536}, {&Option2, 131072}, {&Option3, 262144}, {&Option4, 524288}}};
+    Choices<std::int32_t, 6> passOptions{{{&Option5, 99999},
+                                          {&Option6, 50},
+                                          {&Option7, 100},
+                                          {&Option8, 200},
+                                          {&Option9, 350},
+                                          {&Option10, 500}}};
+    Choices<std::string_view, 4> algorithmOptions{
+        {{&Option11, "CRC32"}, {&Option12, "MD5"}, {&Option13, "SHA1"}, {&Option14, "MD4"}}};
+};
+
+} // namespace tarvelon
