@@ -1,7 +1,7 @@
 #pragma once
 
+#include "platform/win32/view_drawings.h"
 #include "platform/win32/view_fonts.h"
-#include "platform/win32/view_lines.h"
 #include "platform/win32/view_scale.h"
 #include "platform/win32/view_theme.h"
 #include "platform/win32/windows_api.h"

@@ -15,15 +15,6 @@ namespace {
 constexpr std::string_view litEnding = "-lit";
 constexpr int haloWidth = 12; ///< Around the disc, for light and focus.
 
-/// The drawing out of the program's resources; nothing when there is none of that name.
-LineDrawing drawingNamed(const std::string& name) {
-    const HMODULE program = GetModuleHandleA(nullptr);
-    const HRSRC found = FindResourceA(program, name.c_str(), RT_RCDATA);
-    const HGLOBAL loaded = found ? LoadResource(program, found) : nullptr;
-    const auto* source = static_cast<const char*>(loaded ? LockResource(loaded) : nullptr);
-    return source ? readLineDrawing({source, SizeofResource(program, found)}) : LineDrawing{};
-}
-
 std::string plainName(const std::string& name) {
     return name.ends_with(litEnding) ? name.substr(0, name.size() - litEnding.size()) : name;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/win32/view_lines.h"
+#include "platform/win32/view_drawings.h"
 #include "platform/win32/view_press.h"
 
 namespace tarvelon {
@@ -29,7 +29,7 @@ private:
 
     Picture& picture_;
     bool lit_;
-    LineDrawing drawing_;
+    const LineDrawing& drawing_;
 };
 
 /// An entry of the navigation column.
@@ -44,7 +44,7 @@ protected:
 
 private:
     NavButton& button_;
-    LineDrawing drawing_;
+    const LineDrawing& drawing_;
 };
 
 } // namespace tarvelon

@@ -17,9 +17,7 @@ struct LineDrawing {
     std::vector<std::vector<Spot>> lines; ///< Curves are cut into short straight pieces.
 };
 
-/// Reads a drawing from its source, an SVG picture: the side from "viewBox", the thickness from
-/// "stroke-width", the lines from the paths. Paths know the absolute commands M, L, H, V, C, A (of circles)
-/// and Z; a path ends where it holds anything else.
-LineDrawing readLineDrawing(std::string_view svg);
+/// A picture of packaging/pictures by its name; one without lines when there is none.
+const LineDrawing& drawingNamed(std::string_view name);
 
 } // namespace tarvelon
