@@ -7,42 +7,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 namespace e2e {
 namespace {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
-
-HTREEITEM drive(const TreeView& tree, const std::string& name) {
-    tree.open(tree.root());
-    for (HTREEITEM place = tree.next(TVGN_CHILD, tree.root()); place != nullptr;
-         place = tree.next(TVGN_NEXT, place)) {
-        tree.open(place);
-        if (HTREEITEM const found = tree.child(place, name, Milliseconds(200))) {
-            return found;
-        }
-    }
-    throw NotSeen("no drive " + name + " in the tree of folders:" + tree.describe(tree.root()));
-}
-
-/// Opens the tree of the folder dialog along the path, such as "C:\folder\", and picks the last folder.
-void pickFolder(const Program& program, const std::string& path) {
-    const TreeView tree(Form(program.box().window).tree());
-    HTREEITEM item = drive(tree, "(" + path.substr(0, 2) + ")");
-    for (std::size_t from = 3; from < path.size(); from = path.find('\\', from) + 1) {
-        const std::string name = path.substr(from, path.find('\\', from) - from);
-        tree.open(item);
-        HTREEITEM const found = tree.child(item, name, patience);
-        if (found == nullptr) {
-            throw NotSeen("no folder \"" + name + "\" in the tree:" + tree.describe(item));
-        }
-        item = found;
-    }
-    tree.select(item);
-    program.press("OK");
-}
 
 class SystemDialogs : public testing::Test {
 protected:
@@ -66,7 +35,8 @@ TEST_F(SystemDialogs, AFolderIsPickedAndScanned) {
                   {"Add Folder...", title},
                   {"Cancel"},
                   {"Add Folder...", title}});
-    pickFolder(program, watched.path());
+    TreeView(Form(program.box().window).tree()).pick(watched.path());
+    program.press("OK");
     program.play({{"", "Folder Added."},
                   {"OK"},
                   {"1) " + watched.path(), "Currently Selected: 1) " + watched.path()},

@@ -202,10 +202,6 @@ Folder linesOf(std::string text) {
 /// What the program writes for what it cannot read, what a page shows then, and the registry as it stands.
 const std::regex deliberate(R"(=(0|NULL|)\*E|= \([^()]*\)|=[^|]*\|.*|=C:.+\\|=\d+(,\d+)*)");
 
-void PrintTo(const Mode& mode, std::ostream* stream) {
-    *stream << mode.name;
-}
-
 struct Faulty : testing::TestWithParam<Mode> {
     void use(Machine& machine) {
         const Mode& mode = GetParam();

@@ -64,4 +64,29 @@ void TreeView::select(HTREEITEM item) const {
     SendMessageA(window_, TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(item));
 }
 
+HTREEITEM TreeView::drive(const std::string& name) const {
+    open(root());
+    for (HTREEITEM place = next(TVGN_CHILD, root()); place != nullptr; place = next(TVGN_NEXT, place)) {
+        open(place);
+        if (HTREEITEM const found = child(place, name, Milliseconds(200))) {
+            return found;
+        }
+    }
+    throw NotSeen("no drive " + name + " in the tree of folders:" + describe(root()));
+}
+
+void TreeView::pick(const std::string& path) const {
+    HTREEITEM item = drive("(" + path.substr(0, 2) + ")");
+    for (std::size_t from = 3; from < path.size(); from = path.find('\\', from) + 1) {
+        const std::string name = path.substr(from, path.find('\\', from) - from);
+        open(item);
+        HTREEITEM const found = child(item, name, patience);
+        if (found == nullptr) {
+            throw NotSeen("no folder \"" + name + "\" in the tree:" + describe(item));
+        }
+        item = found;
+    }
+    select(item);
+}
+
 } // namespace e2e

@@ -27,7 +27,13 @@ public:
     void open(HTREEITEM item) const;
     void select(HTREEITEM item) const;
 
+    /// In the system's tree of folders: opens it along the path, such as "C:\folder\", and selects the last
+    /// folder. Throws NotSeen where one is missing.
+    void pick(const std::string& path) const;
+
 private:
+    HTREEITEM drive(const std::string& name) const;
+
     /// A piece of the other process's memory, through which its tree answers.
     struct Page {
         TVITEMW item;
