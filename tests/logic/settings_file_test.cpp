@@ -119,6 +119,7 @@ TEST_F(SettingsTest, BaselineEntriesGoToMemory) {
     EXPECT_EQ(dll.text(), "[DLL]\r\nKERNEL32.DLL=AA*E\r\nuser32.dll=CC*E\r\nnew.dll=CC*E\r\n"
                           "Kernel32.dll=CC*E\r\nNULL*E\r\n");
     EXPECT_EQ(dll.find(globals.cases, "kernel32.dll"), "AA") << "The first line of a name counts";
+    EXPECT_EQ(dll.find(globals.cases, "user32.dll=CC*E\r\nNEW.DLL"), "CC") << "A name may hold a line end";
 }
 
 } // namespace

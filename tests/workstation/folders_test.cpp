@@ -46,6 +46,7 @@ protected:
 
 TEST_F(Folders, AFolderIsAddedScannedChangedFoundAcceptedAndRemoved) {
     page().addRem.click();
+    EXPECT_TRUE(manager().Visible());
     addFolder(R"(C:\Tools)");
     addFolder(R"(C:\More)");
     saveFolders();
@@ -168,6 +169,7 @@ TEST_F(Folders, TypesAreEditedWhileTheirBoxIsTicked) {
     EXPECT_TRUE(form.Check1.Enabled() && !form.Check1.BackColor() && !form.List2.ticked(0));
     form.List1.select(0);
     EXPECT_TRUE(form.List2.ticked(0) && form.List4.ticked(5));
+    form.close(); // Nothing was changed that had to be saved.
 }
 
 TEST_F(Folders, ThePageStartsScansOfTheSystemFolder) {

@@ -12,8 +12,10 @@ protected:
         pc.files.put(R"(C:\Tools\navw32.exe)", "");
         pc.files.put(R"(C:\Tools\other.exe)", "");
         ASSERT_FALSE(start());
+        putSettings({.antivirus = "C:\\x.exe|/x", .av2 = "C:\\y.exe|/y"});
         app->mForm1.cButton10.click();
         ASSERT_TRUE(form().Visible());
+        ASSERT_EQ(fields(), "C:\\x.exe|/x|C:\\y.exe|/y") << "as they stand in the file by then";
     }
 
     SAvirScreen& form() { return app->s_avir; }
@@ -35,7 +37,7 @@ protected:
 TEST_F(Scanners, AChoiceBringsArgumentsByTheFirstScannersNameAndIsStored) {
     choose(form().cChoose, std::nullopt);
     choose(form().cButton10, std::nullopt);
-    EXPECT_EQ(fields(), "Anti-Virus Software||Anti-Virus Software|");
+    EXPECT_EQ(fields(), "C:\\x.exe|/x|C:\\y.exe|/y");
     choose(form().cChoose, R"(C:\Tools\navw32.exe)");
     EXPECT_EQ(app->vDct.varg.Caption(), "/HEUR:3") << "for the wizard, too";
     choose(form().cButton10, R"(C:\Tools\other.exe)");
@@ -62,6 +64,7 @@ TEST_F(Scanners, TheCatalogueSearchesTestsAndHandsOver) {
     form().cButton1.click();
     EXPECT_EQ(help.List1.count(), 16);
     help.Command4.click(); // Nothing is selected.
+    EXPECT_FALSE(help.Command2.Enabled() || help.Command3.Enabled());
     const auto search = [&](int row, const std::string& outcome) {
         help.List1.select(row);
         tells("Tarvelon may become unresponsive during the file search. This is normal.\r\rClick OK to "
@@ -87,7 +90,7 @@ TEST_F(Scanners, TheCatalogueSearchesTestsAndHandsOver) {
               exe + " \"" + dataFolder + "Tarvelon.dat\" \"" + dataFolder + "Integrity.dat\"");
     help.Command3.click();
     EXPECT_FALSE(help.Visible());
-    EXPECT_EQ(fields(), "Anti-Virus Software||" + exe + "|" + exe) << "the path in place of arguments";
+    EXPECT_EQ(fields(), "C:\\x.exe|/x|" + exe + "|" + exe) << "the path in place of arguments";
     form().cButton1.click();
     help.close();
     app->vDct.helpme.click();
@@ -96,6 +99,10 @@ TEST_F(Scanners, TheCatalogueSearchesTestsAndHandsOver) {
     EXPECT_EQ(fields(), exe + "|/HEUR:3|" + exe + "|" + exe) << "for the first scanner by now";
     EXPECT_EQ(app->vDct.vpath.Caption() + app->vDct.varg.Caption(), exe + "/HEUR:3");
 
+    form().Text5.typed("");
+    form().chlpFind.click();
+    help.Command3.click();
+    EXPECT_EQ(form().Text5.Caption(), exe);
     form().chlpFind.click();
     clickTelling(
         help.Command1,

@@ -122,13 +122,18 @@ TEST_F(StartUpRun, RefusedTwiceLeavesSwitchesWithoutUseAndElseAnOpenWindow) {
 
 TEST_F(StartUpRun, EveryEntryOpensItsPageAndNoOther) {
     MForm1Screen& window = startedWindow();
-    const auto opens = [&](auto& entry, const Frame& opened) {
-        entry.click();
+    const auto shows = [&](const Frame& opened) {
         for (const Frame* page : {&window.intF, &window.regF, &window.appF, &window.setFq, &window.qSett,
                                   &window.advF, &window.Frame2}) {
-            EXPECT_EQ(page->isShown(), page == &opened) << entry.Caption();
+            EXPECT_EQ(page->isShown(), page == &opened);
         }
     };
+    const auto opens = [&](auto& entry, const Frame& opened) {
+        SCOPED_TRACE(entry.Caption());
+        entry.click();
+        shows(opened);
+    };
+    shows(window.Frame2);
     opens(window.Image5, window.intF);
     opens(window.Image7, window.regF);
     opens(window.Image9, window.appF);

@@ -204,11 +204,6 @@ TextBox::TextBox(ControlParent parent, Rect place, bool visible)
     Visible = visible;
 }
 
-void TextBox::typed(const std::string& text) {
-    Caption = text;
-    raise(onChange);
-}
-
 std::string ItemControl::item(int index) const {
     return index >= 0 && index < count() ? items_[static_cast<std::size_t>(index)] : std::string();
 }

@@ -269,9 +269,8 @@ class TextBox : public Control {
 public:
     TextBox(ControlParent parent, Rect place, bool visible = true);
 
-    Screen::Handler onChange;
     /// The user has typed.
-    void typed(const std::string& text);
+    void typed(const std::string& text) { Caption = text; }
 };
 
 /// Rows of text, and the selected one. Shared by the list box and the drop-down list.
