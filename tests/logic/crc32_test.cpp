@@ -10,10 +10,6 @@
 
 namespace tarvelon {
 
-void PrintTo(const Crc32Kernel& kernel, std::ostream* out) {
-    *out << kernel.name;
-}
-
 namespace {
 
 class EveryCrc32Kernel : public testing::TestWithParam<Crc32Kernel> {};

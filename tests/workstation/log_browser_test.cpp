@@ -92,7 +92,7 @@ TEST_F(Reports, AReportIsShownUpToItsFirstEmptyField) {
 
 TEST_F(Reports, TheFilesOfAReportAreScannedAgain) {
     view("03-05-2006|3:04:07 PM");
-    EXPECT_TRUE(form().repF.isShown() && !form().Label26.Visible());
+    EXPECT_TRUE(form().repF.isShown() && !form().setFq.isShown() && !form().Label26.Visible());
     tells("Anti-Virus program executed successfully!");
     form().cScnLog.click();
     EXPECT_EQ(lines(),
@@ -121,6 +121,10 @@ TEST_F(Reports, AreDeletedSinglyByDateAndAllIfTheUserSaysSo) {
         view("03-05-2006|3:04:07 PM");
         form().cDelLog.click();
     };
+    form().TreeView2.keyDown(46); // Nothing is selected.
+    asks("Delete Log Entry?", Answer::No);
+    deleteKeyOn("03-05-2006|9:00:00 AM");
+    EXPECT_NE(form().TreeView2.selected(), nullptr) << "it is left as it is";
     deletes("Are you sure you want to delete this Report?", deleteShown, kept + date);
     EXPECT_TRUE(form().setFq.isShown());
     report("03-06-2006(4_00_00PM)", "late");

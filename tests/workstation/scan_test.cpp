@@ -327,7 +327,7 @@ TEST_F(Scan, ReportNamesFollowTheRegionalForms) {
     live({}, {});
     for (const auto& [date, time, name] : {std::tuple("2006-3-5", "15:04:07", "2006-03-5(15_04_07).log"),
                                            {"2006?3?5?", "?? 3:04:07", "2006_3_5_(__3_04_07).log"},
-                                           {"5.3.2006", "15:04:07", "5.3.2006(15_04_07).log"}}) {
+                                           {"5.3.2006!#", "15:04:07", "5.3.2006!#(15_04_07).log"}}) {
         pc.clock.date = date;
         pc.clock.time = time;
         EXPECT_EQ(app->logFiles.fileName(), dataFolder + "Log\\" + name);

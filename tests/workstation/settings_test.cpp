@@ -81,7 +81,7 @@ TEST_F(SettingsRun, ShowWhatTheFileHoldsAsFarAsItCanBeRead) {
     // One after the other: what a text does not hold, or holds behind a value of no use, stays as it was.
     const std::pair<const char*, std::string> loadings[] = {
         {"", "00000000 000000 100 64 Kb,500,CRC32"},
-        {"SETTINGS=1,0,1,0,1,0,1,1,1,1\r\nsettings2=1,0,1,0,1,0,1\r\nadvanced=131072,50,1\r\n"
+        {"SETTINGS=1,0,1,0,1,0,1,1,1,1\r\nsettings2=1,0,1,0,1,0,1\r\nadvanced=131072,50,1,0\r\n"
          "antivirus2=0,1,1,0\r\nalgo=Md5\r\n",
          "10101011 101010 011 128 Kb,50,MD5,WSH"},
         {"settings=0,1,0\r\nsettings2=0,1\r\nantivirus2=1,1\r\nalgo= sha1 \r\n",
@@ -209,6 +209,7 @@ TEST_F(SettingsRun, TheWizardHasNinePagesFromWelcomeToDone) {
 
     click(wizard().Label2, wizard().Label2);
     EXPECT_EQ(page(), pages[7]);
+    EXPECT_TRUE(wizard().Label1.Visible());
     pc.messages.advance(95'000);
     wizard().Label1.click();
     EXPECT_THAT(wizard().desc.Caption(), EndsWith("This setup took: 2 minutes to complete."));

@@ -135,6 +135,7 @@ TEST_F(StartUpRun, EveryEntryOpensItsPageAndNoOther) {
     };
     shows(window.Frame2);
     opens(window.Image5, window.intF);
+    EXPECT_TRUE(window.Image5.Current());
     opens(window.Image7, window.regF);
     opens(window.Image9, window.appF);
     EXPECT_TRUE(window.Image9.Current() && !window.Image7.Current());
