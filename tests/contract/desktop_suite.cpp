@@ -90,12 +90,9 @@ TEST_F(Contract, LinkFilesKeepWhatTheyWereTold) {
     const std::string own = platform.processes.programFile();
     const std::string description("Access Shortcut\0cut", 19);
     EXPECT_TRUE(platform.shortcuts.saveShellLink(
-        folder + "Plain.lnk", {own, "", " /r", description, own, /* iconIndex */ 0, /* showCmd */ 5, 4}));
-    EXPECT_TRUE(
-        platform.shortcuts.saveShellLink(folder + "Full.lnk", {own, "C:\\", "", "Full", own, 3, 7, 4}));
+        folder + "Full.lnk", {own, "C:\\", " /r", description, own, /* iconIndex */ 3, /* showCmd */ 5, 4}));
     EXPECT_TRUE(platform.shortcuts.saveScripted(folder + "Scripted.lnk", {"/r", "Tarvelon", own, 7}));
-    EXPECT_EQ(workstation->readLink(folder + "Plain.lnk"), own + "|| /r|Access Shortcut|" + own + "|0|5");
-    EXPECT_EQ(workstation->readLink(folder + "Full.lnk"), own + "|C:\\||Full|" + own + "|3|7");
+    EXPECT_EQ(workstation->readLink(folder + "Full.lnk"), own + "|C:\\| /r|Access Shortcut|" + own + "|3|5");
     EXPECT_EQ(workstation->readLink(folder + "Scripted.lnk"), own + "||/r|Tarvelon||0|7");
 
     const std::string nowhere = folder + "missing\\A.lnk";

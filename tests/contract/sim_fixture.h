@@ -15,10 +15,6 @@ public:
     }
 
     Platform platform() { return sim_.platform(); }
-    bool makeReadOnly(const std::string& path) {
-        sim_.files.denyWrites(path);
-        return true;
-    }
     std::shared_ptr<void> lock(const std::string& path) {
         sim_.files.lock(path);
         return std::shared_ptr<void>(&sim_, [this, path](void*) { sim_.files.unlock(path); });

@@ -30,12 +30,6 @@ public:
     ~ContractWorkstation() { empty(); }
 
     Platform platform() { return win32_.platform(); }
-    /// False when this machine does not hold anybody back from writing: Wine does not, for its administrator.
-    bool makeReadOnly(const std::string& path) {
-        readOnly_ = path;
-        SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_READONLY);
-        return !CloseHandle(CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr));
-    }
     /// Keeps the file open so that nobody else can, until the result goes.
     std::shared_ptr<void> lock(const std::string& path) {
         const HANDLE file = CreateFileA(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
@@ -104,14 +98,12 @@ public:
 
 private:
     void empty() {
-        SetFileAttributesA(readOnly_.c_str(), FILE_ATTRIBUTE_NORMAL);
         std::error_code passedOver;
         std::filesystem::remove_all(folder, passedOver);
         SHDeleteKeyA(HKEY_CURRENT_USER, key.c_str());
     }
 
     Win32Platform win32_;
-    std::string readOnly_;
 };
 
 } // namespace tarvelon
