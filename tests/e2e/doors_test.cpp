@@ -52,7 +52,7 @@ TEST(Doors, NothingOfTheProgramsOwnOrTheCurrentFolderIsLoadedOrStarted) {
     EXPECT_THAT(program.box().text, testing::HasSubstr("cannot be started"));
 
     SetCurrentDirectoryA("C:\\");
-    EXPECT_THAT(stranger.recordsNow(), IsEmpty());
+    EXPECT_THAT(stranger.records(), IsEmpty());
     const std::vector<std::string> modules = program.modules();
     EXPECT_THAT(modules, testing::Contains(testing::EndsWith("\\imagehlp.dll")));
     EXPECT_THAT(modules, testing::Contains(testing::EndsWith("\\rsaenh.dll")));

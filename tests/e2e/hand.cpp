@@ -66,6 +66,82 @@ std::string named(HWND control) {
            (IsWindowEnabled(control) != 0 ? "" : " (disabled)");
 }
 
+std::string pressSomeKey(Chance& chance) {
+    Key key{0, 0, static_cast<WORD>('A' + chance.below(26)), "a letter"};
+    key.first = chance.oneIn(4) ? VK_MENU : 0;
+    int place = static_cast<int>(chance.below(100));
+    for (const Key& known : keys) {
+        if (place >= 0 && (place -= known.weight) < 0) {
+            key = known;
+        }
+    }
+    GUITHREADINFO focus{};
+    focus.cbSize = sizeof focus;
+    GetGUIThreadInfo(GetWindowThreadProcessId(GetForegroundWindow(), nullptr), &focus);
+    for (const DWORD flags : {DWORD{0}, DWORD{KEYEVENTF_KEYUP}}) {
+        if (key.first != 0) {
+            sendKey(key.first, flags);
+        }
+        sendKey(key.key, flags);
+        Sleep(touch);
+    }
+    return std::string(key.name) + " on " + named(focus.hwndFocus);
+}
+
+/// What of the window can be clicked: it is not covered by other windows, though it may be disabled.
+std::vector<HWND> targets(HWND window) {
+    std::vector<HWND> all = visibleChildren(window);
+    std::erase_if(all, [&](HWND child) {
+        const RECT place = placeOf(child);
+        const POINT centre{(place.left + place.right) / 2, (place.top + place.bottom) / 2};
+        return GetAncestor(WindowFromPoint(centre), GA_ROOT) != window;
+    });
+    if (all.empty()) {
+        all.push_back(window);
+    }
+    return all;
+}
+
+std::string clickSomething(const std::vector<HWND>& windows, Chance& chance) {
+    const std::vector<HWND> all = targets(chance.oneIn(6) ? chance.of(windows) : windows.front());
+    HWND control = chance.of(all);
+    for (int more = 0; more < 2 && isDull(control); ++more) {
+        control = chance.of(all);
+    }
+    const POINT where = pointIn(placeOf(control), chance);
+    const bool drags = chance.oneIn(15);
+    const bool twice = !drags && chance.oneIn(8);
+    const std::string done = (drags   ? "drags from "
+                              : twice ? "double click on "
+                                      : "click on ") +
+                             named(control);
+    press(where, drags ? pointIn(placeOf(chance.of(all)), chance) : where);
+    if (twice) {
+        press(where, where);
+    }
+    return done;
+}
+
+/// One of the title bar's buttons, or the bar beside them.
+std::string useFrame(Chance& chance) {
+    HWND const window = GetForegroundWindow();
+    const LONG button = GetSystemMetrics(SM_CYCAPTION);
+    const POINT where = onTitle(window, button / 2 + button * static_cast<LONG>(chance.below(6)));
+    press(where, where);
+    return "title bar of " + named(window);
+}
+
+/// From another program, or from a window that is minimised.
+std::string comeBack(HWND window) {
+    const std::string done = (IsIconic(window) != 0 ? "restores " : "comes back to ") + named(window);
+    const RECT place = placeOf(window);
+    const POINT where = onTitle(window, (place.right - place.left) / 2);
+    for (int times = IsIconic(window) != 0 ? 2 : 1; times > 0; --times) {
+        press(where, where);
+    }
+    return done;
+}
+
 } // namespace
 
 Chance::Chance(std::uint32_t seed, std::uint32_t number) {
@@ -115,29 +191,7 @@ std::string Hand::act(Chance& chance) {
     if (kind < 54) {
         return holdOrLetGo(chance.oneIn(2) ? VK_SHIFT : VK_SPACE);
     }
-    return kind < 96 ? clickSomething(chance) : useFrame(chance);
-}
-
-std::string Hand::pressSomeKey(Chance& chance) {
-    Key key{0, 0, static_cast<WORD>('A' + chance.below(26)), "a letter"};
-    key.first = chance.oneIn(4) ? VK_MENU : 0;
-    int place = static_cast<int>(chance.below(100));
-    for (const Key& known : keys) {
-        if (place >= 0 && (place -= known.weight) < 0) {
-            key = known;
-        }
-    }
-    GUITHREADINFO focus{};
-    focus.cbSize = sizeof focus;
-    GetGUIThreadInfo(GetWindowThreadProcessId(GetForegroundWindow(), nullptr), &focus);
-    for (const DWORD flags : {DWORD{0}, DWORD{KEYEVENTF_KEYUP}}) {
-        if (key.first != 0) {
-            sendKey(key.first, flags);
-        }
-        sendKey(key.key, flags);
-        Sleep(touch);
-    }
-    return std::string(key.name) + " on " + named(focus.hwndFocus);
+    return kind < 96 ? clickSomething(windows, chance) : useFrame(chance);
 }
 
 std::string Hand::holdOrLetGo(WORD key) {
@@ -147,64 +201,6 @@ std::string Hand::holdOrLetGo(WORD key) {
     }
     sendKey(key, down ? 0 : KEYEVENTF_KEYUP);
     return std::string(down ? "holds " : "lets go ") + (key == VK_SHIFT ? "SHIFT" : "Space");
-}
-
-/// What of the window can be clicked: it is not covered by other windows, though it may be disabled.
-std::vector<HWND> Hand::targets(HWND window) const {
-    std::vector<HWND> all = visibleChildren(window);
-    std::erase_if(all, [&](HWND child) {
-        const RECT place = placeOf(child);
-        const POINT centre{(place.left + place.right) / 2, (place.top + place.bottom) / 2};
-        return GetAncestor(WindowFromPoint(centre), GA_ROOT) != window;
-    });
-    if (all.empty()) {
-        all.push_back(window);
-    }
-    return all;
-}
-
-std::string Hand::clickSomething(Chance& chance) {
-    const std::vector<HWND> windows = program_.windows();
-    if (windows.empty()) {
-        return "finds nothing to click";
-    }
-    const std::vector<HWND> all = targets(chance.oneIn(6) ? chance.of(windows) : windows.front());
-    HWND control = chance.of(all);
-    for (int more = 0; more < 2 && isDull(control); ++more) {
-        control = chance.of(all);
-    }
-    const POINT where = pointIn(placeOf(control), chance);
-    const bool drags = chance.oneIn(15);
-    const bool twice = !drags && chance.oneIn(8);
-    const std::string done = (drags   ? "drags from "
-                              : twice ? "double click on "
-                                      : "click on ") +
-                             named(control);
-    press(where, drags ? pointIn(placeOf(chance.of(all)), chance) : where);
-    if (twice) {
-        press(where, where);
-    }
-    return done;
-}
-
-/// One of the title bar's buttons, or the bar beside them.
-std::string Hand::useFrame(Chance& chance) {
-    HWND const window = GetForegroundWindow();
-    const LONG button = GetSystemMetrics(SM_CYCAPTION);
-    const POINT where = onTitle(window, button / 2 + button * static_cast<LONG>(chance.below(6)));
-    press(where, where);
-    return "title bar of " + named(window);
-}
-
-/// From another program, or from a window that is minimised.
-std::string Hand::comeBack(HWND window) {
-    const std::string done = (IsIconic(window) != 0 ? "restores " : "comes back to ") + named(window);
-    const RECT place = placeOf(window);
-    const POINT where = onTitle(window, (place.right - place.left) / 2);
-    for (int times = IsIconic(window) != 0 ? 2 : 1; times > 0; --times) {
-        press(where, where);
-    }
-    return done;
 }
 
 /// One that asks for a file has a field for its name, one that asks for a folder a tree.

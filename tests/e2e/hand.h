@@ -6,7 +6,6 @@
 #include <random>
 #include <set>
 #include <string>
-#include <vector>
 
 namespace e2e {
 
@@ -41,13 +40,8 @@ public:
     std::string act(Chance& chance);
 
 private:
-    std::string pressSomeKey(Chance& chance);
     std::string holdOrLetGo(WORD key);
-    std::string clickSomething(Chance& chance);
-    std::string useFrame(Chance& chance);
-    std::string comeBack(HWND window);
     std::string useSystemDialog(const Box& box, Chance& chance);
-    std::vector<HWND> targets(HWND window) const;
 
     const Program& program_;
     const std::string scanner_;

@@ -6,11 +6,9 @@ namespace e2e {
 
 /// Hears what the system tells every program. The window is this thread's, which must fetch its messages.
 inline HWND makeHiddenWindow(WNDPROC onMessage) {
-    WNDCLASSA kind{};
-    kind.lpfnWndProc = onMessage;
-    kind.lpszClassName = "Hidden";
-    RegisterClassA(&kind);
-    return CreateWindowA(kind.lpszClassName, "", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr);
+    HWND const window = CreateWindowA("Static", "", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr);
+    SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(onMessage));
+    return window;
 }
 
 } // namespace e2e

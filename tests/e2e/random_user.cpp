@@ -1,12 +1,11 @@
 // Uses the program at random, by real keys and the real mouse, and sees after each event that it can still be
 // used:
 //
-//     random_user PROGRAM [--seed N] [--plays N] [--events N] [--minutes N] [--shut-down 1]
+//     random_user PROGRAM SEED PLAYS EVENTS [shut-down]
 //
 // A play is so many events from one seed, in a fresh folder with findings; the next play has the next seed.
-// Plays go on until there were so many, or until the minutes have passed. What a play does hangs on its seed
-// and on what stands on the screen. Only with --shut-down is the shut-down dialog opened. Ends with 0 when no
-// play failed.
+// What a play does hangs on its seed and on what stands on the screen. Only with the word shut-down is the
+// shut-down dialog opened. Ends with 0 when no play failed.
 
 #include "demands.h"
 #include "hand.h"
@@ -19,7 +18,6 @@
 #include <algorithm>
 #include <atomic>
 #include <cstdio>
-#include <map>
 #include <memory>
 
 namespace e2e {
@@ -29,27 +27,20 @@ namespace {
 constexpr const char* usualStarts[] = {"", "", "", "", "", "", "/r", "/r", "/r", "/a"};
 constexpr const char* shutDownStarts[] = {"/s", "/s", "/s", "/s", "/s", "/s", "/s", "/s", "/a", ""};
 
+std::atomic<int> timesAsked = 0;
+
 /// Refuses whenever the system asks whether it may go down: this program was started first, so it is asked
 /// first.
-class Guard {
-public:
-    Guard() { CloseHandle(CreateThread(nullptr, 0, stand, nullptr, 0, nullptr)); }
-    static int timesAsked() { return asked; }
-
-private:
-    static DWORD WINAPI stand(void*) {
-        makeHiddenWindow(onMessage);
-        for (MSG message{}; GetMessageA(&message, nullptr, 0, 0) > 0;) {
-            DispatchMessageA(&message);
-        }
-        return 0;
-    }
-    static LRESULT CALLBACK onMessage(HWND window, UINT message, WPARAM wide, LPARAM low) {
-        asked += message == WM_QUERYENDSESSION ? 1 : 0;
+DWORD WINAPI standGuard(void*) {
+    makeHiddenWindow([](HWND window, UINT message, WPARAM wide, LPARAM low) WINAPI -> LRESULT {
+        timesAsked += message == WM_QUERYENDSESSION ? 1 : 0;
         return message == WM_QUERYENDSESSION ? FALSE : DefWindowProcA(window, message, wide, low);
+    });
+    for (MSG message{}; GetMessageA(&message, nullptr, 0, 0) > 0;) {
+        DispatchMessageA(&message);
     }
-    static inline std::atomic<int> asked = 0;
-};
+    return 0;
+}
 
 /// Two folders under watch: one with more findings than are accepted in a moment, and one whose scan lasts.
 struct WatchedFolders {
@@ -57,8 +48,6 @@ struct WatchedFolders {
     const ProgramFolder big{"big"};
 
     WatchedFolders() {
-        DeleteFileA(many.program().c_str());
-        DeleteFileA(big.program().c_str());
         for (int number = 1000; number < 7000; ++number) {
             writeFile(many.path() + std::to_string(number) + ".dll", std::to_string(number));
         }
@@ -104,7 +93,8 @@ public:
                                {"2/args", "1,1,0,0,1,0,1"}});
     }
 
-    void run(std::uint32_t events) {
+    /// True when nothing has failed.
+    bool run(std::uint32_t events) try {
         while (event_ < events) {
             Chance chance(seed_, ++event_);
             start(chance);
@@ -114,10 +104,12 @@ public:
             program_.reset(); // As if the power had gone.
             demandWholeFiles(folder_);
         }
+        return true;
+    } catch (const std::exception& failure) {
+        std::printf("FAILED: seed %u, event %u: %s\n%s\n", seed_, event_, failure.what(),
+                    program_ ? program_->describe().c_str() : "");
+        return false;
     }
-
-    std::uint32_t event() const { return event_; }
-    std::string describe() const { return program_ ? program_->describe() : ""; }
 
 private:
     /// What is found may have been accepted by now, so most starts find it anew.
@@ -146,7 +138,7 @@ private:
         std::fflush(stdout);
         Sleep(pause);
         demandUsable(*program_);
-        if (!shutDown_ && Guard::timesAsked() > 0) {
+        if (!shutDown_ && timesAsked > 0) {
             throw NotSeen("the system is asked to go down");
         }
         if (!program_->ends(Milliseconds(0))) {
@@ -172,55 +164,24 @@ private:
     std::uint32_t event_ = 0;
 };
 
-using Options = std::map<std::string, std::uint32_t>;
-
-Options readOptions(int count, char** arguments) {
-    Options options = {
-        {"--seed", 1}, {"--plays", 1}, {"--events", 250}, {"--minutes", 0}, {"--shut-down", 0}};
-    for (int i = 2; i + 1 < count; i += 2) {
-        options.at(arguments[i]) = static_cast<std::uint32_t>(std::strtoul(arguments[i + 1], nullptr, 10));
-    }
-    return options;
-}
-
-/// Gives the exit code.
-int play(const Options& options) {
-    const Guard guard;
-    const WatchedFolders watched;
-    const DWORD start = GetTickCount();
-    std::uint32_t plays = 0;
-    std::uint32_t events = 0;
-    int failed = 0;
-    const auto goesOn = [&, minutes = options.at("--minutes")] {
-        return minutes != 0 ? GetTickCount() - start < minutes * 60'000 : plays < options.at("--plays");
-    };
-    for (; goesOn(); ++plays) {
-        const std::uint32_t seed = options.at("--seed") + plays;
-        std::printf("Seed %u\n", seed);
-        Play one(seed, watched, options.at("--shut-down") != 0);
-        try {
-            one.run(options.at("--events"));
-        } catch (const std::exception& failure) {
-            std::printf("FAILED: seed %u, event %u: %s\n%s\n", seed, one.event(), failure.what(),
-                        one.describe().c_str());
-            ++failed;
-        }
-        events += one.event();
-    }
-    std::printf("%u plays, %u events, %lu seconds, %d asked to go down, %d failed\n", plays, events,
-                (GetTickCount() - start) / 1000, Guard::timesAsked(), failed);
-    return failed == 0 ? 0 : 1;
-}
-
 } // namespace
 } // namespace e2e
 
 int main(int count, char** arguments) {
-    try {
-        e2e::setInputs({arguments[1], ""});
-        return e2e::play(e2e::readOptions(count, arguments));
-    } catch (const std::exception& failure) {
-        std::fprintf(stderr, "%s\n", failure.what());
-        return 1;
+    using namespace e2e;
+    const auto number = [&](int place) {
+        return static_cast<std::uint32_t>(std::strtoul(arguments[place], nullptr, 10));
+    };
+    setInputs({arguments[1], ""});
+    CloseHandle(CreateThread(nullptr, 0, standGuard, nullptr, 0, nullptr));
+    const WatchedFolders watched;
+    const DWORD start = GetTickCount();
+    int failed = 0;
+    for (std::uint32_t seed = number(2); seed < number(2) + number(3); ++seed) {
+        std::printf("Seed %u\n", seed);
+        failed += Play(seed, watched, count > 5).run(number(4)) ? 0 : 1;
     }
+    std::printf("%u plays of %u events, %lu seconds, %d asked to go down, %d failed\n", number(3), number(4),
+                (GetTickCount() - start) / 1000, timesAsked.load(), failed);
+    return failed == 0 ? 0 : 1;
 }

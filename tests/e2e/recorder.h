@@ -3,7 +3,8 @@
 #include "tools/driver/driver.h"
 #include "tools/driver/workplace.h"
 
-#include <algorithm>
+#include <set>
+#include <sstream>
 
 namespace e2e {
 
@@ -22,24 +23,20 @@ public:
 
     const std::string& path() const { return path_; }
 
-    /// How each of the first `count` runs was started, in the order of their starts; fewer when they do not
-    /// come.
-    std::vector<std::string> records(std::size_t count) const {
+    /// How each run was started, in the order of their starts, when there are so many or no more come.
+    std::vector<std::string> records(std::size_t count = 0) const {
+        std::multiset<std::string> lines;
+        comesTrue([&] {
+            lines.clear();
+            std::istringstream text(readFile(path_ + ".txt").value_or(""));
+            for (std::string line; std::getline(text, line);) {
+                lines.insert(line);
+            }
+            return lines.size() >= count;
+        });
         std::vector<std::string> all;
-        comesTrue([&] { return (all = recordsNow()).size() >= count; });
-        return all;
-    }
-
-    std::vector<std::string> recordsNow() const {
-        const std::string text = readFile(path_ + ".txt").value_or("");
-        std::vector<std::string> all;
-        for (std::size_t from = 0, end = 0; (end = text.find("\r\n", from)) != std::string::npos;
-             from = end + 2) {
-            all.push_back(text.substr(from, end - from));
-        }
-        std::sort(all.begin(), all.end());
-        for (std::string& line : all) {
-            line.erase(0, line.find(' ') + 1); // the moment of the start
+        for (const std::string& line : lines) {
+            all.push_back(line.substr(line.find(' ') + 1)); // Behind the moment of the start.
         }
         return all;
     }

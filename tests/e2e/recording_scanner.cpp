@@ -8,41 +8,29 @@
 #include <cstdio>
 #include <string>
 
-namespace {
-
-/// 16 hexadecimal digits.
-std::string momentOfStart() {
+int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
     FILETIME start{};
     FILETIME ignored{};
     GetProcessTimes(GetCurrentProcess(), &start, &ignored, &ignored, &ignored);
-    char text[17] = {};
-    std::snprintf(text, sizeof text, "%08lX%08lX", start.dwHighDateTime, start.dwLowDateTime);
-    return text;
-}
-
-} // namespace
-
-int WINAPI WinMain(HINSTANCE, HINSTANCE, LPSTR, int) {
-    STARTUPINFOA start{};
-    GetStartupInfoA(&start);
-    const std::string line =
-        momentOfStart() + " " + std::to_string(start.wShowWindow) + " " + GetCommandLineA() + "\r\n";
+    STARTUPINFOA told{};
+    GetStartupInfoA(&told);
+    char head[32] = {};
+    std::snprintf(head, sizeof head, "%08lX%08lX %d ", start.dwHighDateTime, start.dwLowDateTime,
+                  told.wShowWindow);
+    const std::string line = std::string(head) + GetCommandLineA() + "\n";
 
     char program[MAX_PATH] = {};
     GetModuleFileNameA(nullptr, program, sizeof program);
     const std::string record = std::string(program) + ".txt";
-    // Several scanners run at once; the file is one's own until it is closed.
     HANDLE file = INVALID_HANDLE_VALUE;
-    while (file == INVALID_HANDLE_VALUE) {
-        file = CreateFileA(record.c_str(), FILE_APPEND_DATA, 0, nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL,
-                           nullptr);
-        if (file == INVALID_HANDLE_VALUE && GetLastError() != ERROR_SHARING_VIOLATION) {
-            return 1;
-        }
-        Sleep(file == INVALID_HANDLE_VALUE ? 5 : 0);
+    const auto isOpen = [&] {
+        file = CreateFileA(record.c_str(), FILE_APPEND_DATA, 0, nullptr, OPEN_ALWAYS, 0, nullptr);
+        return file != INVALID_HANDLE_VALUE || GetLastError() != ERROR_SHARING_VIOLATION;
+    };
+    while (!isOpen()) { // Several scanners run at once; the file is one's own until it is closed.
+        Sleep(5);
     }
     DWORD written = 0;
     WriteFile(file, line.data(), static_cast<DWORD>(line.size()), &written, nullptr);
-    CloseHandle(file);
     return written == line.size() ? 0 : 1;
 }

@@ -52,11 +52,7 @@ void chooseAndWait(const std::string& programFile, const std::string& choice) {
 
 } // namespace
 
-int main(int count, char** arguments) {
-    if (count != 3) {
-        std::fputs("usage: switch_off PROGRAM CHOICE\n", stderr);
-        return 2;
-    }
+int main(int, char** arguments) {
     try {
         chooseAndWait(arguments[1], arguments[2]);
     } catch (const std::exception& failure) {
