@@ -2,8 +2,6 @@
 
 #include "tests/workstation/session.h"
 
-#include <gmock/gmock.h>
-
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
@@ -15,7 +13,6 @@ extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
 namespace tarvelon {
 namespace {
 
-using Rows = std::vector<std::string>;
 const Rows types = {"DLL", "DRV", "386", "SYS", "OCX", "EXE", "COM", "PIF", "SCR"};
 
 using Folders = std::map<int, std::string>; // Paths by slot, the system directory being 0.

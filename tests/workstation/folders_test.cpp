@@ -102,6 +102,8 @@ TEST_F(Folders, AFolderIsAddedScannedChangedFoundAcceptedAndRemoved) {
         }
     }
     EXPECT_EQ(manager().List1.item(0) + manager().List5.item(0), "1) Empty:0,0,0,0,0,0,0");
+    asks("Do you wish to Save your changes?", Answer::No);
+    manager().close();
     EXPECT_THAT(data("Tarvelon.dat"), HasSubstr("[1]\r\npath=NULL\r\nargs=0,0,0,0,0,0,0\r\n"));
 }
 

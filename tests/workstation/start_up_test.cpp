@@ -27,6 +27,7 @@ TEST_F(StartUpRun, AcceptedListsTheFolderThenFillsTheChecksumsIn) {
         pc.files.put(systemFolder + name, name);
     }
     pc.files.lock(systemFolder + "locked.drv");
+    putSettings({.antivirus = systemFolder + "a,b.exe|"});
     asks(firstRunQuestion, Answer::Yes);
     for (const char* caption : {"Building Integrity File...", "Saving..."}) {
         pc.messages.when([=, this] { return form().Caption() == caption; }, [] {});
@@ -48,6 +49,13 @@ TEST_F(StartUpRun, AcceptedListsTheFolderThenFillsTheChecksumsIn) {
                           "*E\r\nNULL*E\r\n[DRV]\r\nlocked.drv=0*E\r\n"));
     EXPECT_THAT(data("Integrity.dat"), HasSubstr("b.exe=NULL*E\r\nNULL*E\r\na,b.exe=" + crcText("a,b.exe")))
         << "a name with a comma has no line of its own, and gets one behind the end";
+
+    pc.files.put(systemFolder + "v.386", "changed");
+    click(form().Image5, form().bSYS, form().bSCAN);
+    EXPECT_FALSE(settle());
+    app->intCheck.Label12.click();
+    EXPECT_EQ(lines().size(), 1u);
+    EXPECT_EQ(data("Integrity.dat").find(crcText("changed")), std::string::npos) << "not in this run";
 }
 
 TEST_F(StartUpRun, ABackupOfTheAlgorithmInForceIsRestoredOrDroppedForGood) {
