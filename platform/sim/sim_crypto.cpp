@@ -14,8 +14,13 @@ constexpr std::uint32_t rsaFull = 1;
 constexpr std::uint32_t newKeyset = 8;
 constexpr std::uint32_t hashValue = 2;
 
-const std::map<std::uint32_t, const nettle_hash*> algorithms = {
-    {0x8002, &nettle_md4}, {0x8003, &nettle_md5}, {0x8004, &nettle_sha1}};
+/// Null for a number that stands for none.
+const nettle_hash* algorithmOf(std::uint32_t number) {
+    return number == 0x8002   ? &nettle_md4
+           : number == 0x8003 ? &nettle_md5
+           : number == 0x8004 ? &nettle_sha1
+                              : nullptr;
+}
 
 } // namespace
 
@@ -67,11 +72,11 @@ bool SimCrypto::acquireContext(Handle& provider, const std::string& container, c
 bool SimCrypto::createHash(Handle provider, std::uint32_t algorithm, Handle& hash) {
     log_.push_back("CryptCreateHash " + std::to_string(algorithm));
     if (faults_.strikes(Operation::CreateHash) || !contexts_.contains(provider) ||
-        !algorithms.contains(algorithm)) {
+        algorithmOf(algorithm) == nullptr) {
         return false;
     }
     hash = nextHandle_++;
-    hashes_[hash] = std::make_unique<Hash>(*algorithms.at(algorithm));
+    hashes_[hash] = std::make_unique<Hash>(*algorithmOf(algorithm));
     return true;
 }
 
