@@ -6,7 +6,7 @@
 // "update-custom" those of a custom folder into that folder's; "reports" fills the tree with COUNT reports.
 // Prints the milliseconds of each round.
 
-#include "core/application.h"
+#include "app/application.h"
 #include "platform/sim/workstation.h"
 
 #include <chrono>

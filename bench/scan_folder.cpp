@@ -8,7 +8,7 @@
 // first ADDED ones join the scan at log-on. Prints one line: the milliseconds of each round, the files
 // scanned, and the peak memory in KiB.
 
-#include "core/application.h"
+#include "app/application.h"
 #include "platform/sim/workstation.h"
 
 #include <chrono>

@@ -1,8 +1,8 @@
 #include "platform/win32/win32_dialogs.h"
 
+#include "platform/win32/foremost.h"
 #include "platform/win32/shell_items.h"
-#include "platform/win32/view.h"
-#include "platform/win32/view_foremost.h"
+#include "platform/win32/window_host.h"
 #include "platform/win32/windows_api.h"
 
 #include <commdlg.h>
@@ -54,21 +54,21 @@ Answer answerFrom(int button) {
 /// program can be used.
 class Owner {
 public:
-    explicit Owner(Win32View& view)
-        : view_(view)
+    explicit Owner(WindowHost& windows)
+        : windows_(windows)
         , isActive_(GetActiveWindow() != nullptr)
         , window_(foremostUsable()) {
-        view_.block(window_);
+        windows_.block(window_);
     }
     Owner(const Owner&) = delete;
-    ~Owner() { view_.unblock(); }
+    ~Owner() { windows_.unblock(); }
 
     HWND window() const { return window_; }
     /// The user is in another program.
     bool isInBackground() const { return !isActive_; }
 
 private:
-    Win32View& view_;
+    WindowHost& windows_;
     bool isActive_;
     HWND window_;
 };
@@ -76,7 +76,7 @@ private:
 } // namespace
 
 Answer Win32Dialogs::message(const MessageBox& box) {
-    const Owner owner(view_);
+    const Owner owner(windows_);
     const UINT modality =
         (owner.window() ? 0 : MB_TASKMODAL) | (owner.isInBackground() ? MB_SETFOREGROUND : 0);
     const char* title = box.title.empty() ? applicationTitle : box.title.c_str();
@@ -85,7 +85,7 @@ Answer Win32Dialogs::message(const MessageBox& box) {
 }
 
 bool Win32Dialogs::getOpenFileName(OpenFileRecord& record) {
-    const Owner owner(view_);
+    const Owner owner(windows_);
     OPENFILENAMEA request{};
     // The record without its newer tail: the form of it that every Windows takes.
     request.lStructSize = OPENFILENAME_SIZE_VERSION_400A;
@@ -101,7 +101,7 @@ bool Win32Dialogs::getOpenFileName(OpenFileRecord& record) {
 }
 
 bool Win32Dialogs::browseForFolder(const std::string& title, std::uint32_t flags, char* buffer) {
-    const Owner owner(view_);
+    const Owner owner(windows_);
     BROWSEINFOA request{};
     request.hwndOwner = owner.window();
     request.lpszTitle = title.c_str();

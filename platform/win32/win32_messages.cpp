@@ -1,12 +1,12 @@
 #include "platform/win32/win32_messages.h"
 
-#include "platform/win32/view.h"
+#include "platform/win32/window_host.h"
 #include "platform/win32/windows_api.h"
 
 namespace tarvelon {
 
 void Win32MessageQueue::pump() {
-    view_.refreshIfDue();
+    windows_.refreshIfDue();
     MSG message;
     while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {
         if (message.message == WM_QUIT) {
@@ -14,12 +14,12 @@ void Win32MessageQueue::pump() {
             PostQuitMessage(static_cast<int>(message.wParam));
             return;
         }
-        view_.handle(message);
+        windows_.handle(message);
     }
 }
 
 void Win32MessageQueue::wait() {
-    view_.refresh();
+    windows_.refresh();
     // Unlike WaitMessage it does not sleep over input that `queueStatus` has already been told of.
     MsgWaitForMultipleObjectsEx(0, nullptr, INFINITE, QS_ALLINPUT, MWMO_INPUTAVAILABLE);
 }
@@ -44,9 +44,9 @@ std::uint32_t Win32MessageQueue::queueStatus(std::uint32_t flags) {
 int Win32MessageQueue::run() {
     MSG message;
     while (GetMessageA(&message, nullptr, 0, 0) > 0) {
-        view_.handle(message);
+        windows_.handle(message);
         const bool moreWaits = HIWORD(GetQueueStatus(QS_ALLINPUT)) != 0;
-        moreWaits ? view_.refreshIfDue() : view_.refresh();
+        moreWaits ? windows_.refreshIfDue() : windows_.refresh();
     }
     return static_cast<int>(message.wParam);
 }

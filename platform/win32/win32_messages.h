@@ -4,13 +4,13 @@
 
 namespace tarvelon {
 
-class Win32View;
+class WindowHost;
 
 class Win32MessageQueue : public MessageQueue {
 public:
-    /// `view` gets each message first, for keys and navigation in its forms.
-    explicit Win32MessageQueue(Win32View& view)
-        : view_(view) {}
+    /// `windows` gets each message first, for keys and navigation in the forms.
+    explicit Win32MessageQueue(WindowHost& windows)
+        : windows_(windows) {}
 
     void pump() override;
     void wait() override;
@@ -20,7 +20,7 @@ public:
     int run();
 
 private:
-    Win32View& view_;
+    WindowHost& windows_;
     std::int64_t idleUntil_ = 0; ///< The performance counter until which nothing need be asked anew.
     std::uint32_t idleFlags_ = 0;
 };

@@ -26,7 +26,9 @@ void trustSystemDirectoryOnly() {
 
 } // namespace
 
-Win32Platform::Win32Platform() {
+Win32Platform::Win32Platform(WindowHost& windows)
+    : dialogs_(windows)
+    , messages_(windows) {
     trustSystemDirectoryOnly();
     CoInitialize(nullptr);
 }

@@ -2,6 +2,7 @@
 
 #include "platform/win32/component.h"
 #include "platform/win32/win32_platform.h"
+#include "view/view.h"
 
 #include <gtest/gtest.h>
 #include <windows.h>
@@ -51,7 +52,7 @@ public:
         CryptAcquireContextA(&none, "", MS_ENHANCED_PROV_A, PROV_RSA_FULL, CRYPT_DELETEKEYSET);
     }
     /// Its timers run from its loading on. The screen outlives the workstation.
-    void attach(Screen& screen) { win32_.view().attach(screen); }
+    void attach(Screen& screen) { view_.attach(screen); }
     /// Whether a command line that makes this file has been run, at the latest within some seconds.
     bool hasMade(const std::string& path, const std::string&) {
         for (int tries = 0; tries < 100 && !std::filesystem::exists(path); ++tries) {
@@ -103,7 +104,8 @@ private:
         SHDeleteKeyA(HKEY_CURRENT_USER, key.c_str());
     }
 
-    Win32Platform win32_;
+    Win32View view_;
+    Win32Platform win32_{view_};
 };
 
 } // namespace tarvelon

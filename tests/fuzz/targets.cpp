@@ -1,6 +1,6 @@
 // What the program reads from outside, a target for each kind of text, chosen by FUZZ_TARGET: it takes any
 // bytes, cut into fields at form feeds, and throws when a rule does not hold that must hold for all of them.
-#include "core/application.h"
+#include "app/application.h"
 #include "core/profile_image.h"
 #include "platform/sim/workstation.h"
 #include "regwatch/locations.h"

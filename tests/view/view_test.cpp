@@ -1,8 +1,9 @@
-#include "platform/win32/view_theme.h"
 #include "platform/win32/win32_platform.h"
 #include "platform/win32/windows_api.h"
 #include "ui/controls/bar_chart.h"
 #include "ui/controls/tree.h"
+#include "view/theme.h"
+#include "view/view.h"
 
 #include <gmock/gmock.h>
 
@@ -60,7 +61,7 @@ struct SampleScreen : Screen {
 class View : public testing::Test {
 protected:
     View() {
-        platform.view().attach(screen);
+        view.attach(screen);
         screen.lit.Visible = false;
         screen.checkList.Enabled = false;
         screen.show();
@@ -124,7 +125,8 @@ protected:
         }
     }
 
-    Win32Platform platform;
+    Win32View view;
+    Win32Platform platform{view};
     SampleScreen screen;
     HWND form = nullptr;
     std::string heard;
@@ -336,7 +338,7 @@ TEST_F(View, ATreeMayBeFilledAnewByItsOwnClickAndKeys) {
         heard += screen.tree.selected()->key + " ";
         fill();
         pumpFor(0);
-        platform.view().refresh();
+        view.refresh();
         EXPECT_EQ(ask(screen.tree, TVM_GETCOUNT), shown) << "Those that the window is telling of";
     };
     screen.tree.onKeyDown = [&](int) { fill(); };
@@ -353,7 +355,7 @@ TEST_F(View, ATreeMayBeFilledAnewByItsOwnClickAndKeys) {
     screen.tree.onKeyDown = {};
     shown = 1;
     ask(screen.tree, WM_KEYDOWN, VK_DOWN, 1); // The keyboard finds its way in where nothing is selected.
-    platform.view().refresh();
+    view.refresh();
     shown = 3;
     ask(screen.tree, WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(30, 10));
     EXPECT_EQ(heard, "root opened value other root twice opened ");
@@ -362,7 +364,7 @@ TEST_F(View, ATreeMayBeFilledAnewByItsOwnClickAndKeys) {
 TEST_F(View, FormsComeForwardCloseAndAreAllBlockedByABox) {
     SampleScreen other;
     other.Caption = "Other";
-    platform.view().attach(other);
+    view.attach(other);
     screen.onKeyDown = [&](int key) { heard += std::to_string(key); };
     screen.onKeyUp = [&](int key) { heard += std::to_string(-key); };
     screen.button.onClick = [&] {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/application.h"
+#include "app/application.h"
 #include "platform/sim/workstation.h"
 #include "tests/support/bitwise_crc32.h"
 

@@ -1,0 +1,247 @@
+#include "view/form.h"
+
+#include "platform/win32/foremost.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+namespace tarvelon {
+
+namespace {
+
+constexpr DWORD extendedStyle = WS_EX_CONTROLPARENT;
+constexpr UINT_PTR refreshTimer = 1;
+constexpr UINT_PTR firstControlTimer = 16;
+constexpr int firstControlId = 100; ///< Above the numbers that Enter and Esc stand for.
+constexpr DWORD refreshEvery = 33;  ///< Milliseconds.
+
+DWORD styleOf(const Screen& screen) {
+    return WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN |
+           (screen.canMinimize ? WS_MINIMIZEBOX : 0);
+}
+
+} // namespace
+
+FormWindow::FormWindow(Screen& screen, ViewTools& tools)
+    : screen_(screen)
+    , tools_(tools) {
+    createWindow();
+    startTimers();
+    applyVisible();
+}
+
+FormWindow::~FormWindow() {
+    SetWindowLongPtrA(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(DefWindowProcA));
+    DestroyWindow(window_);
+}
+
+void FormWindow::createWindow() {
+    window_ = CreateWindowExA(extendedStyle, formWindowClass, screen_.Caption().c_str(), styleOf(screen_),
+                              CW_USEDEFAULT, CW_USEDEFAULT, 0, 0, nullptr, nullptr, GetModuleHandleA(nullptr),
+                              nullptr);
+    SetWindowLongPtrA(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+    SetWindowLongPtrA(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure));
+    scale_ = Scale(tools_.scaling.dotsPerInch(window_));
+    const SIZE size = outerSize();
+    RECT desktop;
+    SystemParametersInfoA(SPI_GETWORKAREA, 0, &desktop, 0);
+    const int x = desktop.left + std::max((widthOf(desktop) - static_cast<int>(size.cx)) / 2, 0);
+    const int y = desktop.top + std::max((heightOf(desktop) - static_cast<int>(size.cy)) / 2, 0);
+    SetWindowPos(window_, nullptr, x, y, size.cx, size.cy, SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+SIZE FormWindow::outerSize() const {
+    RECT frame = scale_(at(0, 0, screen_.width(), screen_.height()));
+    tools_.scaling.addFrame(frame, styleOf(screen_), extendedStyle, scale_.dotsPerInch());
+    return {widthOf(frame), heightOf(frame)};
+}
+
+void FormWindow::startTimers() {
+    for (Control* control : screen_.controls()) {
+        if (control->kind() == ControlKind::Timer) {
+            timers_.push_back(static_cast<Timer*>(control));
+            applyTimer(*timers_.back());
+        }
+    }
+}
+
+/// Called when the form first comes to light: a run that never shows it does not pay for its windows.
+void FormWindow::createControls() {
+    for (const Control* control : screen_.controls()) {
+        if (control->kind() == ControlKind::NavButton && control->frame()) {
+            navigation_.insert(control->frame());
+        }
+    }
+    int id = firstControlId;
+    std::unordered_map<const Frame*, std::optional<ControlKind>> before;
+    for (Control* control : screen_.controls()) {
+        if (control->kind() == ControlKind::Timer) {
+            continue;
+        }
+        std::unique_ptr<ControlWindow> made = makeControlWindow(*this, *control);
+        const ControlWindow* frame = control->frame() ? windowOf(*control->frame()) : nullptr;
+        byControl_[control] = made.get();
+        made->create(frame ? frame->window() : window_, id++);
+        // The arrow keys go round among neighbours of one kind; what takes no keys is a group of its own.
+        std::optional<ControlKind>& previous = before[control->frame()];
+        const auto group = made->takesKeys() ? std::optional(control->kind()) : std::nullopt;
+        if (!group || group != previous) {
+            SetWindowLongA(made->window(), GWL_STYLE, GetWindowLongA(made->window(), GWL_STYLE) | WS_GROUP);
+        }
+        previous = group;
+        controls_.push_back(std::move(made));
+    }
+}
+
+ControlWindow* FormWindow::windowOf(const Control& control) const {
+    const auto found = byControl_.find(&control);
+    return found == byControl_.end() ? nullptr : found->second;
+}
+
+void FormWindow::changed(Aspect aspect) {
+    switch (aspect) {
+    case Aspect::Visible:
+        refresh();
+        applyVisible();
+        break;
+    case Aspect::Value:
+        applyMinimized();
+        break;
+    case Aspect::Front:
+        bringToFront();
+        break;
+    default:
+        captionWaits_ = true;
+        refreshIfDue();
+        break;
+    }
+}
+
+void FormWindow::changed(Control& control, Aspect aspect) {
+    const bool comesOrGoes = aspect == Aspect::Visible || aspect == Aspect::Enabled;
+    if (control.kind() == ControlKind::Frame && comesOrGoes && control.Visible() && control.Enabled()) {
+        pageShown_ = &control;
+    }
+    if (control.kind() == ControlKind::Timer) {
+        applyTimer(static_cast<const Timer&>(control));
+    } else if (ControlWindow* window = windowOf(control)) {
+        window->changed(aspect);
+    }
+}
+
+void FormWindow::applyVisible() {
+    if (!screen_.Visible()) {
+        ShowWindow(window_, SW_HIDE);
+        return;
+    }
+    if (controls_.empty()) {
+        createControls();
+    }
+    if (blocked_) {
+        SetWindowPos(window_, foremostUsable(), 0, 0, 0, 0,
+                     SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW);
+    } else if (screen_.Minimized()) {
+        ShowWindow(window_, SW_SHOWMINIMIZED);
+    } else {
+        bringToFront();
+    }
+}
+
+void FormWindow::bringToFront() {
+    if (!blocked_) {
+        ShowWindow(window_, SW_SHOWNORMAL);
+        SetForegroundWindow(window_);
+    }
+}
+
+void FormWindow::setBlocked(bool blocked) {
+    blocked_ = blocked;
+    EnableWindow(window_, !blocked);
+}
+
+void FormWindow::applyMinimized() {
+    const bool already = (IsIconic(window_) != FALSE) == screen_.Minimized();
+    if (screen_.Visible() && !already) {
+        ShowWindow(window_, screen_.Minimized() ? SW_MINIMIZE : SW_RESTORE);
+    }
+}
+
+void FormWindow::applyTimer(const Timer& timer) {
+    const auto found = std::find(timers_.begin(), timers_.end(), &timer);
+    const UINT_PTR id = firstControlTimer + static_cast<UINT_PTR>(std::distance(timers_.begin(), found));
+    if (timer.Enabled()) {
+        SetTimer(window_, id, static_cast<UINT>(timer.interval()), nullptr);
+    } else {
+        KillTimer(window_, id);
+    }
+}
+
+void FormWindow::timerFired(UINT_PTR id) {
+    if (id == refreshTimer) {
+        KillTimer(window_, refreshTimer);
+        timerRuns_ = false;
+        refresh();
+    } else if (id >= firstControlTimer && id - firstControlTimer < timers_.size()) {
+        timers_[id - firstControlTimer]->tick();
+    }
+}
+
+void FormWindow::refreshLater(ControlWindow& window) {
+    if (!window.waitsForRefresh) {
+        window.waitsForRefresh = true;
+        waiting_.push_back(&window);
+    }
+    refreshIfDue();
+}
+
+void FormWindow::refreshIfDue() {
+    if (waiting_.empty() && !captionWaits_ && !focusLost_) {
+        return;
+    }
+    if (GetTickCount() - refreshedAt_ >= refreshEvery) {
+        refresh();
+    } else if (!timerRuns_) {
+        timerRuns_ = SetTimer(window_, refreshTimer, refreshEvery, nullptr) != 0;
+    }
+}
+
+void FormWindow::refresh() {
+    refreshedAt_ = GetTickCount();
+    if (captionWaits_) {
+        captionWaits_ = false;
+        DefWindowProcA(window_, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(screen_.Caption().c_str()));
+    }
+    for (ControlWindow* window : std::exchange(waiting_, {})) {
+        window->waitsForRefresh = false;
+        window->refresh();
+    }
+    if (focusLost_) {
+        focusLost_ = false;
+        giveFocus();
+    }
+    const ControlWindow* emptied = std::exchange(emptied_, nullptr);
+    if (emptied && emptied->isFocused() && emptied->isEmpty()) {
+        moveFocus(FALSE, FALSE);
+    }
+}
+
+void FormWindow::arrange() {
+    for (const auto& control : controls_) {
+        control->arrange();
+    }
+}
+
+void FormWindow::scaleTo(unsigned dotsPerInch, const RECT& place) {
+    scale_ = Scale(dotsPerInch);
+    const SIZE size = outerSize();
+    SetWindowPos(window_, nullptr, place.left, place.top, size.cx, size.cy, SWP_NOZORDER | SWP_NOACTIVATE);
+    arrange();
+    themeChanged();
+}
+
+void FormWindow::themeChanged() {
+    RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
+}
+
+} // namespace tarvelon

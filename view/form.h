@@ -1,0 +1,91 @@
+#pragma once
+
+#include "view/control.h"
+
+#include <memory>
+#include <optional>
+#include <unordered_map>
+#include <unordered_set>
+#include <vector>
+
+namespace tarvelon {
+
+constexpr const char* formWindowClass = "TarvelonForm";
+
+/// The top-level window of one screen, with all its child windows.
+class FormWindow {
+public:
+    FormWindow(Screen& screen, ViewTools& tools);
+    FormWindow(const FormWindow&) = delete;
+    ~FormWindow();
+
+    void changed(Aspect aspect);
+    void changed(Control& control, Aspect aspect);
+
+    /// Shows what has changed since the last time.
+    void refresh();
+    /// The same, unless that was less than a thirtieth of a second ago.
+    void refreshIfDue();
+    /// Notes that a control's window is to be refreshed.
+    void refreshLater(ControlWindow& window);
+
+    /// Keys and dialog navigation. True when that was all there is to do with the message.
+    bool takes(MSG& message);
+    /// A control's window comes or goes, or can or cannot be used: the keyboard must not stay where it is of
+    /// no use.
+    void followFocus(const ControlWindow& window);
+    /// A list with the keyboard has lost its rows: unless it has others by then, the next control gets it.
+    void leaveIfEmpty(const ControlWindow& list) { emptied_ = &list; }
+    /// A box or a system dialog is open, or no longer: the form cannot be used meanwhile.
+    void setBlocked(bool blocked);
+    void themeChanged();
+
+    HWND window() const { return window_; }
+    Screen& screen() const { return screen_; }
+    ViewTools& tools() const { return tools_; }
+    const Scale& scale() const { return scale_; }
+    /// A frame with navigation buttons in it is the navigation column.
+    bool isNavigation(const Frame& frame) const { return navigation_.contains(&frame); }
+    ControlWindow* windowOf(const Control& control) const;
+
+private:
+    static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wide, LPARAM low);
+    LRESULT handle(UINT message, WPARAM wide, LPARAM low);
+
+    void createWindow();
+    void startTimers();
+    void createControls();
+    void arrange();
+    void applyVisible();
+    void applyMinimized();
+    void bringToFront();
+    bool canUseKeys(HWND window) const;
+    void applyTimer(const Timer& timer);
+    void scaleTo(unsigned dotsPerInch, const RECT& place);
+    SIZE outerSize() const;
+    void timerFired(UINT_PTR id);
+    void activated(bool active);
+    void giveFocus();
+    void moveFocus(WPARAM wide, LPARAM low);
+
+    Screen& screen_;
+    ViewTools& tools_;
+    Scale scale_{96};
+    HWND window_ = nullptr;
+    HWND focusKept_ = nullptr; ///< Had the keyboard when the form was last left.
+    bool focusLost_ = false;   ///< What had the keyboard can have it no longer.
+    bool blocked_ = false;
+    const ControlWindow* emptied_ = nullptr;
+    const Control* pageShown_ = nullptr; ///< The frame that came to light last.
+    std::unordered_set<const Frame*> navigation_;
+    std::vector<std::unique_ptr<ControlWindow>> controls_;
+    std::unordered_map<const Control*, ControlWindow*> byControl_;
+    std::vector<Timer*> timers_;
+
+    std::vector<ControlWindow*> waiting_; ///< To be refreshed.
+    bool captionWaits_ = false;
+    bool timerRuns_ = false; ///< The one that refreshes when nothing else does.
+    DWORD refreshedAt_ = 0;  ///< Milliseconds of the system's tick count.
+};
+
+} // namespace tarvelon

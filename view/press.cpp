@@ -1,0 +1,221 @@
+#include "view/press.h"
+
+#include "view/form.h"
+
+#include <windowsx.h>
+
+#include <algorithm>
+#include <utility>
+
+namespace tarvelon {
+
+void PressWindow::notified(int code) {
+    if (code == BN_CLICKED) {
+        click();
+    }
+}
+
+LRESULT PressWindow::handle(UINT message, WPARAM wide, LPARAM low) {
+    switch (message) {
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONDBLCLK:
+        SetFocus(window());
+        SetCapture(window());
+        press(Held::ByMouse);
+        return 0;
+    case WM_LBUTTONUP:
+        if (held_ == Held::ByMouse) {
+            release(contains({GET_X_LPARAM(low), GET_Y_LPARAM(low)}));
+        }
+        return 0;
+    case WM_CAPTURECHANGED:
+    case WM_CANCELMODE:
+        release(false);
+        return 0;
+    case WM_MOUSEMOVE:
+        mouseMoved({GET_X_LPARAM(low), GET_Y_LPARAM(low)});
+        return ControlWindow::handle(message, wide, low);
+    case WM_MOUSELEAVE:
+        hovered_ = false;
+        leave();
+        repaint();
+        return 0;
+    case WM_SETCURSOR:
+        SetCursor(LoadCursorA(nullptr, control().isUsable() ? IDC_HAND : IDC_ARROW));
+        return TRUE;
+    case WM_KILLFOCUS:
+        release(false);
+        [[fallthrough]];
+    case WM_SETFOCUS:
+    case WM_ENABLE:
+        repaint();
+        return 0;
+    case WM_GETDLGCODE:
+    case WM_KEYDOWN:
+    case WM_KEYUP:
+        return keyboard(message, wide, low);
+    case BM_CLICK:
+        press(Held::ByMouse);
+        release(true);
+        return 0;
+    case BM_GETCHECK:
+        return isTicked() ? BST_CHECKED : BST_UNCHECKED;
+    case BM_GETSTATE:
+        return (isTicked() ? BST_CHECKED : BST_UNCHECKED) | (isHeld() ? BST_PUSHED : 0) |
+               (isFocused() ? BST_FOCUS : 0);
+    case BM_SETCHECK:
+    case BM_SETSTATE:
+    case BM_SETSTYLE:
+        // The control alone decides; the class would draw its own look over ours.
+        return 0;
+    default:
+        return ControlWindow::handle(message, wide, low);
+    }
+}
+
+void PressWindow::press(Held by) {
+    if (!control().isUsable() || held_ != Held::No) {
+        return;
+    }
+    held_ = by;
+    overWhileHeld_ = true;
+    if (by == Held::ByKey) {
+        keyPress();
+    }
+    down();
+    repaint();
+}
+
+void PressWindow::release(bool counts) {
+    const Held by = std::exchange(held_, Held::No);
+    if (by == Held::No) {
+        return;
+    }
+    if (GetCapture() == window()) {
+        ReleaseCapture();
+    }
+    up();
+    repaint();
+    if (counts) {
+        by == Held::ByKey ? keyClick() : click();
+    }
+}
+
+bool PressWindow::contains(POINT where) const {
+    RECT area;
+    GetClientRect(window(), &area);
+    return PtInRect(&area, where) != FALSE;
+}
+
+void PressWindow::mouseMoved(POINT where) {
+    const bool inside = contains(where);
+    if (inside != hovered_) {
+        hovered_ = inside;
+        TRACKMOUSEEVENT track{sizeof track, TME_LEAVE, window(), 0};
+        TrackMouseEvent(&track);
+        repaint();
+    }
+    if (held_ == Held::ByMouse && inside != overWhileHeld_) {
+        overWhileHeld_ = inside;
+        inside ? down() : up();
+        repaint();
+    }
+    hover(where);
+}
+
+LRESULT PressWindow::keyboard(UINT message, WPARAM key, LPARAM low) {
+    if (message == WM_GETDLGCODE) {
+        const auto* asked = reinterpret_cast<const MSG*>(low);
+        const bool isEnter = asked && asked->message == WM_KEYDOWN && asked->wParam == VK_RETURN;
+        return static_cast<LRESULT>(dialogCode() | (isEnter ? DLGC_WANTMESSAGE : 0U));
+    }
+    constexpr LPARAM wasDownBefore = 1 << 30;
+    if (message == WM_KEYDOWN && key == VK_SPACE && (low & wasDownBefore) == 0) {
+        press(Held::ByKey);
+    } else if (message == WM_KEYUP && key == VK_SPACE && held_ == Held::ByKey) {
+        release(true);
+    } else if (message == WM_KEYDOWN && key == VK_RETURN && (low & wasDownBefore) == 0) {
+        keyPress();
+        keyClick();
+    }
+    return 0;
+}
+
+const Color& PressWindow::faceColor(const Face& face) const {
+    if (!control().isUsable()) {
+        return face.disabled;
+    }
+    if (isHeld()) {
+        return face.pressed;
+    }
+    return isHovered() ? face.hovered : face.normal;
+}
+
+void FlatButtonWindow::hover(POINT where) {
+    // The caption's line is the button's label; what lies above and below is the button's own ground.
+    RECT area;
+    GetClientRect(window(), &area);
+    const int halfLine = scale()(10);
+    const int middle = heightOf(area) / 2;
+    if (where.y < middle - halfLine || where.y > middle + halfLine || !contains(where)) {
+        button_.mouseMove();
+    } else if (button_.onMouseMove) {
+        button_.screen().dispatch(button_.onMouseMove);
+    }
+}
+
+void FlatButtonWindow::paint(Canvas& canvas) {
+    const Scale& scaled = canvas.scale();
+    const bool pressed = button_.Enabled() && button_.foreColor() == colors::white;
+    const Color face = pressed ? theme().button.pressed : faceColor(theme().button);
+    if (theme().highContrast) {
+        canvas.roundedBox(canvas.area(), scaled(4), face, theme().button.border, scaled(pressed ? 2 : 1));
+    } else {
+        canvas.roundedBox(canvas.area(), scaled(4), face);
+    }
+    const Color systemText = button_.isUsable() ? theme().button.border : theme().disabledText;
+    const Color text = theme().highContrast ? systemText : button_.foreColor();
+    canvas.text(button_.Caption(), inset(canvas.area(), scaled(6), scaled(1)),
+                {.color = text, .align = Align::Center, .mnemonics = true});
+    if (isFocused()) {
+        paintFocus(canvas, inset(canvas.area(), scaled(2), scaled(2)),
+                   theme().highContrast ? theme().focus : colors::white);
+    }
+}
+
+void ActionWindow::paint(Canvas& canvas) {
+    if (label_.style() == TextStyle::Link || label_.style() == TextStyle::Step) {
+        paintLink(canvas);
+        return;
+    }
+    const Scale& scaled = canvas.scale();
+    canvas.roundedBox(canvas.area(), scaled(4), faceColor(theme().action), theme().action.border, scaled(1));
+    const Color systemText = label_.isUsable() ? theme().action.border : theme().disabledText;
+    const Color own = label_.isUsable() ? label_.ForeColor() : colors::white;
+    canvas.text(label_.Caption(), inset(canvas.area(), scaled(8), scaled(1)),
+                {.color = theme().highContrast ? systemText : own, .align = Align::Center});
+    if (isFocused()) {
+        paintFocus(canvas, inset(canvas.area(), scaled(3), scaled(3)),
+                   theme().highContrast ? theme().focus : colors::white);
+    }
+}
+
+void ActionWindow::paintLink(Canvas& canvas) {
+    const bool step = label_.style() == TextStyle::Step;
+    TextLook look{.color = step ? surface().text : theme().link, .underlined = !step || label_.Underlined()};
+    if (!label_.isUsable()) {
+        look.color = theme().disabledText;
+    } else if (label_.ForeColor() != colors::black && !theme().highContrast) {
+        look.color = label_.ForeColor();
+    }
+    RECT text = canvas.area();
+    text.left = canvas.scale()(2);
+    canvas.text(label_.Caption(), text, look);
+    if (isFocused()) {
+        text.left = 0;
+        text.right = std::min<LONG>(canvas.textWidth(label_.Caption(), look) + canvas.scale()(5), text.right);
+        paintFocus(canvas, text, theme().focus);
+    }
+}
+
+} // namespace tarvelon

@@ -1,0 +1,114 @@
+#include "view/view.h"
+
+#include "view/form.h"
+#include "view/frame.h"
+
+#include <commctrl.h>
+
+#include <algorithm>
+
+namespace tarvelon {
+
+namespace {
+
+HICON applicationIcon(int widthMetric, int heightMetric) {
+    return static_cast<HICON>(LoadImageA(GetModuleHandleA(nullptr), "application", IMAGE_ICON,
+                                         GetSystemMetrics(widthMetric), GetSystemMetrics(heightMetric),
+                                         LR_DEFAULTCOLOR));
+}
+
+void registerWindowClasses() {
+    WNDCLASSEXA description{};
+    description.cbSize = sizeof description;
+    description.lpfnWndProc = DefWindowProcA;
+    description.hInstance = GetModuleHandleA(nullptr);
+    description.hCursor = LoadCursorA(nullptr, IDC_ARROW);
+    description.lpszClassName = frameWindowClass;
+    RegisterClassExA(&description);
+    description.hIcon = applicationIcon(SM_CXICON, SM_CYICON);
+    description.hIconSm = applicationIcon(SM_CXSMICON, SM_CYSMICON);
+    description.lpszClassName = formWindowClass;
+    RegisterClassExA(&description);
+}
+
+} // namespace
+
+Win32View::Win32View()
+    : tools_(std::make_unique<ViewTools>()) {
+    const INITCOMMONCONTROLSEX wanted{sizeof wanted, ICC_PROGRESS_CLASS | ICC_TREEVIEW_CLASSES};
+    InitCommonControlsEx(&wanted);
+    registerWindowClasses();
+}
+
+Win32View::~Win32View() = default;
+
+void Win32View::loaded(Screen& screen) {
+    forms_.push_back(std::make_unique<FormWindow>(screen, *tools_));
+    if (blocks_ > 0) {
+        forms_.back()->setBlocked(true);
+    }
+}
+
+FormWindow* Win32View::formOf(const Screen& screen) const {
+    const auto found = std::find_if(forms_.begin(), forms_.end(),
+                                    [&](const auto& form) { return &form->screen() == &screen; });
+    return found == forms_.end() ? nullptr : found->get();
+}
+
+void Win32View::changed(Screen& screen, Aspect aspect) {
+    if (FormWindow* form = formOf(screen)) {
+        form->changed(aspect);
+    }
+}
+
+void Win32View::changed(Control& control, Aspect aspect) {
+    if (FormWindow* form = formOf(control.screen())) {
+        form->changed(control, aspect);
+    }
+}
+
+void Win32View::handle(MSG& message) {
+    const HWND root = GetAncestor(message.hwnd, GA_ROOT);
+    const auto found =
+        std::find_if(forms_.begin(), forms_.end(), [&](const auto& form) { return form->window() == root; });
+    if (found != forms_.end() && (*found)->takes(message)) {
+        return;
+    }
+    TranslateMessage(&message);
+    DispatchMessageA(&message);
+}
+
+void Win32View::block(HWND owner) {
+    if (++blocks_ > 1) {
+        return;
+    }
+    for (const auto& form : forms_) {
+        // Disabled before its box is, the owner would not come back to the front when the box closes.
+        if (form->window() != owner) {
+            form->setBlocked(true);
+        }
+    }
+}
+
+void Win32View::unblock() {
+    if (--blocks_ > 0) {
+        return;
+    }
+    for (const auto& form : forms_) {
+        form->setBlocked(false);
+    }
+}
+
+void Win32View::refresh() {
+    for (const auto& form : forms_) {
+        form->refresh();
+    }
+}
+
+void Win32View::refreshIfDue() {
+    for (const auto& form : forms_) {
+        form->refreshIfDue();
+    }
+}
+
+} // namespace tarvelon

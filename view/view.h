@@ -1,0 +1,43 @@
+#pragma once
+
+#include "platform/win32/window_host.h"
+#include "ui/controls/screen.h"
+
+#include <memory>
+#include <vector>
+
+namespace tarvelon {
+
+class FormWindow;
+struct ViewTools;
+
+/// Turns screens into windows. A screen's own window is made when it is loaded, those of its controls when it
+/// first comes to light; they go with the view.
+class Win32View : public ScreenListener, public WindowHost {
+public:
+    Win32View();
+    Win32View(const Win32View&) = delete;
+    ~Win32View() override;
+
+    /// From now on the screen is drawn by this view.
+    void attach(Screen& screen) { screen.listener = this; }
+
+    void loaded(Screen& screen) override;
+    void changed(Screen& screen, Aspect aspect) override;
+    void changed(Control& control, Aspect aspect) override;
+
+    void handle(MSG& message) override;
+    void block(HWND owner) override;
+    void unblock() override;
+    void refresh() override;
+    void refreshIfDue() override;
+
+private:
+    FormWindow* formOf(const Screen& screen) const;
+
+    std::unique_ptr<ViewTools> tools_;
+    std::vector<std::unique_ptr<FormWindow>> forms_; ///< Grows while messages are handled.
+    int blocks_ = 0;
+};
+
+} // namespace tarvelon
