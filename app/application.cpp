@@ -34,33 +34,12 @@ void Application::tellFailures() {
 }
 
 void Application::bindHooks() {
-    bindStartUp();
+    mForm1.onLoad = [this] { startUp.run(); };
+    snapshotFile.setReg = [this] { detection.setReg(); };
     bindScan();
     bindPages();
     bindScanners();
     bindShutDown();
-}
-
-void Application::bindStartUp() {
-    mForm1.onLoad = [this] { startUp.run(); };
-    snapshotFile.setReg = [this] { detection.setReg(); };
-    startUp.hooks = {
-        .checkIntFile = [this] { baseline.checkIntFile(); },
-        .checkRegFile = [this] { snapshotFile.checkRegFile(); },
-        .loadSettings = [this] { settingsPages.loadSettings(); },
-        .setDatName = [this] { checksum.setDatName(); },
-        .loadIntFile = [this] { dataFile.loadIntFile(globals.app.intFile); },
-        .hideMainWindow = [this] { mForm1.hide(); },
-        .showScan = [this] { intCheck.show(); },
-        .loadUp = [this] { scan.LoadUp(); },
-        .minimizeScan = [this] { intCheck.Minimized = true; },
-        .showLogoff = [this] { frmLogoff.show(); },
-        .preShut0 =
-            [this] {
-                frmLogoff.load();
-                shutDownSequence.preShut0();
-            },
-    };
 }
 
 void Application::bindScan() {

@@ -8,6 +8,7 @@
 #include "avshell/s_avir_screen.h"
 #include "avshell/scanner.h"
 #include "core/globals.h"
+#include "core/services.h"
 #include "core/settings_file.h"
 #include "core/utilities.h"
 #include "custom/icust.h"
@@ -72,47 +73,39 @@ public:
 
     Utilities utilities{platform};
     SettingsFile settingsFile{globals, platform};
+    const Services services{globals, platform, settingsFile, utilities};
     Checksum checksum{globals.settings, globals, platform};
     Checksum scanChecksum{globals.scan.algorithm, globals, platform};
-    SnapshotFile snapshotFile{globals, platform};
-    DataFile dataFile{globals, platform, settingsFile, utilities};
-    Baseline baseline{globals, platform, dataFile, utilities, mForm1, mForm1.Combo1};
-    Comparison comparison{intCheck,     sProg,        globals,  platform,
-                          settingsFile, scanChecksum, dataFile, utilities};
-    IntCheck scan{intCheck,
-                  {globals, platform, settingsFile, scanChecksum, dataFile, baseline, utilities, comparison}};
-    Scanner scanner{mForm1.avfocus, globals, platform};
-    LogFiles logFiles{mForm1.Check7, globals, platform};
-    SAvir scannerChoice{s_avir, globals, platform, settingsFile, utilities};
-    AVirHelp scannerCatalogue{aVirHelp, s_avir, globals.cases, platform, utilities, scanner};
-    Wizard wizard{vDct, {globals, platform, settingsFile, utilities, scanner, s_avir}};
-    LogBrowser logBrowser{mForm1, mForm1.Image11, {globals, platform, settingsFile, utilities, scanner}};
-    Detection detection{mForm1, globals, platform, settingsFile};
-    RegPage regPage{mForm1, {globals, platform, settingsFile, utilities, scanner, logFiles, detection}};
+    SnapshotFile snapshotFile{services};
+    DataFile dataFile{services};
+    Baseline baseline{services, dataFile, mForm1, mForm1.Combo1};
+    Comparison comparison{intCheck, sProg.ProgressBar1, services, scanChecksum, dataFile};
+    IntCheck scan{intCheck, services, scanChecksum, dataFile, baseline, comparison};
+    Scanner scanner{mForm1.avfocus, services};
+    LogFiles logFiles{mForm1.Check7, services};
+    SAvir scannerChoice{s_avir, services};
+    AVirHelp scannerCatalogue{aVirHelp, s_avir, services, scanner};
+    Wizard wizard{vDct, services, scanner, s_avir};
+    LogBrowser logBrowser{mForm1, mForm1.Image11, services, scanner};
+    Detection detection{mForm1, services};
+    RegPage regPage{mForm1, services, scanner, logFiles, detection};
     AppPage appPage{mForm1, platform};
     PowerAction powerAction{platform};
     Logoff logoff{frmLogoff, globals.app, platform};
-    Sequence shutDownSequence{frmLogoff,
-                              sProg,
-                              mForm1.List5,
-                              s_avir,
-                              {globals, platform, utilities, scanner, logFiles, powerAction}};
-    ResultAction resultAction{
-        intCheck, {globals, platform, settingsFile, scanChecksum, dataFile, utilities, scanner, logFiles}};
-    FolderScanPage folderScanPage{
-        mForm1, mForm1.Image5, {globals, platform, settingsFile, checksum, dataFile, baseline, utilities}};
-    OwnShortcuts ownShortcuts{globals, platform, utilities};
-    SettingsPages settingsPages{mForm1,   mForm1,       s_avir,    globals,
-                                platform, settingsFile, utilities, ownShortcuts};
-    AdvancedPage advancedPage{mForm1, globals, platform, settingsFile, checksum};
-    SpeedComparison speedComparison{mForm1, globals, platform, checksum};
+    Sequence shutDownSequence{frmLogoff, sProg,   mForm1.List5, s_avir,
+                              services,  scanner, logFiles,     powerAction};
+    ResultAction resultAction{intCheck, services, scanChecksum, dataFile, scanner, logFiles};
+    FolderScanPage folderScanPage{mForm1, mForm1.Image5, services, checksum, dataFile, baseline};
+    OwnShortcuts ownShortcuts{services};
+    SettingsPages settingsPages{mForm1, mForm1, s_avir, services, ownShortcuts};
+    AdvancedPage advancedPage{mForm1, services, checksum};
+    SpeedComparison speedComparison{mForm1, services, checksum};
     MForm1 mainForm{mForm1, globals.app, platform};
-    ICust customFolders{iCust, {globals, platform, settingsFile, checksum, utilities}};
-    StartUp startUp{globals, platform, settingsFile, utilities};
+    ICust customFolders{iCust, services, checksum};
+    StartUp startUp{*this};
 
 private:
     void bindHooks();
-    void bindStartUp();
     void bindScan();
     void bindPages();
     void bindScanners();

@@ -3,7 +3,7 @@
 #include "avshell/avirhelp_screen.h"
 #include "avshell/s_avir_screen.h"
 #include "avshell/scanner.h"
-#include "core/text.h"
+#include "core/globals.h"
 #include "core/utilities.h"
 #include "platform/dialogs.h"
 #include "platform/platform.h"
@@ -25,13 +25,11 @@ std::string fileOf(const std::string& product) {
 
 } // namespace
 
-AVirHelp::AVirHelp(AVirHelpScreen& screen, SAvirScreen& scanners, const CaseRules& cases, Platform& platform,
-                   const Utilities& utilities, const Scanner& scanner)
-    : screen_(screen)
+AVirHelp::AVirHelp(AVirHelpScreen& screen, SAvirScreen& scanners, const Services& services,
+                   const Scanner& scanner)
+    : Services(services)
+    , screen_(screen)
     , scanners_(scanners)
-    , cases_(cases)
-    , platform_(platform)
-    , utilities_(utilities)
     , scanner_(scanner) {
     bind();
 }
@@ -65,24 +63,24 @@ void AVirHelp::Command4_Click() {
         return;
     }
     screen_.Text2.Enabled = false;
-    platform_.dialogs.message(
+    platform.dialogs.message(
         {.text = "Tarvelon may become unresponsive during the file search. This is normal.\r\r"
                  "Click OK to continue."});
     const std::string file = fileOf(screen_.List1.text());
     screen_.Text2.Caption = "Searching...";
-    std::string path = trim(utilities_.findInTree(utilities_.getSpecialFolder(), file));
+    std::string path = trim(utilities.findInTree(utilities.getSpecialFolder(), file));
     if (path.empty()) {
-        path = trim(utilities_.findInTree("C:\\", file));
+        path = trim(utilities.findInTree("C:\\", file));
     }
     if (path.empty()) {
-        platform_.dialogs.message(
+        platform.dialogs.message(
             {.text =
                  "The default executable for this program was not found! Make sure you selected the correct "
                  "anti-virus program, and the correct operating system."});
         screen_.Command2.Enabled = false;
         screen_.Command3.Enabled = false;
     } else {
-        platform_.dialogs.message({.text = "Success!"});
+        platform.dialogs.message({.text = "Success!"});
         screen_.Command2.Enabled = true;
     }
     screen_.Text2.Caption = path;
@@ -109,11 +107,11 @@ void AVirHelp::useForSecond(const std::string& path) {
     forSecond_ = false;
     scanners_.Text1.Caption = path;
     // The path again where arguments belong: it then stands twice on that scanner's command line.
-    scanners_.Text2.Caption = scannerFamily(cases_, path) == ScannerFamily::Navw ? path : " ";
+    scanners_.Text2.Caption = scannerFamily(globals.cases, path) == ScannerFamily::Navw ? path : " ";
 }
 
 void AVirHelp::useForFirst(const std::string& path) {
-    const std::string arguments = defaultArguments(scannerFamily(cases_, path));
+    const std::string arguments = defaultArguments(scannerFamily(globals.cases, path));
     hooks.setWizardPath(path);
     hooks.setWizardArgs(arguments);
     scanners_.Text5.Caption = path;
@@ -121,15 +119,15 @@ void AVirHelp::useForFirst(const std::string& path) {
 }
 
 void AVirHelp::Command1_Click() {
-    platform_.dialogs.message(
+    platform.dialogs.message(
         {.text =
              std::string(
                  "There is a very good chance that your anti-virus software is compatible.  As long as it "
                  "supports command line arguments, then it will work.\r"
                  "Tarvelon will now send you to the web site of ") +
              maker::name + ".\r\rSimply click on Tarvelon, and click on Anti-Virus support."});
-    if (platform_.shell.open(maker::webPage, "") == Shell::noProgram) {
-        platform_.dialogs.message(
+    if (platform.shell.open(maker::webPage, "") == Shell::noProgram) {
+        platform.dialogs.message(
             {.text = std::string("Could not open the default web browser. The page is ") + maker::webPage});
     }
 }

@@ -1,16 +1,15 @@
 #pragma once
 
+#include "core/services.h"
+
 #include <functional>
 #include <string>
 
 namespace tarvelon {
 
 struct AVirHelpScreen;
-struct Platform;
 struct SAvirScreen;
-class CaseRules;
 class Scanner;
-class Utilities;
 
 /// What the catalogue calls beside itself.
 struct AVirHelpHooks {
@@ -19,10 +18,9 @@ struct AVirHelpHooks {
 };
 
 /// Finds the right file of a known product on the disk, tests it, and hands it to the choice of scanners.
-class AVirHelp {
+class AVirHelp : Services {
 public:
-    AVirHelp(AVirHelpScreen& screen, SAvirScreen& scanners, const CaseRules& cases, Platform& platform,
-             const Utilities& utilities, const Scanner& scanner);
+    AVirHelp(AVirHelpScreen& screen, SAvirScreen& scanners, const Services& services, const Scanner& scanner);
 
     AVirHelpHooks hooks;
 
@@ -42,9 +40,6 @@ private:
 
     AVirHelpScreen& screen_;
     SAvirScreen& scanners_;
-    const CaseRules& cases_;
-    Platform& platform_;
-    const Utilities& utilities_;
     const Scanner& scanner_;
     bool forSecond_ = false; ///< The window's tag.
 };

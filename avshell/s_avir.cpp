@@ -12,21 +12,17 @@
 
 namespace tarvelon {
 
-SAvir::SAvir(SAvirScreen& screen, Globals& globals, Platform& platform, SettingsFile& settings,
-             const Utilities& utilities)
-    : screen_(screen)
-    , globals_(globals)
-    , platform_(platform)
-    , settings_(settings)
-    , utilities_(utilities) {
+SAvir::SAvir(SAvirScreen& screen, const Services& services)
+    : Services(services)
+    , screen_(screen) {
     bind();
 }
 
 void SAvir::bind() {
     screen_.onLoad = [this] {
         passOver(
-            [this] { fillScannerFields(settings_.getSetting("ANTIVIRUS"), screen_.Text5, screen_.Text6); });
-        passOver([this] { fillScannerFields(settings_.getSetting("AV2"), screen_.Text1, screen_.Text2); });
+            [this] { fillScannerFields(settings.getSetting("ANTIVIRUS"), screen_.Text5, screen_.Text6); });
+        passOver([this] { fillScannerFields(settings.getSetting("AV2"), screen_.Text1, screen_.Text2); });
     };
     screen_.onMouseMove = [this] { norms(); };
     screen_.cChoose.onClick = [this] { cChoose_Click(); };
@@ -46,7 +42,7 @@ void SAvir::norms() {
 
 /// The file that the user picks, or empty.
 std::string SAvir::choose() const {
-    const std::string file = utilities_.openFileBox(scannerBoxTitle, scannerBoxFilter());
+    const std::string file = utilities.openFileBox(scannerBoxTitle, scannerBoxFilter());
     return file.substr(0, file.find('\0'));
 }
 
@@ -57,7 +53,7 @@ void SAvir::cChoose_Click() {
     }
     screen_.Text5.Caption = file;
     screen_.Text6.Caption = argumentsForFirst();
-    platform_.dialogs.message({.text = "Don't forget to Save!"});
+    platform.dialogs.message({.text = "Don't forget to Save!"});
 }
 
 void SAvir::cButton10_Click() {
@@ -68,11 +64,11 @@ void SAvir::cButton10_Click() {
     screen_.Text1.Caption = file;
     // The second scanner gets what the first one's name calls for.
     screen_.Text2.Caption = argumentsForFirst();
-    platform_.dialogs.message({.text = "Don't forget to Save!"});
+    platform.dialogs.message({.text = "Don't forget to Save!"});
 }
 
 const char* SAvir::argumentsForFirst() {
-    const ScannerFamily family = scannerFamily(globals_.cases, screen_.Text5.Caption());
+    const ScannerFamily family = scannerFamily(globals.cases, screen_.Text5.Caption());
     const char* arguments = defaultArguments(family);
     if (family != ScannerFamily::Pavcl) {
         hooks.setWizardArgs(arguments);
@@ -81,22 +77,22 @@ const char* SAvir::argumentsForFirst() {
 }
 
 void SAvir::cButton3_Click() {
-    if (!utilities_.fileThere(screen_.Text5.Caption())) {
-        platform_.dialogs.message(
+    if (!utilities.fileThere(screen_.Text5.Caption())) {
+        platform.dialogs.message(
             {.text = "You didn't choose an anti-virus software exe.  We recommend that you get "
                      "one to take full advantage of Tarvelon"});
         screen_.Text5.Caption = SAvirScreen::noScanner;
         screen_.Text6.Caption = " ";
     }
-    if (!utilities_.fileThere(screen_.Text1.Caption())) {
+    if (!utilities.fileThere(screen_.Text1.Caption())) {
         screen_.Text1.Caption = "";
         screen_.Text2.Caption = "";
     }
-    const std::string& file = globals_.app.settFile;
-    settings_.writeEntry(file, "antivirus", screen_.Text5.Caption() + "|" + screen_.Text6.Caption(),
-                         "Tarvelon");
-    settings_.writeEntry(file, "av2", screen_.Text1.Caption() + "|" + screen_.Text2.Caption(), "Tarvelon");
-    platform_.dialogs.message({.text = "Save Success!"});
+    const std::string& file = globals.app.settFile;
+    settings.writeEntry(file, "antivirus", screen_.Text5.Caption() + "|" + screen_.Text6.Caption(),
+                        "Tarvelon");
+    settings.writeEntry(file, "av2", screen_.Text1.Caption() + "|" + screen_.Text2.Caption(), "Tarvelon");
+    platform.dialogs.message({.text = "Save Success!"});
     screen_.hide();
 }
 

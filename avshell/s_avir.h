@@ -1,15 +1,13 @@
 #pragma once
 
+#include "core/services.h"
+
 #include <functional>
 #include <string>
 
 namespace tarvelon {
 
-struct Globals;
-struct Platform;
 struct SAvirScreen;
-class SettingsFile;
-class Utilities;
 
 /// What the choice of scanners calls beside itself.
 struct SAvirHooks {
@@ -18,10 +16,9 @@ struct SAvirHooks {
 };
 
 /// The window where the user names the one or two scanners.
-class SAvir {
+class SAvir : Services {
 public:
-    SAvir(SAvirScreen& screen, Globals& globals, Platform& platform, SettingsFile& settings,
-          const Utilities& utilities);
+    SAvir(SAvirScreen& screen, const Services& services);
 
     SAvirHooks hooks;
 
@@ -36,10 +33,6 @@ private:
     const char* argumentsForFirst();
 
     SAvirScreen& screen_;
-    Globals& globals_;
-    Platform& platform_;
-    SettingsFile& settings_;
-    const Utilities& utilities_;
 };
 
 } // namespace tarvelon

@@ -50,7 +50,7 @@ std::string Scanner::toShortPath(const std::string& path) const {
     // The short name comes with a zero behind it into a buffer of blanks, so the first blank tells its
     // length. A name that holds a blank itself is cut there.
     std::string buffer(1024, ' ');
-    platform_.files.getShortPathName(path, buffer.data(), static_cast<std::uint32_t>(buffer.size()));
+    platform.files.getShortPathName(path, buffer.data(), static_cast<std::uint32_t>(buffer.size()));
     const std::size_t blank = buffer.find(' ');
     if (blank == std::string::npos || blank == 0) {
         return {};
@@ -62,17 +62,17 @@ void Scanner::runScanner(const std::string& exe, const std::string& arguments) c
     const WindowStyle style = avfocus_.value() == 1 ? WindowStyle::NormalFocus : WindowStyle::MinimizedFocus;
     // Without a scanner's name the first file would stand in its place, and the suspect itself be started.
     const bool namesNoScanner = exe.empty() || exe.starts_with(' ');
-    if (namesNoScanner || !platform_.processes.start(exe, arguments, style)) {
+    if (namesNoScanner || !platform.processes.start(exe, arguments, style)) {
         throw Failure("The scanner cannot be started:\r\n" + exe);
     }
 }
 
 std::string Scanner::quoted(const std::string& name) const {
-    return globals_.settings.quoteChar + name + globals_.settings.quoteChar;
+    return globals.settings.quoteChar + name + globals.settings.quoteChar;
 }
 
 std::string Scanner::shortened(const std::string& name) const {
-    return globals_.settings.shortPaths ? toShortPath(name) : name;
+    return globals.settings.shortPaths ? toShortPath(name) : name;
 }
 
 /// One name as it stands in a list.
@@ -90,7 +90,7 @@ bool Scanner::batch(int first, int last, const std::function<std::string(int)>& 
         if (!trim(name).empty()) {
             items.push_back(item(name));
         }
-        if (index >= last || rows >= globals_.settings.passCount) {
+        if (index >= last || rows >= globals.settings.passCount) {
             if (!flush(items)) {
                 return false;
             }
@@ -114,17 +114,17 @@ void Scanner::startBoth(const ScannerPair& scanners, const std::vector<std::stri
 }
 
 bool Scanner::test(const std::string& exe) const {
-    if (!platform_.files.open(exe, OpenMode::Read)) {
-        platform_.dialogs.message({.text = "You must choose a virus scanner before you proceed!"});
+    if (!platform.files.open(exe, OpenMode::Read)) {
+        platform.dialogs.message({.text = "You must choose a virus scanner before you proceed!"});
         return false;
     }
-    platform_.dialogs.message(
+    platform.dialogs.message(
         {.text =
              "Tarvelon will now attempt to scan two files. If the Virus-Scanner you selected scans both "
              "files, then "
              "it is fully compatible with Tarvelon! If not, make sure you chose the correct EXE file in your "
              "anti-virus folder."});
-    runScanner(exe, quoted(shortened(globals_.app.settFile)) + " " + quoted(shortened(globals_.app.intFile)));
+    runScanner(exe, quoted(shortened(globals.app.settFile)) + " " + quoted(shortened(globals.app.intFile)));
     return true;
 }
 

@@ -1,13 +1,13 @@
 #pragma once
 
+#include "core/services.h"
+
 #include <functional>
 #include <string>
 #include <vector>
 
 namespace tarvelon {
 
-struct Globals;
-struct Platform;
 class CheckBox;
 
 /// One of the user's two scanners. An empty program (blanks aside) stands for none.
@@ -38,12 +38,11 @@ std::string joined(const std::vector<std::string>& items);
 std::string couldNotBeExecuted(const std::string& exe);
 
 /// Starts the user's scanners and shapes what stands on their command lines.
-class Scanner {
+class Scanner : Services {
 public:
-    Scanner(const CheckBox& avfocus, const Globals& globals, Platform& platform)
-        : avfocus_(avfocus)
-        , globals_(globals)
-        , platform_(platform) {}
+    Scanner(const CheckBox& avfocus, const Services& services)
+        : Services(services)
+        , avfocus_(avfocus) {}
 
     /// The 8.3 form of a path. Empty for a file that is not there.
     std::string toShortPath(const std::string& path) const;
@@ -77,8 +76,6 @@ private:
     std::string item(const std::string& name) const;
 
     const CheckBox& avfocus_;
-    const Globals& globals_;
-    Platform& platform_;
 };
 
 } // namespace tarvelon

@@ -44,10 +44,10 @@ const char* word(bool ticked) {
 
 } // namespace
 
-ICust::ICust(ICustScreen& screen, const ICustParts& parts)
-    : screen_(screen)
-    , parts_(parts)
-    , globals_(parts.globals) {
+ICust::ICust(ICustScreen& screen, const Services& services, const Checksum& checksum)
+    : Services(services)
+    , screen_(screen)
+    , checksum_(checksum) {
     bind();
 }
 
@@ -105,8 +105,7 @@ void ICust::startup() {
     screen_.List1.clear();
     screen_.List3.clear();
     screen_.List5.clear();
-    SettingsFile& settings = parts_.settings;
-    const std::string& file = globals_.app.settFile;
+    const std::string& file = globals.app.settFile;
     for (int slot = 1; slot <= folderSlots; ++slot) {
         const std::string path = trim(settings.readIni(file, "path", slot));
         const std::string args = settings.readIni(file, "args", slot);
@@ -173,7 +172,7 @@ void ICust::types_Click(const Use& use) {
     custDirty = 1;
     const int row = screen_.List1.listIndex();
     if (row < 0) {
-        parts_.platform.dialogs.message({.text = "Please select a folder to edit its properties!"});
+        platform.dialogs.message({.text = "Please select a folder to edit its properties!"});
         return;
     }
     std::string words;
@@ -181,27 +180,26 @@ void ICust::types_Click(const Use& use) {
         words.append(word(use.types.ticked(i))).append(",");
     }
     words += word(use.box.value() != 0);
-    use.rows.replace(row, digits(globals_.cases, words));
+    use.rows.replace(row, digits(globals.cases, words));
 }
 
 void ICust::cButton2_Click() {
     custDirty = 1;
-    std::string folder = parts_.utilities.browseFolder("Please Choose a Folder to Add");
+    std::string folder = utilities.browseFolder("Please Choose a Folder to Add");
     if (folder.empty()) {
         return;
     }
     folder = withBackslash(std::move(folder));
-    const CaseRules& cases = globals_.cases;
-    if (cases.equal(folder, parts_.utilities.getSysDir())) {
-        parts_.platform.dialogs.message({.text =
-                                             "This is the default folder that Tarvelon scans. It cannot be "
-                                             "added to the Custom Integrity Checker"});
+    const CaseRules& cases = globals.cases;
+    if (cases.equal(folder, utilities.getSysDir())) {
+        platform.dialogs.message({.text = "This is the default folder that Tarvelon scans. It cannot be "
+                                          "added to the Custom Integrity Checker"});
         return;
     }
     int free = -1;
     for (int row = 0; row < screen_.List1.count(); ++row) {
         if (cases.equal(folder, folderOf(row))) {
-            parts_.platform.dialogs.message({.text = "This folder is already being scanned."});
+            platform.dialogs.message({.text = "This folder is already being scanned."});
             return;
         }
         if (free < 0 && isEmptyRow(row)) {
@@ -212,7 +210,7 @@ void ICust::cButton2_Click() {
         return; // Twenty folders are the limit, and nothing is said of it.
     }
     screen_.List1.replace(free, rowText(free + 1, folder));
-    parts_.platform.dialogs.message({.text = "Folder Added."});
+    platform.dialogs.message({.text = "Folder Added."});
 }
 
 /// Takes effect at once, and is not stopped by a settings file that cannot be written.
@@ -222,7 +220,7 @@ void ICust::Command2_Click() {
     if (row < 0 || isEmptyRow(row)) {
         return;
     }
-    const Answer answer = parts_.platform.dialogs.message(
+    const Answer answer = platform.dialogs.message(
         {.text =
              "Are you sure you want to remove this folder? Doing so will lose all Integrity Checker data for "
              "this folder!",
@@ -231,8 +229,7 @@ void ICust::Command2_Click() {
     if (answer != Answer::Ok) {
         return;
     }
-    SettingsFile& settings = parts_.settings;
-    const std::string& file = globals_.app.settFile;
+    const std::string& file = globals.app.settFile;
     const std::string slot = std::to_string(row + 1);
     passOver([&] { settings.checkSettFile(); });
     settings.writeEntry(file, "path", "NULL", slot);
@@ -242,15 +239,14 @@ void ICust::Command2_Click() {
     screen_.List3.replace(row, noTypes);
     screen_.List5.replace(row, noTypes);
     for (const char* ending : slotFiles) {
-        parts_.platform.files.remove(globals_.app.appPath + "Data\\" + slot + ending);
+        platform.files.remove(globals.app.appPath + "Data\\" + slot + ending);
     }
 }
 
 /// Tells of success whatever became of the settings file.
 void ICust::Command3_Click() {
     custDirty = 0;
-    SettingsFile& settings = parts_.settings;
-    const std::string& file = globals_.app.settFile;
+    const std::string& file = globals.app.settFile;
     passOver([&] { settings.checkSettFile(); });
     for (int row = 0; row < folderSlots; ++row) {
         const std::string slot = std::to_string(row + 1);
@@ -263,19 +259,18 @@ void ICust::Command3_Click() {
         settings.writeEntry(file, "args2", screen_.List5.item(row), slot);
     }
     for (int slot = 1; slot <= folderSlots; ++slot) {
-        if (!scanRuns() && !isEmptyRow(slot - 1) &&
-            !parts_.utilities.fileThere(parts_.checksum.getCustomDat(slot))) {
-            globals_.scan.customIndex = static_cast<std::int16_t>(slot);
+        if (!scanRuns() && !isEmptyRow(slot - 1) && !utilities.fileThere(checksum_.getCustomDat(slot))) {
+            globals.scan.customIndex = static_cast<std::int16_t>(slot);
         }
     }
-    parts_.platform.dialogs.message({.text = "Save Successful!"});
+    platform.dialogs.message({.text = "Save Successful!"});
     passOver(loadf);
     screen_.hide();
 }
 
 bool ICust::queryClose() {
     if (custDirty == 1) {
-        const Answer answer = parts_.platform.dialogs.message(
+        const Answer answer = platform.dialogs.message(
             {.text = "Do you wish to Save your changes?", .buttons = Buttons::YesNo});
         if (answer == Answer::Yes) {
             Command3_Click();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/services.h"
+
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -9,26 +11,13 @@ namespace tarvelon {
 class CheckBox;
 class CheckListBox;
 class ListBox;
-struct Globals;
 struct ICustScreen;
-struct Platform;
 class Checksum;
-class SettingsFile;
-class Utilities;
-
-/// What the manager works with.
-struct ICustParts {
-    Globals& globals;
-    Platform& platform;
-    SettingsFile& settings;
-    const Checksum& checksum;
-    const Utilities& utilities;
-};
 
 /// Adds, removes and configures the custom folders. All but a removal waits for "Save and Exit".
-class ICust {
+class ICust : Services {
 public:
-    ICust(ICustScreen& screen, const ICustParts& parts);
+    ICust(ICustScreen& screen, const Services& services, const Checksum& checksum);
 
     /// Fills the main window's list of folders anew.
     std::function<void()> loadf;
@@ -70,8 +59,7 @@ private:
     std::string folderOf(int row) const;
 
     ICustScreen& screen_;
-    ICustParts parts_;
-    Globals& globals_;
+    const Checksum& checksum_;
 
     std::int16_t custDirty = 0; ///< Something was changed since the window was opened.
     bool custLoading = false;   ///< The lists are being filled; their clicks count for nothing.

@@ -82,23 +82,20 @@ void writeBlank(Files& files, const std::string& path, const SectionLists& lists
 
 } // namespace
 
-Baseline::Baseline(Globals& globals, Platform& platform, DataFile& dataFile, const Utilities& utilities,
-                   Screen& mainWindow, const ComboBox& folders)
-    : globals_(globals)
-    , platform_(platform)
+Baseline::Baseline(const Services& services, DataFile& dataFile, Screen& mainWindow, const ComboBox& folders)
+    : Services(services)
     , dataFile_(dataFile)
-    , utilities_(utilities)
     , mainWindow_(mainWindow)
     , folders_(folders) {}
 
 void Baseline::checkIntFile() {
-    if (!platform_.files.open(globals_.app.intFile, OpenMode::Read)) {
-        const std::string backup = backupOf(globals_.app.intFile);
-        if (utilities_.fileThere(backup)) {
+    if (!platform.files.open(globals.app.intFile, OpenMode::Read)) {
+        const std::string backup = backupOf(globals.app.intFile);
+        if (utilities.fileThere(backup)) {
             restoreOrRestart(backup);
             return;
         }
-        const Answer answer = platform_.dialogs.message(
+        const Answer answer = platform.dialogs.message(
             {.text =
                  "This is your first time using Tarvelon.  Tarvelon is required to do a system file "
                  "Integrity scan before proceeding.\r\n"
@@ -108,7 +105,7 @@ void Baseline::checkIntFile() {
                  "Perform scan now?",
              .buttons = Buttons::YesNo});
         if (answer != Answer::Yes) {
-            platform_.dialogs.message(
+            platform.dialogs.message(
                 {.text = "You have chosen not to do a full scan at this time.  You need to run the full scan "
                          "before using the Integrity Checker."});
             return;
@@ -119,60 +116,60 @@ void Baseline::checkIntFile() {
 }
 
 void Baseline::restoreOrRestart(const std::string& backup) {
-    const Answer answer = platform_.dialogs.message(
+    const Answer answer = platform.dialogs.message(
         {.text = "Your Integrity.dat file cannot be found! But the backup file was located!\r\n"
                  "Would you like to restore the backup?",
          .title = "Missing Integrity.dat file",
          .buttons = Buttons::YesNo});
     if (answer == Answer::Yes) {
-        if (!copyWholeFile(platform_.files, backup, globals_.app.intFile)) {
-            throw Failure("The backup cannot be restored to:\r\n" + globals_.app.intFile);
+        if (!copyWholeFile(platform.files, backup, globals.app.intFile)) {
+            throw Failure("The backup cannot be restored to:\r\n" + globals.app.intFile);
         }
         return;
     }
-    restartWithoutBackup(globals_, platform_, backup);
+    restartWithoutBackup(globals, platform, backup);
 }
 
 void Baseline::buildPrimary() {
-    globals_.baselines.primaryBuild = true;
-    const std::string& path = globals_.app.intFile;
-    makeEmpty(platform_.files, path);
+    globals.baselines.primaryBuild = true;
+    const std::string& path = globals.app.intFile;
+    makeEmpty(platform.files, path);
     mainWindow_.Caption = "Building Integrity File...";
-    platform_.messages.pump();
-    const SectionLists lists = walk(globals_, platform_, trim(utilities_.getSysDir()));
+    platform.messages.pump();
+    const SectionLists lists = walk(globals, platform, trim(utilities.getSysDir()));
     mainWindow_.Caption = "Saving...";
-    platform_.messages.pump();
-    writeBlank(platform_.files, path, lists);
+    platform.messages.pump();
+    writeBlank(platform.files, path, lists);
     mainWindow_.hide();
-    globals_.baselines.primaryScan = true;
+    globals.baselines.primaryScan = true;
     hooks.showScan();
     hooks.loadUp();
 }
 
 bool Baseline::buildCustomDat(std::string folder, const std::string& datFile, const std::string&) {
     // While findings are accepted no scan starts either; they go into the blank file.
-    const bool blankOnly = globals_.app.autoLoadRun || globals_.scan.accepting;
+    const bool blankOnly = globals.app.autoLoadRun || globals.scan.accepting;
     if (!blankOnly) {
-        const Answer answer = platform_.dialogs.message(
+        const Answer answer = platform.dialogs.message(
             {.text = "This Custom Folder " + folder +
                      " has not been fully scanned yet. The scan is required by the Integrity Checker.\r\n\r\n"
                      "Perform scan now?",
              .buttons = Buttons::YesNo});
         if (answer != Answer::Yes) {
-            platform_.dialogs.message(
+            platform.dialogs.message(
                 {.text = "You have chosen not to scan this Custom Folder.  You need to run the scan before "
                          "using this Custom Folder Integrity Checker."});
             return false;
         }
     }
-    makeEmpty(platform_.files, datFile);
+    makeEmpty(platform.files, datFile);
     folder = withBackslash(std::move(folder));
-    writeBlank(platform_.files, datFile, walk(globals_, platform_, folder));
+    writeBlank(platform.files, datFile, walk(globals, platform, folder));
     if (blankOnly) {
         return true;
     }
 
-    ScanRun& scan = globals_.scan;
+    ScanRun& scan = globals.scan;
     scan.pageScan = true;
     scan.noAutoAction = true;
     hooks.leaveScan();

@@ -1,16 +1,15 @@
 #pragma once
 
+#include "core/services.h"
+
 #include <functional>
 #include <string>
 
 namespace tarvelon {
 
-struct Globals;
-struct Platform;
 class ComboBox;
 class DataFile;
 class Screen;
-class Utilities;
 
 /// How the baseline build reaches the scan window, which stands above it.
 struct BaselineHooks {
@@ -21,10 +20,9 @@ struct BaselineHooks {
 
 /// Makes sure that baselines exist: lists a folder into a data file without checksums, and starts the scan
 /// that fills them in.
-class Baseline {
+class Baseline : Services {
 public:
-    Baseline(Globals& globals, Platform& platform, DataFile& dataFile, const Utilities& utilities,
-             Screen& mainWindow, const ComboBox& folders);
+    Baseline(const Services& services, DataFile& dataFile, Screen& mainWindow, const ComboBox& folders);
 
     BaselineHooks hooks;
 
@@ -41,10 +39,7 @@ private:
     void restoreOrRestart(const std::string& backup);
     void buildPrimary();
 
-    Globals& globals_;
-    Platform& platform_;
     DataFile& dataFile_;
-    const Utilities& utilities_;
     Screen& mainWindow_;
     const ComboBox& folders_; ///< What the user picks a folder from.
 };

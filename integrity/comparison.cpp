@@ -11,7 +11,6 @@
 #include "platform/files.h"
 #include "platform/messages.h"
 #include "platform/platform.h"
-#include "shutdown/sprog_screen.h"
 
 #include <cmath>
 #include <cstdint>
@@ -45,22 +44,18 @@ struct Comparison::Pass {
     clsDoEvents pump;
 };
 
-Comparison::Comparison(IntCheckScreen& screen, SProgScreen& sProg, Globals& globals, Platform& platform,
-                       SettingsFile& settings, Checksum& checksum, DataFile& dataFile,
-                       const Utilities& utilities)
-    : screen_(screen)
-    , sProg_(sProg)
-    , globals_(globals)
-    , platform_(platform)
-    , settings_(settings)
+Comparison::Comparison(IntCheckScreen& screen, ProgressBar& shutDownProgress, const Services& services,
+                       Checksum& checksum, DataFile& dataFile)
+    : Services(services)
+    , screen_(screen)
     , checksum_(checksum)
     , dataFile_(dataFile)
-    , utilities_(utilities) {}
+    , shutDownProgress_(shutDownProgress) {}
 
 void Comparison::comparePass(const PassArguments& arguments) {
-    ScanRun& scan = globals_.scan;
+    ScanRun& scan = globals.scan;
     scan.passDone = 0;
-    Pass pass{.arguments = arguments, .pump = clsDoEvents(platform_.messages)};
+    Pass pass{.arguments = arguments, .pump = clsDoEvents(platform.messages)};
     pass.pump.QueueUsed(userInput);
     if (scan.passType >= 1 && scan.passType <= 6) {
         pass.labels = &screen_.passes[static_cast<std::size_t>(scan.passType - 1)];
@@ -69,21 +64,21 @@ void Comparison::comparePass(const PassArguments& arguments) {
     pass.done = toNumber(screen_.pbm.Caption()).value_or(0);
     pass.grand = toNumber(screen_.pb2max.Caption()).value_or(0);
     if (scan.customFolder.empty()) {
-        pass.folder = trim(utilities_.getSysDir());
+        pass.folder = trim(utilities.getSysDir());
     } else {
         pass.folder = withBackslash(scan.customFolder);
         pass.arguments.dataFile = checksum_.getCustomDat(scan.customIndex);
     }
 
-    for (std::string name = platform_.files.firstName(pass.folder); !name.empty();) {
+    for (std::string name = platform.files.firstName(pass.folder); !name.empty();) {
         pass.pump.GetInputState();
         if (name != "." && name != ".." && compareFile(pass, name) == Outcome::Cancelled) {
             return;
         }
-        name = platform_.files.nextName();
+        name = platform.files.nextName();
         while (scan.scanPaused) {
-            platform_.messages.wait();
-            platform_.messages.pump();
+            platform.messages.wait();
+            platform.messages.pump();
         }
     }
     if (!inShutDown()) {
@@ -95,8 +90,8 @@ void Comparison::comparePass(const PassArguments& arguments) {
 }
 
 Comparison::Outcome Comparison::compareFile(Pass& pass, const std::string& name) {
-    ScanRun& scan = globals_.scan;
-    const std::string tail = globals_.cases.upper(lastCharacters(name, 4));
+    ScanRun& scan = globals.scan;
+    const std::string tail = globals.cases.upper(lastCharacters(name, 4));
     if (tail != pass.arguments.ext1 && tail != pass.arguments.ext2) {
         return Outcome::Done;
     }
@@ -109,7 +104,7 @@ Comparison::Outcome Comparison::compareFile(Pass& pass, const std::string& name)
         return Outcome::Cancelled;
     }
 
-    const std::string section = globals_.cases.upper(lastCharacters(name, 3));
+    const std::string section = globals.cases.upper(lastCharacters(name, 3));
     const std::string stored = pass.arguments.dataFile.empty() ? dataFile_.getEntry(name, section)
                                                                : dataFile_.getCustomEntry(name, section);
     if (stored.empty() || stored == "NULL") {
@@ -131,21 +126,21 @@ Comparison::Outcome Comparison::compareFile(Pass& pass, const std::string& name)
 
 void Comparison::noteNew(Pass& pass, const std::string& name, const std::string& section,
                          const std::string& checksum) {
-    ++globals_.scan.newCount;
-    if (!globals_.baselines.primaryScan) {
+    ++globals.scan.newCount;
+    if (!globals.baselines.primaryScan) {
         list(pass, name, " *NEW*", shiftText("ABC", checksum));
         return;
     }
     const std::string& dataFile = pass.arguments.dataFile;
     passOver([&] {
-        settings_.writeEntry(dataFile.empty() ? checksum_.getIntFile() : dataFile, name, checksum + "*E",
-                             section);
+        settings.writeEntry(dataFile.empty() ? checksum_.getIntFile() : dataFile, name, checksum + "*E",
+                            section);
     });
 }
 
 void Comparison::noteFailed(Pass& pass, const std::string& name, const std::string& checksum) {
-    ++globals_.scan.failCount;
-    if (!globals_.baselines.primaryScan) {
+    ++globals.scan.failCount;
+    if (!globals.baselines.primaryScan) {
         list(pass, name, "", shiftText("ABC", checksum));
     }
 }
@@ -153,7 +148,7 @@ void Comparison::noteFailed(Pass& pass, const std::string& name, const std::stri
 /// Puts a finding on the screen and among those to be accepted later.
 void Comparison::list(const Pass& pass, const std::string& name, const std::string& mark,
                       const std::string& value) {
-    ScanRun& scan = globals_.scan;
+    ScanRun& scan = globals.scan;
     const std::string path = pass.folder + name;
     screen_.List1.add(path + mark);
     if (scan.customFolder.empty()) {
@@ -165,7 +160,7 @@ void Comparison::list(const Pass& pass, const std::string& name, const std::stri
 }
 
 void Comparison::showProgress(Pass& pass) {
-    const ScanRun& scan = globals_.scan;
+    const ScanRun& scan = globals.scan;
     if (const auto percent = toInt16(pass.done / pass.grand * 100)) {
         pass.scanPercent = *percent;
     }
@@ -176,7 +171,7 @@ void Comparison::showProgress(Pass& pass) {
         }
     }
     if (inShutDown()) {
-        sProg_.ProgressBar1.setValue(pass.passPercent);
+        shutDownProgress_.setValue(pass.passPercent);
         return;
     }
     screen_.Caption = std::to_string(pass.scanPercent) + "% AutoCheck";
@@ -190,7 +185,7 @@ void Comparison::showProgress(Pass& pass) {
 }
 
 bool Comparison::inShutDown() const {
-    return globals_.app.shutAction != -1;
+    return globals.app.shutAction != -1;
 }
 
 } // namespace tarvelon

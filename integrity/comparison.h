@@ -1,17 +1,15 @@
 #pragma once
 
+#include "core/services.h"
+
 #include <string>
 
 namespace tarvelon {
 
-struct Globals;
 struct IntCheckScreen;
-struct Platform;
-struct SProgScreen;
 class Checksum;
 class DataFile;
-class SettingsFile;
-class Utilities;
+class ProgressBar;
 
 /// What one pass looks for.
 struct PassArguments {
@@ -22,10 +20,10 @@ struct PassArguments {
 
 /// The inner loop of a scan: sorts the files of one folder with the pass's extensions into passing, new and
 /// failed. It walks the disk, not the baseline, so a file that has gone is never reported.
-class Comparison {
+class Comparison : Services {
 public:
-    Comparison(IntCheckScreen& screen, SProgScreen& sProg, Globals& globals, Platform& platform,
-               SettingsFile& settings, Checksum& checksum, DataFile& dataFile, const Utilities& utilities);
+    Comparison(IntCheckScreen& screen, ProgressBar& shutDownProgress, const Services& services,
+               Checksum& checksum, DataFile& dataFile);
 
     /// Runs one pass. Window messages run inside; cancelled, it returns between two files.
     void comparePass(const PassArguments& arguments);
@@ -43,13 +41,9 @@ private:
     bool inShutDown() const;
 
     IntCheckScreen& screen_;
-    SProgScreen& sProg_;
-    Globals& globals_;
-    Platform& platform_;
-    SettingsFile& settings_;
     Checksum& checksum_;
     DataFile& dataFile_;
-    const Utilities& utilities_;
+    ProgressBar& shutDownProgress_;
 };
 
 } // namespace tarvelon

@@ -47,18 +47,15 @@ std::size_t cut(const std::string& text, std::array<EntryBlock, sectionCount>& b
 
 } // namespace
 
-DataFile::DataFile(Globals& globals, Platform& platform, SettingsFile& settings, const Utilities& utilities)
-    : globals_(globals)
-    , platform_(platform)
-    , settings_(settings)
-    , utilities_(utilities) {}
+DataFile::DataFile(const Services& services)
+    : Services(services) {}
 
 void DataFile::loadIntFile(const std::string& path) {
     intFile_ = path;
     intFileRead_ = false;
     const auto text = read(path);
     intFileRead_ = text.has_value();
-    fill(text.value_or(""), globals_.baselines.sectionText, globals_.baselines.sectionName);
+    fill(text.value_or(""), globals.baselines.sectionText, globals.baselines.sectionName);
 }
 
 void DataFile::needIntFile(const std::string& path) {
@@ -69,36 +66,34 @@ void DataFile::needIntFile(const std::string& path) {
 
 bool DataFile::loadCustomDat(const std::string& path) {
     const std::string backup = backupOf(path);
-    if (!utilities_.fileThere(path) && utilities_.fileThere(backup)) {
+    if (!utilities.fileThere(path) && utilities.fileThere(backup)) {
         const Answer answer =
-            platform_.dialogs.message({.text = "The data file is missing! Would you like to use the backup?",
-                                       .title = ".Dat file Missing!",
-                                       .buttons = Buttons::YesNo});
+            platform.dialogs.message({.text = "The data file is missing! Would you like to use the backup?",
+                                      .title = ".Dat file Missing!",
+                                      .buttons = Buttons::YesNo});
         if (answer == Answer::Yes) {
-            demand(copyWholeFile(platform_.files, backup, path), "The backup cannot be copied to:", path);
+            demand(copyWholeFile(platform.files, backup, path), "The backup cannot be copied to:", path);
         }
     }
     // A file that is there and cannot be opened at the moment is not missing, and no blank one takes its
     // place.
-    if (!utilities_.fileThere(path) && !platform_.files.length(path)) {
+    if (!utilities.fileThere(path) && !platform.files.length(path)) {
         // The number is all that stands between "Data\" and the first ".", so a name with an algorithm in it
         // ("7-md5") is no slot of the settings, and the folder comes out empty.
-        const std::string number = getBetween(globals_.cases, path, 1, "Data\\", ".");
-        const std::string folder = settings_.readIni(globals_.app.settFile, "path", number);
-        if (buildCustomDat) {
-            buildCustomDat(folder, path, number);
-        }
+        const std::string number = getBetween(globals.cases, path, 1, "Data\\", ".");
+        const std::string folder = settings.readIni(globals.app.settFile, "path", number);
+        buildCustomDat(folder, path, number);
     }
     const auto text = read(path);
-    fill(text.value_or(""), globals_.baselines.customText, globals_.baselines.customName);
+    fill(text.value_or(""), globals.baselines.customText, globals.baselines.customName);
     return text.has_value();
 }
 
 /// Empty when the file is not there. None is made in its place: it would pass for one of a folder that has
 /// been scanned.
 std::optional<std::string> DataFile::read(const std::string& path) const {
-    auto text = readWholeFile(platform_.files, path);
-    if (!text && platform_.files.length(path)) {
+    auto text = readWholeFile(platform.files, path);
+    if (!text && platform.files.length(path)) {
         throw Failure("The data file cannot be read:\r\n" + path);
     }
     return text;
@@ -109,16 +104,16 @@ void DataFile::fill(const std::string& text, Blocks& blocks, Names& names) const
     // Only behind the last block: a scan that runs in one of these pumps may load the file anew, and what it
     // loaded must not be mixed with the text read before.
     for (std::size_t n = 1; n < found; ++n) {
-        platform_.messages.pump();
+        platform.messages.pump();
     }
 }
 
 std::string DataFile::getEntry(const std::string& key, const std::string& section) const {
-    return entry(globals_.baselines.sectionText, settings_.findSection(section), key);
+    return entry(globals.baselines.sectionText, settings.findSection(section), key);
 }
 
 std::string DataFile::getCustomEntry(const std::string& key, const std::string& section) const {
-    return entry(globals_.baselines.customText, settings_.findCustomSection(section), key);
+    return entry(globals.baselines.customText, settings.findCustomSection(section), key);
 }
 
 std::string DataFile::entry(const Blocks& blocks, std::optional<std::size_t> number,
@@ -126,28 +121,28 @@ std::string DataFile::entry(const Blocks& blocks, std::optional<std::size_t> num
     if (!number) {
         return {};
     }
-    const std::string value = trim(blocks[*number - 1].find(globals_.cases, key));
-    platform_.messages.pump();
+    const std::string value = trim(blocks[*number - 1].find(globals.cases, key));
+    platform.messages.pump();
     return value;
 }
 
 void DataFile::saveIntFile() {
     // What could not be read is empty in memory, and must not take the place of the whole file.
     demand(intFileRead_, "The data file could not be read, and is left as it is:", intFile_);
-    save(intFile_, globals_.app.appPath + "Data\\integrity.bak", globals_.baselines.sectionText);
+    save(intFile_, globals.app.appPath + "Data\\integrity.bak", globals.baselines.sectionText);
 }
 
 void DataFile::saveCustomDat(const std::string& path) {
-    save(path, backupOf(path), globals_.baselines.customText);
+    save(path, backupOf(path), globals.baselines.customText);
 }
 
 void DataFile::save(const std::string& path, const std::string& backup, const Blocks& blocks) {
-    demand(copyWholeFile(platform_.files, path, backup), "The data file cannot be backed up:", path);
+    demand(copyWholeFile(platform.files, path, backup), "The data file cannot be backed up:", path);
     std::string text = dataFileHeader;
     for (const EntryBlock& block : blocks) {
         text += block.text();
     }
-    demand(writeWholeFile(platform_.files, path, text), "The data file cannot be replaced:", path);
+    demand(writeWholeFile(platform.files, path, text), "The data file cannot be replaced:", path);
 }
 
 } // namespace tarvelon

@@ -18,11 +18,14 @@
 
 namespace tarvelon {
 
-FolderScanPage::FolderScanPage(FolderScanControls& screen, NavButton& entry, const FolderScanParts& parts)
-    : screen_(screen)
+FolderScanPage::FolderScanPage(FolderScanControls& screen, NavButton& entry, const Services& services,
+                               Checksum& checksum, DataFile& dataFile, Baseline& baseline)
+    : Services(services)
+    , screen_(screen)
     , entry_(entry)
-    , parts_(parts)
-    , globals_(parts.globals) {
+    , checksum_(checksum)
+    , dataFile_(dataFile)
+    , baseline_(baseline) {
     bind();
 }
 
@@ -46,12 +49,11 @@ void FolderScanPage::tickAll(bool ticked) {
 }
 
 void FolderScanPage::loadf() {
-    SettingsFile& settings = parts_.settings;
     settings.checkSettFile();
     screen_.Combo1.clear();
-    screen_.Combo1.add(parts_.utilities.getSysDir());
+    screen_.Combo1.add(utilities.getSysDir());
     for (int slot = 1; slot <= folderSlots; ++slot) {
-        const std::string path = trim(settings.readIni(globals_.app.settFile, "path", slot));
+        const std::string path = trim(settings.readIni(globals.app.settFile, "path", slot));
         if (path != "NULL") {
             screen_.Combo1.add(path);
         }
@@ -62,18 +64,18 @@ void FolderScanPage::loadf() {
 void FolderScanPage::Image5_Click() {
     loadf();
     hooks.norms2();
-    if (parts_.utilities.fileThere(globals_.app.intFile)) {
+    if (utilities.fileThere(globals.app.intFile)) {
         entry_.Current = true;
         screen_.intF.Visible = true;
         return;
     }
-    const Answer answer = parts_.platform.dialogs.message(
+    const Answer answer = platform.dialogs.message(
         {.text = "You have not yet completed the full system scan.  This is required before using the "
                  "Integrity Checker.  Perform scan now?",
          .title = "Missing File",
          .buttons = Buttons::YesNo});
     if (answer == Answer::Yes) {
-        restartWithoutBackup(globals_, parts_.platform, backupOf(globals_.app.intFile));
+        restartWithoutBackup(globals, platform, backupOf(globals.app.intFile));
     }
 }
 
@@ -82,22 +84,21 @@ void FolderScanPage::Combo1_Click() {
     if (index <= 0) {
         return;
     }
-    const std::string file = parts_.checksum.getCustomDat(index);
-    if (!parts_.utilities.fileThere(file) &&
-        !parts_.baseline.buildCustomDat(screen_.Combo1.text(), file, std::to_string(index))) {
+    const std::string file = checksum_.getCustomDat(index);
+    if (!utilities.fileThere(file) &&
+        !baseline_.buildCustomDat(screen_.Combo1.text(), file, std::to_string(index))) {
         screen_.Combo1.setListIndex(0);
         return;
     }
-    const std::vector<std::string> types =
-        split(parts_.settings.readIni(globals_.app.settFile, "args", index), ',');
+    const std::vector<std::string> types = split(settings.readIni(globals.app.settFile, "args", index), ',');
     for (std::size_t i = 0; i < screen_.check.size() && i < types.size(); ++i) {
         screen_.check[i].setValue(types[i] == "1");
     }
 }
 
 void FolderScanPage::bSCAN_Click() {
-    parts_.baseline.checkIntFile();
-    ScanRun& scan = globals_.scan;
+    baseline_.checkIntFile();
+    ScanRun& scan = globals.scan;
     const auto wanted = scan.wanted();
     bool any = false;
     for (std::size_t i = 0; i < wanted.size(); ++i) {
@@ -105,7 +106,7 @@ void FolderScanPage::bSCAN_Click() {
         any = any || *wanted[i];
     }
     if (!any) {
-        parts_.platform.dialogs.message({.text = "Please select the files to scan."});
+        platform.dialogs.message({.text = "Please select the files to scan."});
         return;
     }
     scan.customFolder.clear();
@@ -113,13 +114,13 @@ void FolderScanPage::bSCAN_Click() {
     scan.pageScan = true;
     scan.customFirstScan = false;
     hooks.leaveScan();
-    parts_.platform.messages.pump();
+    platform.messages.pump();
     const int index = screen_.Combo1.listIndex();
     const std::string folder = screen_.Combo1.text();
-    if (index > 0 && !parts_.dataFile.loadCustomDat(parts_.checksum.getCustomDat(index))) {
+    if (index > 0 && !dataFile_.loadCustomDat(checksum_.getCustomDat(index))) {
         return; // Its first scan was refused.
     }
-    parts_.platform.messages.pump();
+    platform.messages.pump();
     if (index > 0) { // Set where no input comes between this and the plan.
         scan.customFolder = folder;
         scan.customIndex = static_cast<std::int16_t>(index);

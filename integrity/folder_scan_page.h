@@ -1,18 +1,16 @@
 #pragma once
 
+#include "core/services.h"
+
 #include <functional>
 
 namespace tarvelon {
 
 struct FolderScanControls;
-struct Globals;
-struct Platform;
 class Baseline;
 class Checksum;
 class DataFile;
 class NavButton;
-class SettingsFile;
-class Utilities;
 
 /// What the page calls beside itself.
 struct FolderScanHooks {
@@ -21,22 +19,12 @@ struct FolderScanHooks {
     std::function<void()> loadUp;    ///< Plans a scan and starts it.
 };
 
-/// What the page works with.
-struct FolderScanParts {
-    Globals& globals;
-    Platform& platform;
-    SettingsFile& settings;
-    Checksum& checksum;
-    DataFile& dataFile;
-    Baseline& baseline;
-    const Utilities& utilities;
-};
-
 /// The page where the user picks a folder and file types and starts a scan by hand. The position of a folder
 /// in the drop-down list is taken for its slot, which holds as long as no slot in front of it is free.
-class FolderScanPage {
+class FolderScanPage : Services {
 public:
-    FolderScanPage(FolderScanControls& screen, NavButton& entry, const FolderScanParts& parts);
+    FolderScanPage(FolderScanControls& screen, NavButton& entry, const Services& services, Checksum& checksum,
+                   DataFile& dataFile, Baseline& baseline);
 
     FolderScanHooks hooks;
 
@@ -54,8 +42,9 @@ private:
 
     FolderScanControls& screen_;
     NavButton& entry_; ///< Opens the page.
-    FolderScanParts parts_;
-    Globals& globals_;
+    Checksum& checksum_;
+    DataFile& dataFile_;
+    Baseline& baseline_;
 };
 
 } // namespace tarvelon

@@ -39,33 +39,30 @@ constexpr const char* closeCheckCaption = "Close Integrity Check Window";
 
 } // namespace
 
-IntCheck::IntCheck(IntCheckScreen& screen, const IntCheckParts& parts)
-    : screen_(screen)
-    , parts_(parts)
-    , globals_(parts.globals)
-    , platform_(parts.platform) {
+IntCheck::IntCheck(IntCheckScreen& screen, const Services& services, Checksum& checksum, DataFile& dataFile,
+                   Baseline& baseline, Comparison& comparison)
+    : Services(services)
+    , screen_(screen)
+    , checksum_(checksum)
+    , dataFile_(dataFile)
+    , baseline_(baseline)
+    , comparison_(comparison) {
     bind();
 }
 
 void IntCheck::bind() {
     screen_.onLoad = [this] {
         passOver([this] { readScanners(); });
-        passOver([this] {
-            fillScannerFields(parts_.settings.getSetting("AV2"), screen_.textav1, screen_.textav2);
-        });
+        passOver([this] { fillScannerFields(settings.getSetting("AV2"), screen_.textav1, screen_.textav2); });
     };
     screen_.onQueryClose = [this] { return queryClose(); };
     screen_.Timer1.onTick = [this] { Timer1_Tick(); };
-    screen_.Image9.onClick = [this] { setPaused(!globals_.scan.scanPaused); };
+    screen_.Image9.onClick = [this] { setPaused(!globals.scan.scanPaused); };
     screen_.Label11.onClick = screen_.Image9.onClick;
     screen_.Image11.onClick = [this] { Command1_Click(); };
     screen_.Command1.onClick = screen_.Image11.onClick;
     screen_.Label2.onClick = [this] { Label2_Click(); };
-    screen_.Label12.onClick = [this] {
-        if (hooks.resultAction) {
-            hooks.resultAction();
-        }
-    };
+    screen_.Label12.onClick = [this] { hooks.resultAction(); };
 }
 
 // ---- The passes
@@ -77,11 +74,11 @@ bool IntCheck::runs() const {
 void IntCheck::Timer1_Tick() {
     const Busy busy(busy_);
     screen_.Timer1.Enabled = false;
-    globals_.scan.scanCancelled = false;
+    globals.scan.scanCancelled = false;
     screen_.pb1max.Caption = "0";
     screen_.pbm.Caption = "0";
     // Behind a plan of its own the start-up loads the baseline of the settings, which it has read since.
-    passOver([this] { parts_.dataFile.needIntFile(parts_.checksum.getIntFile()); });
+    passOver([this] { dataFile_.needIntFile(checksum_.getIntFile()); });
     int turn = 0;
     std::size_t folders = 0;
     do {
@@ -95,11 +92,11 @@ void IntCheck::runPasses() {
     const std::array<const std::int32_t*, 6> counts{&cntDLL, &cntDRV, &cntSYS, &cntOCX, &cntEXE, nullptr};
     for (std::size_t i = 0; i < passRows.size(); ++i) {
         const PassLabels& labels = screen_.passes[i];
-        if (!*globals_.scan.wanted()[i]) {
+        if (!*globals.scan.wanted()[i]) {
             labels.title.Caption = passRows[i].notWanted;
             continue;
         }
-        globals_.scan.passType = static_cast<std::int16_t>(i + 1);
+        globals.scan.passType = static_cast<std::int16_t>(i + 1);
         for (Label* label : {&labels.title, &labels.file, &labels.percent}) {
             label->ForeColor = colors::scanGrey;
         }
@@ -111,13 +108,13 @@ void IntCheck::runPasses() {
 
 void IntCheck::IntegrityChecker2(const std::string& ext1, const std::string& ext2,
                                  const std::string& dataFile) {
-    parts_.comparison.comparePass({ext1, ext2, dataFile});
+    comparison_.comparePass({ext1, ext2, dataFile});
 }
 
 /// Takes the first folder off the queue and makes it the current one; false when the queue is empty. `turn`
 /// is its number in this scan, and `folders` how many there were at the first.
 bool IntCheck::takeNextCustomFolder(int& turn, std::size_t& folders) {
-    ScanRun& scan = globals_.scan;
+    ScanRun& scan = globals.scan;
     if (scan.customQueue.empty()) {
         return false;
     }
@@ -127,11 +124,10 @@ bool IntCheck::takeNextCustomFolder(int& turn, std::size_t& folders) {
     }
     ++turn;
     const std::string& slot = queue.front();
-    SettingsFile& settings = parts_.settings;
-    const std::string& file = globals_.app.settFile;
+    const std::string& file = globals.app.settFile;
     scan.customFolder = settings.readIni(file, "path", slot);
     screen_.l_cust2.Caption = "Custom Folder " + std::to_string(turn) + "/" + std::to_string(folders);
-    platform_.messages.pump();
+    platform.messages.pump();
 
     // The types are those of "args" in a shut-down as well, although "args2" chose the folder.
     const std::string types = settings.readIni(file, "args", slot);
@@ -139,49 +135,44 @@ bool IntCheck::takeNextCustomFolder(int& turn, std::size_t& folders) {
     wantFrom(types);
     scan.customIndex = static_cast<std::int16_t>(toNumber(slot).value_or(0));
     scan.customQueue.erase(0, slot.size() + 1);
-    passOver([&] { parts_.dataFile.loadCustomDat(parts_.checksum.getCustomDat(scan.customIndex)); });
-    platform_.messages.pump();
+    passOver([&] { dataFile_.loadCustomDat(checksum_.getCustomDat(scan.customIndex)); });
+    platform.messages.pump();
     return true;
 }
 
 void IntCheck::finish() {
-    Baselines& baselines = globals_.baselines;
-    const ScanRun& scan = globals_.scan;
+    Baselines& baselines = globals.baselines;
+    const ScanRun& scan = globals.scan;
     if (baselines.primaryScan) {
         baselines.primaryScan = false;
-        passOver([this] { parts_.dataFile.loadIntFile(parts_.checksum.getIntFile()); });
+        passOver([this] { dataFile_.loadIntFile(checksum_.getIntFile()); });
         screen_.hide();
         hooks.showMainWindow();
     }
-    const auto resultAction = [this] {
-        if (hooks.resultAction) {
-            passOver(hooks.resultAction);
-        }
-    };
-    if (!scan.noAutoAction && (inShutDown() || globals_.settings.autoScanFailed)) {
-        resultAction();
+    if (!scan.noAutoAction && (inShutDown() || globals.settings.autoScanFailed)) {
+        passOver(hooks.resultAction);
     }
     if (!scan.scanCancelled && screen_.Label6.Caption() == screen_.Label7.Caption()) {
         screen_.Label14.Visible = true;
-        if (!inShutDown() && globals_.app.autoLoadRun) {
-            platform_.processes.end();
+        if (!inShutDown() && globals.app.autoLoadRun) {
+            platform.processes.end();
         }
     }
     if (screen_.Label14.Visible()) {
         screen_.Label2.Caption = closeCheckCaption;
     }
     if (scan.customFirstScan) {
-        resultAction();
+        passOver(hooks.resultAction);
     }
     showOutcome();
-    if (inShutDown() && hooks.preShut2) {
+    if (inShutDown()) {
         passOver(hooks.preShut2);
     }
-    platform_.messages.pump();
+    platform.messages.pump();
 }
 
 void IntCheck::showOutcome() {
-    const bool cancelled = globals_.scan.scanCancelled;
+    const bool cancelled = globals.scan.scanCancelled;
     screen_.Frame1.Visible = cancelled;
     screen_.Frame2.Visible = !cancelled;
     screen_.Frame3.Visible = false;
@@ -195,7 +186,7 @@ void IntCheck::showOutcome() {
 // ---- The screen
 
 void IntCheck::readScanners() {
-    fillScannerFields(parts_.settings.getSetting("ANTIVIRUS"), screen_.Text1, screen_.Text2);
+    fillScannerFields(settings.getSetting("ANTIVIRUS"), screen_.Text1, screen_.Text2);
 }
 
 void IntCheck::resetCaptions() {
@@ -207,11 +198,11 @@ void IntCheck::resetCaptions() {
     screen_.Label12.Caption = "Scan Failing Files...";
     screen_.Label2.Caption = "Repair and Update Failed Files...";
     screen_.Label13.Caption = "Scanning...Please Wait";
-    platform_.messages.pump();
+    platform.messages.pump();
 }
 
 void IntCheck::setPaused(bool paused) {
-    globals_.scan.scanPaused = paused;
+    globals.scan.scanPaused = paused;
     screen_.Label11.Visible = paused;
 }
 
@@ -227,13 +218,13 @@ void IntCheck::Label2_Click() {
 }
 
 void IntCheck::Command1_Click() {
-    ScanRun& scan = globals_.scan;
+    ScanRun& scan = globals.scan;
     screen_.load();
     scan.customQueue.clear();
     setPaused(false);
-    const std::string intFile = parts_.checksum.getIntFile();
-    if (!parts_.utilities.fileThere(intFile)) {
-        parts_.baseline.checkIntFile(); // An algorithm chosen meanwhile is no matter before the next plan.
+    const std::string intFile = checksum_.getIntFile();
+    if (!utilities.fileThere(intFile)) {
+        baseline_.checkIntFile(); // An algorithm chosen meanwhile is no matter before the next plan.
     }
     if (!confirmLeave()) {
         return;
@@ -241,7 +232,7 @@ void IntCheck::Command1_Click() {
     scan.scanCancelled = true;
     screen_.Timer1.Enabled = false;
     if (scan.customFolder.empty()) {
-        parts_.dataFile.loadIntFile(intFile);
+        dataFile_.loadIntFile(intFile);
     }
     screen_.hide();
 }
@@ -253,17 +244,17 @@ bool IntCheck::queryClose() {
     if (!confirmLeave()) {
         return false;
     }
-    globals_.scan.scanCancelled = true;
+    globals.scan.scanCancelled = true;
     screen_.Timer1.Enabled = false;
     screen_.hide();
-    parts_.dataFile.loadIntFile(parts_.checksum.getIntFile());
+    dataFile_.loadIntFile(checksum_.getIntFile());
     return true;
 }
 
 /// True when a scan of the main window may be left. Any other scan ends the program instead.
 bool IntCheck::confirmLeave() {
     if (screen_.List1.count() > 0) {
-        const Answer answer = platform_.dialogs.message(
+        const Answer answer = platform.dialogs.message(
             {.text = "Some files failed the integrity check!  Are you sure you want to exit?",
              .title = "Warning",
              .buttons = Buttons::YesNo});
@@ -272,24 +263,24 @@ bool IntCheck::confirmLeave() {
         }
         screen_.List1.clear();
     }
-    if (globals_.scan.pageScan) {
+    if (globals.scan.pageScan) {
         return true;
     }
-    if (globals_.baselines.primaryScan) {
-        const Answer answer = platform_.dialogs.message(
+    if (globals.baselines.primaryScan) {
+        const Answer answer = platform.dialogs.message(
             {.text = "If you stop the scan now, you will need to re-start it later\r\n"
                      "Are you sure you want to abandon the full system scan?",
              .buttons = Buttons::YesNo});
         if (answer != Answer::Yes) {
             return false;
         }
-        platform_.files.remove(parts_.checksum.getIntFile());
+        platform.files.remove(checksum_.getIntFile());
     }
-    platform_.processes.end();
+    platform.processes.end();
 }
 
 bool IntCheck::inShutDown() const {
-    return globals_.app.shutAction != -1;
+    return globals.app.shutAction != -1;
 }
 
 } // namespace tarvelon

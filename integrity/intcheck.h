@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/services.h"
 #include "integrity/comparison.h"
 
 #include <cstdint>
@@ -8,14 +9,10 @@
 
 namespace tarvelon {
 
-struct Globals;
 struct IntCheckScreen;
-struct Platform;
 class Baseline;
 class Checksum;
 class DataFile;
-class SettingsFile;
-class Utilities;
 
 /// What a scan calls above itself.
 struct IntCheckHooks {
@@ -38,9 +35,10 @@ struct IntCheckParts {
 
 /// The scan window's behaviour: plans a scan, runs its passes folder by folder, shows the results, and
 /// leaves.
-class IntCheck {
+class IntCheck : Services {
 public:
-    IntCheck(IntCheckScreen& screen, const IntCheckParts& parts);
+    IntCheck(IntCheckScreen& screen, const Services& services, Checksum& checksum, DataFile& dataFile,
+             Baseline& baseline, Comparison& comparison);
 
     IntCheckHooks hooks;
 
@@ -96,9 +94,10 @@ private:
     bool inShutDown() const;
 
     IntCheckScreen& screen_;
-    IntCheckParts parts_;
-    Globals& globals_;
-    Platform& platform_;
+    Checksum& checksum_;
+    DataFile& dataFile_;
+    Baseline& baseline_;
+    Comparison& comparison_;
 
     // Files planned for each pass, over all folders of the scan.
     std::int32_t cntDLL = 0;

@@ -40,16 +40,16 @@ struct IntCheck::Plan {
 void IntCheck::LoadUp() {
     const Busy busy(busy_);
     screen_.load();
-    globals_.scan.algorithm = static_cast<const Algorithm&>(globals_.settings);
-    parts_.checksum.setDatName();
-    parts_.baseline.checkIntFile();
-    parts_.dataFile.needIntFile(parts_.checksum.getIntFile());
+    globals.scan.algorithm = static_cast<const Algorithm&>(globals.settings);
+    checksum_.setDatName();
+    baseline_.checkIntFile();
+    dataFile_.needIntFile(checksum_.getIntFile());
     resetCaptions();
     setPaused(false);
     screen_.Frame1.Visible = true;
     screen_.Frame2.Visible = false;
     screen_.Frame3.Visible = false;
-    platform_.messages.pump();
+    platform.messages.pump();
     screen_.Label14.Visible = false;
     resetRun();
     wantTypesOfRun();
@@ -58,14 +58,14 @@ void IntCheck::LoadUp() {
     bool another = true;
     while (another) {
         countFolder(plan);
-        if (globals_.baselines.primaryBuild) {
+        if (globals.baselines.primaryBuild) {
             break;
         }
-        const bool foldersJoin = inShutDown() || !globals_.app.cmdLine.empty();
+        const bool foldersJoin = inShutDown() || !globals.app.cmdLine.empty();
         another = foldersJoin && joinNextFolder(plan);
         if (foldersJoin && !another) {
             // The joining folders have used the flags; they go back to what the system passes want.
-            globals_.scan.want(false);
+            globals.scan.want(false);
             wantFromWithAutoScan(savedTypes());
         }
     }
@@ -74,7 +74,7 @@ void IntCheck::LoadUp() {
 }
 
 void IntCheck::resetRun() {
-    ScanRun& scan = globals_.scan;
+    ScanRun& scan = globals.scan;
     scan.failList.clear();
     scan.customFailList.clear();
     scan.customQueue.clear();
@@ -89,24 +89,24 @@ void IntCheck::resetRun() {
 }
 
 void IntCheck::wantTypesOfRun() {
-    if (globals_.scan.pageScan) {
+    if (globals.scan.pageScan) {
         screen_.show();
-    } else if (globals_.baselines.primaryScan) {
-        globals_.scan.want(true);
+    } else if (globals.baselines.primaryScan) {
+        globals.scan.want(true);
     } else {
         // Flags that are already set stay set; a list only adds to them.
-        wantFromWithAutoScan(!inShutDown() && globals_.app.schedRun ? "1,1,1,1,1,1,1" : savedTypes());
+        wantFromWithAutoScan(!inShutDown() && globals.app.schedRun ? "1,1,1,1,1,1,1" : savedTypes());
     }
 }
 
 std::string IntCheck::savedTypes() const {
-    return parts_.settings.getSetting(inShutDown() ? "GETSETT2" : "GETSETT");
+    return settings.getSetting(inShutDown() ? "GETSETT2" : "GETSETT");
 }
 
 /// Sets the flags of the passes whose position is "1".
 void IntCheck::wantFrom(const std::string& list) {
     const std::vector<std::string> positions = split(list, ',');
-    const auto flags = globals_.scan.wanted();
+    const auto flags = globals.scan.wanted();
     for (std::size_t i = 0; i < flags.size() && i < positions.size(); ++i) {
         *flags[i] = *flags[i] || positions[i] == "1";
     }
@@ -116,24 +116,24 @@ void IntCheck::wantFromWithAutoScan(const std::string& list) {
     wantFrom(list);
     const std::vector<std::string> positions = split(list, ',');
     if (positions.size() > 6 && positions[6] == "1") {
-        globals_.settings.autoScanFailed = true;
+        globals.settings.autoScanFailed = true;
     }
 }
 
 /// Counts the current folder's files of the wanted types.
 void IntCheck::countFolder(Plan& plan) {
     extList.clear();
-    const auto flags = globals_.scan.wanted();
+    const auto flags = globals.scan.wanted();
     for (std::size_t i = 0; i < flags.size(); ++i) {
         extList += *flags[i] ? passExtensions[i] : "";
     }
     passOver([this] { readScanners(); });
-    const std::string& custom = globals_.scan.customFolder;
-    const std::string folder = withBackslash(custom.empty() ? trim(parts_.utilities.getSysDir()) : custom);
+    const std::string& custom = globals.scan.customFolder;
+    const std::string folder = withBackslash(custom.empty() ? trim(utilities.getSysDir()) : custom);
 
-    const CaseRules& cases = globals_.cases;
+    const CaseRules& cases = globals.cases;
     const std::string wanted = cases.upper(extList);
-    Files& files = platform_.files;
+    Files& files = platform.files;
     for (std::string name = files.firstName(folder); !name.empty(); name = files.nextName()) {
         const std::string tail = cases.upper(lastCharacters(name, 4));
         if (name == "." || name == ".." || wanted.find(tail) == std::string::npos) {
@@ -152,9 +152,8 @@ void IntCheck::countFolder(Plan& plan) {
 /// Makes the next custom folder that takes part the current one, with its own types. False when there is no
 /// further one; the system directory is then current again.
 bool IntCheck::joinNextFolder(Plan& plan) {
-    ScanRun& scan = globals_.scan;
-    SettingsFile& settings = parts_.settings;
-    const std::string& file = globals_.app.settFile;
+    ScanRun& scan = globals.scan;
+    const std::string& file = globals.app.settFile;
     for (;;) {
         ++plan.slot;
         const std::string list = settings.readIni(file, inShutDown() ? "args2" : "args", plan.slot);

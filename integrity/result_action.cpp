@@ -61,21 +61,25 @@ std::size_t startBehind(const SearchIndex& text, const std::string& searched) {
 
 } // namespace
 
-ResultAction::ResultAction(IntCheckScreen& screen, const ResultActionParts& parts)
-    : screen_(screen)
-    , parts_(parts)
-    , globals_(parts.globals) {}
+ResultAction::ResultAction(IntCheckScreen& screen, const Services& services, Checksum& checksum,
+                           DataFile& dataFile, const Scanner& scanner, LogFiles& logFiles)
+    : Services(services)
+    , screen_(screen)
+    , checksum_(checksum)
+    , dataFile_(dataFile)
+    , scanner_(scanner)
+    , logFiles_(logFiles) {}
 
 void ResultAction::Label12_Click() {
-    if (globals_.scan.accepting) {
+    if (globals.scan.accepting) {
         return;
     }
-    if (!globals_.scan.customFirstScan && screen_.Label12.Caption() == closeWindowCaption) {
+    if (!globals.scan.customFirstScan && screen_.Label12.Caption() == closeWindowCaption) {
         hooks.leaveScan();
         return;
     }
     hooks.undisturbed([this] {
-        const Accepting accepting(globals_.scan.accepting);
+        const Accepting accepting(globals.scan.accepting);
         handOverAndAccept();
     });
 }
@@ -83,44 +87,44 @@ void ResultAction::Label12_Click() {
 void ResultAction::handOverAndAccept() {
     try {
         // The first scan of a custom folder passes nothing to a scanner and logs nothing.
-        if (!globals_.scan.customFirstScan && !handOver()) {
+        if (!globals.scan.customFirstScan && !handOver()) {
             return;
         }
         acceptFindings();
     } catch (const Failure&) {
-        parts_.platform.dialogs.message({.text = couldNotBeExecuted(screen_.Text1.Caption())});
+        platform.dialogs.message({.text = couldNotBeExecuted(screen_.Text1.Caption())});
     }
 }
 
 /// Scanners and report. False when nothing is left to do.
 bool ResultAction::handOver() {
-    const bool noScanner = !parts_.utilities.fileThere(screen_.Text1.Caption());
+    const bool noScanner = !utilities.fileThere(screen_.Text1.Caption());
     if (noScanner) {
-        parts_.platform.dialogs.message(
+        platform.dialogs.message(
             {.text =
                  "You do not have any Anti-Virus program setup with Tarvelon.  For your conveniance, these "
                  "files will be added to the log, and will be updated in your Integrity File (so that you "
                  "can scan them for viruses later)."});
     }
     std::string all;
-    const bool inShutDown = globals_.app.shutAction != -1;
+    const bool inShutDown = globals.app.shutAction != -1;
     if (startScanners(noScanner, all) == Handed::All && !inShutDown) {
-        if (globals_.baselines.primaryBuild) {
+        if (globals.baselines.primaryBuild) {
             return false;
         }
         if (all.empty()) {
-            parts_.platform.processes.end();
+            platform.processes.end();
         }
     }
     screen_.Label13.Caption = "Logging Action...";
     if (noScanner) {
-        parts_.logFiles.writeLog(
+        logFiles_.writeLog(
             "Integrity Checker - These files were logged because you didn't setup an Anti-Virus Scanner," +
                 all,
             true);
     } else {
-        parts_.logFiles.writeLog(
-            "Integrity Checker - These files were either New or Failed the Integrity Check," + all);
+        logFiles_.writeLog("Integrity Checker - These files were either New or Failed the Integrity Check," +
+                           all);
     }
     return true;
 }
@@ -132,12 +136,12 @@ ResultAction::Handed ResultAction::startScanners(bool noScanner, std::string& al
                                {screen_.textav1.Caption(), screen_.textav2.Caption()}};
     // One row past the end, which reads as empty and only hands over the last batch.
     const int lastRow = screen_.List1.count();
-    const bool ended = parts_.scanner.batch(
+    const bool ended = scanner_.batch(
         0, lastRow, [this](int row) { return withoutNewMark(screen_.List1.item(row)); },
         [&](const std::vector<std::string>& batch) {
             all += joined(batch);
             if (!noScanner) {
-                parts_.scanner.startBoth(scanners, batch);
+                scanner_.startBoth(scanners, batch);
             }
             return !noScanner;
         });
@@ -149,16 +153,16 @@ void ResultAction::acceptFindings() {
     if (!UpdateDatFile()) {
         return;
     }
-    if (globals_.scan.customFirstScan) {
+    if (globals.scan.customFirstScan) {
         screen_.hide();
-        globals_.scan.customFirstScan = false;
+        globals.scan.customFirstScan = false;
         screen_.List1.clear();
-        parts_.platform.dialogs.message({.text = "Initial Custom Folder Scan Completed Successfully!"});
+        platform.dialogs.message({.text = "Initial Custom Folder Scan Completed Successfully!"});
         return;
     }
-    const bool runWithSwitch = !globals_.app.cmdLine.empty() && globals_.app.shutAction == -1;
-    if (runWithSwitch && globals_.settings.autoScanFailed) {
-        parts_.platform.processes.end();
+    const bool runWithSwitch = !globals.app.cmdLine.empty() && globals.app.shutAction == -1;
+    if (runWithSwitch && globals.settings.autoScanFailed) {
+        platform.processes.end();
     }
     screen_.List1.clear();
 }
@@ -177,11 +181,11 @@ bool ResultAction::UpdateDatFile() {
             failures += failure.what() + std::string("\r\n\r\n");
         }
     };
-    clsDoEvents pump(parts_.platform.messages);
+    clsDoEvents pump(platform.messages);
     pump.QueueUsed(userInput);
-    const std::string intFile = parts_.checksum.getIntFile();
-    const SearchIndex failList(globals_.scan.failList);
-    const SearchIndex customFailList(globals_.scan.customFailList);
+    const std::string intFile = checksum_.getIntFile();
+    const SearchIndex failList(globals.scan.failList);
+    const SearchIndex customFailList(globals.scan.customFailList);
 
     // Both stay from one turn to the next: behind a system file, a custom folder's file also leaves a line in
     // the system baseline, with the system file's checksum.
@@ -190,7 +194,7 @@ bool ResultAction::UpdateDatFile() {
     const int count = screen_.List1.count();
     for (int row = 0; row < count; ++row) {
         const std::string item = withoutNewMark(screen_.List1.item(row));
-        const std::string section = globals_.cases.upper(lastCharacters(item, 3));
+        const std::string section = globals.cases.upper(lastCharacters(item, 3));
         if (failList.find(item) != std::string::npos) {
             value = systemValue(failList, item);
             systemFileSeen = true;
@@ -204,19 +208,19 @@ bool ResultAction::UpdateDatFile() {
                 }
             }
         }
-        globals_.scan.customFolder.clear();
+        globals.scan.customFolder.clear();
         if (systemFileSeen) {
             const std::string name = nameOf(item, pump);
-            passOver([&] { parts_.settings.writeEntry(intFile, name, value + "*E", section); });
+            passOver([&] { settings.writeEntry(intFile, name, value + "*E", section); });
         }
         pump.GetInputState();
     }
-    save([this] { parts_.dataFile.saveIntFile(); });
-    passOver([&] { parts_.dataFile.loadIntFile(intFile); });
+    save([this] { dataFile_.saveIntFile(); });
+    passOver([&] { dataFile_.loadIntFile(intFile); });
     if (!failures.empty()) {
         screen_.Caption = caption;
         screen_.Label13.Caption = "Failed Files List";
-        parts_.platform.dialogs.message(
+        platform.dialogs.message(
             {.text = failures + "The files stay listed and can be accepted again.", .icon = Icon::Warning});
         return false;
     }
@@ -228,7 +232,7 @@ bool ResultAction::UpdateDatFile() {
 
 /// The checksum that stands behind the item in the findings of the system directory.
 std::string ResultAction::systemValue(const SearchIndex& copy, const std::string& item) const {
-    const CaseRules& cases = globals_.cases;
+    const CaseRules& cases = globals.cases;
     std::string value = getBetween(cases, copy.text(), startBehind(copy, "," + item + " "), " ", ",");
     if (value.empty()) {
         value = getBetween(cases, copy.text(), startBehind(copy, item + " "), " ", ",");
@@ -244,7 +248,7 @@ std::string ResultAction::systemValue(const SearchIndex& copy, const std::string
 
 /// Puts the item and its checksum among the pending entries of its slot.
 void ResultAction::queueForCustom(const SearchIndex& copy, const std::string& item) {
-    const CaseRules& cases = globals_.cases;
+    const CaseRules& cases = globals.cases;
     std::string found = getBetween(cases, copy.text(), startBehind(copy, "," + item + "("), "(", ",");
     if (found.empty()) {
         found = getBetween(cases, copy.text(), startBehind(copy, item + "("), "(", ",");
@@ -261,22 +265,22 @@ void ResultAction::queueForCustom(const SearchIndex& copy, const std::string& it
 
 void ResultAction::SpecialSave(int slot) {
     std::string pending = std::exchange(passFolderList[static_cast<std::size_t>(slot - 1)], {});
-    if (parts_.settings.readIni(globals_.app.settFile, "path", slot) == "NULL") {
+    if (settings.readIni(globals.app.settFile, "path", slot) == "NULL") {
         return; // The folder was removed after its scan.
     }
-    const std::string file = parts_.checksum.getCustomDat(slot);
-    parts_.dataFile.loadCustomDat(file);
-    globals_.scan.customFolder = "!"; // Any text: entries now go to the custom baseline.
+    const std::string file = checksum_.getCustomDat(slot);
+    dataFile_.loadCustomDat(file);
+    globals.scan.customFolder = "!"; // Any text: entries now go to the custom baseline.
     while (!pending.empty()) {
         const std::string path = pending.substr(0, pending.find('('));
-        const std::string value = getBetween(globals_.cases, pending, 1, ") ", ",");
+        const std::string value = getBetween(globals.cases, pending, 1, ") ", ",");
         const std::size_t comma = pending.find(',');
         pending.erase(0, comma == std::string::npos ? comma : comma + 1);
-        const std::string section = globals_.cases.upper(lastCharacters(path, 3));
-        passOver([&] { parts_.settings.writeEntry(file, bareName(path), value + "*E", section); });
-        parts_.platform.messages.pump();
+        const std::string section = globals.cases.upper(lastCharacters(path, 3));
+        passOver([&] { settings.writeEntry(file, bareName(path), value + "*E", section); });
+        platform.messages.pump();
     }
-    parts_.dataFile.saveCustomDat(file);
+    dataFile_.saveCustomDat(file);
 }
 
 } // namespace tarvelon

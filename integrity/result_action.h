@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/globals.h"
+#include "core/services.h"
 
 #include <array>
 #include <functional>
@@ -9,14 +10,11 @@
 namespace tarvelon {
 
 struct IntCheckScreen;
-struct Platform;
 class Checksum;
 class DataFile;
 class LogFiles;
 class Scanner;
 class SearchIndex;
-class SettingsFile;
-class Utilities;
 
 /// What the result action calls beside itself.
 struct ResultActionHooks {
@@ -26,23 +24,12 @@ struct ResultActionHooks {
     std::function<void(const std::function<void()>&)> undisturbed;
 };
 
-/// What the result action works with.
-struct ResultActionParts {
-    Globals& globals;
-    Platform& platform;
-    SettingsFile& settings;
-    Checksum& checksum;
-    DataFile& dataFile;
-    const Utilities& utilities;
-    const Scanner& scanner;
-    LogFiles& logFiles;
-};
-
 /// What becomes of a scan's findings: they go to the scanners and into a report, and their present state is
 /// then the baseline.
-class ResultAction {
+class ResultAction : Services {
 public:
-    ResultAction(IntCheckScreen& screen, const ResultActionParts& parts);
+    ResultAction(IntCheckScreen& screen, const Services& services, Checksum& checksum, DataFile& dataFile,
+                 const Scanner& scanner, LogFiles& logFiles);
 
     ResultActionHooks hooks;
 
@@ -71,8 +58,10 @@ private:
     void queueForCustom(const SearchIndex& copy, const std::string& item);
 
     IntCheckScreen& screen_;
-    ResultActionParts parts_;
-    Globals& globals_;
+    Checksum& checksum_;
+    DataFile& dataFile_;
+    const Scanner& scanner_;
+    LogFiles& logFiles_;
 
     /// Pending entries of each slot: path, "(slot) ", checksum, comma. Empty between updates.
     std::array<std::string, folderSlots> passFolderList;

@@ -28,11 +28,12 @@ bool isReport(const CaseRules& cases, const std::string& name) {
 
 } // namespace
 
-LogBrowser::LogBrowser(LogControls& screen, NavButton& options, const LogBrowserParts& parts)
-    : screen_(screen)
+LogBrowser::LogBrowser(LogControls& screen, NavButton& options, const Services& services,
+                       const Scanner& scanner)
+    : Services(services)
+    , screen_(screen)
     , options_(options)
-    , parts_(parts)
-    , globals_(parts.globals) {
+    , scanner_(scanner) {
     bind();
 }
 
@@ -61,17 +62,17 @@ void LogBrowser::bind() {
 
 void LogBrowser::load() {
     screen_.TreeView2.clear();
-    Files& files = parts_.platform.files;
+    Files& files = platform.files;
     std::vector<std::string> names;
     for (std::string name = files.firstName(folder()); !name.empty(); name = files.nextName()) {
-        if (name != "." && name != ".." && isReport(globals_.cases, name)) {
+        if (name != "." && name != ".." && isReport(globals.cases, name)) {
             names.push_back(name);
         }
     }
     for (const std::string& name : names) {
-        parts_.platform.messages.pump();
+        platform.messages.pump();
         addReport(name);
-        parts_.platform.messages.pump();
+        platform.messages.pump();
     }
 }
 
@@ -82,8 +83,7 @@ void LogBrowser::addReport(const std::string& fileName) {
         return;
     }
     const std::string date = reportDate(fileName.substr(0, open));
-    const std::string time =
-        reportTimeShown(globals_.cases, getBetween(globals_.cases, fileName, 1, "(", ")"));
+    const std::string time = reportTimeShown(globals.cases, getBetween(globals.cases, fileName, 1, "(", ")"));
     screen_.TreeView2.addRoot(date, date);
     // The date belongs to the key: two reports of different days may bear the same time.
     screen_.TreeView2.addChild(date, date + "|" + time, time);
@@ -99,12 +99,11 @@ void LogBrowser::open() {
     }
     screen_.Label26.Visible = true;
     const std::string path = fileOf(*node);
-    if (!parts_.utilities.fileThere(path)) {
-        parts_.platform.dialogs.message(
-            {.text = "Error - This report does not exist and could not be opened."});
+    if (!utilities.fileThere(path)) {
+        platform.dialogs.message({.text = "Error - This report does not exist and could not be opened."});
         return;
     }
-    const auto text = readWholeFile(parts_.platform.files, path);
+    const auto text = readWholeFile(platform.files, path);
     if (!text) {
         return;
     }
@@ -117,7 +116,7 @@ void LogBrowser::open() {
 
 /// Two commas in a row end the list, whatever stands behind them.
 void LogBrowser::fillReport(std::string text) {
-    text = globals_.cases.replaceAll(text, lineEnd, ",");
+    text = globals.cases.replaceAll(text, lineEnd, ",");
     if (text.empty() || text.back() != ',') {
         text += ',';
     }
@@ -129,25 +128,25 @@ void LogBrowser::fillReport(std::string text) {
         }
         screen_.List4.add(piece);
         from = comma + 1;
-        parts_.platform.messages.pump();
+        platform.messages.pump();
     }
 }
 
 void LogBrowser::scan() {
-    const auto first = splitExeAndArgs(parts_.settings.getSetting("ANTIVIRUS")).value_or(ExeAndArgs{});
-    const auto second = splitExeAndArgs(parts_.settings.getSetting("AV2")).value_or(ExeAndArgs{});
+    const auto first = splitExeAndArgs(settings.getSetting("ANTIVIRUS")).value_or(ExeAndArgs{});
+    const auto second = splitExeAndArgs(settings.getSetting("AV2")).value_or(ExeAndArgs{});
     try {
-        parts_.scanner.batch(
+        scanner_.batch(
             1, screen_.List4.count() - 1, [this](int row) { return screen_.List4.item(row); },
             [&](const std::vector<std::string>& items) {
-                parts_.scanner.startBoth({{first.exe, first.args}, {second.exe, second.args}}, items);
+                scanner_.startBoth({{first.exe, first.args}, {second.exe, second.args}}, items);
                 return true;
             });
     } catch (const Failure&) {
-        parts_.platform.dialogs.message({.text = couldNotBeExecuted(first.exe)});
+        platform.dialogs.message({.text = couldNotBeExecuted(first.exe)});
         return;
     }
-    parts_.platform.dialogs.message({.text = "Anti-Virus program executed successfully!"});
+    platform.dialogs.message({.text = "Anti-Virus program executed successfully!"});
 }
 
 // ---- Deleting
@@ -157,7 +156,7 @@ void LogBrowser::deleteShown() {
         return;
     }
     if (const Tree::Node* node = screen_.TreeView2.selected()) {
-        parts_.platform.files.remove(fileOf(*node));
+        platform.files.remove(fileOf(*node));
     }
     backToTree();
     load();
@@ -167,17 +166,17 @@ void LogBrowser::deleteAll() {
     if (!confirms("Are you sure you want to delete all the logs?")) {
         return;
     }
-    Files& files = parts_.platform.files;
+    Files& files = platform.files;
     std::vector<std::string> names;
     for (std::string name = files.firstName(folder()); !name.empty(); name = files.nextName()) {
         names.push_back(name);
     }
     for (const std::string& name : names) {
-        parts_.platform.messages.pump();
-        if (isReport(globals_.cases, name)) {
+        platform.messages.pump();
+        if (isReport(globals.cases, name)) {
             files.remove(folder() + name);
         }
-        parts_.platform.messages.pump();
+        platform.messages.pump();
     }
     screen_.TreeView2.clear();
 }
@@ -205,7 +204,7 @@ bool LogBrowser::deleteDate(const Tree::Node& root) {
     const auto children = std::count_if(nodes.begin(), nodes.end(),
                                         [&](const Tree::Node& node) { return node.parent == &root; });
     for (auto i = 1; i <= children && nodes.end() - place > i; ++i) {
-        parts_.platform.files.remove(fileOf(*(place + i)));
+        platform.files.remove(fileOf(*(place + i)));
     }
     return true;
 }
@@ -214,7 +213,7 @@ bool LogBrowser::deleteEntry(const Tree::Node& node) {
     if (!confirms("Delete Log Entry?")) {
         return false;
     }
-    parts_.platform.files.remove(fileOf(node));
+    platform.files.remove(fileOf(node));
     return true;
 }
 
@@ -225,16 +224,16 @@ void LogBrowser::backToTree() {
 }
 
 bool LogBrowser::confirms(const std::string& question) const {
-    return parts_.platform.dialogs.message({.text = question, .buttons = Buttons::YesNo}) == Answer::Yes;
+    return platform.dialogs.message({.text = question, .buttons = Buttons::YesNo}) == Answer::Yes;
 }
 
 std::string LogBrowser::folder() const {
-    return globals_.app.appPath + "Data\\Log\\";
+    return globals.app.appPath + "Data\\Log\\";
 }
 
 std::string LogBrowser::fileOf(const Tree::Node& node) const {
     const std::string date = node.parent ? node.parent->text : std::string();
-    return folder() + date + "(" + reportTimeStored(globals_.cases, node.text) + ").log";
+    return folder() + date + "(" + reportTimeStored(globals.cases, node.text) + ").log";
 }
 
 } // namespace tarvelon

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/services.h"
 #include "ui/controls/tree.h"
 
 #include <functional>
@@ -7,28 +8,15 @@
 
 namespace tarvelon {
 
-struct Globals;
 struct LogControls;
-struct Platform;
 class NavButton;
 class Scanner;
-class SettingsFile;
-class Utilities;
-
-/// What the browser works with.
-struct LogBrowserParts {
-    Globals& globals;
-    Platform& platform;
-    SettingsFile& settings;
-    const Utilities& utilities;
-    const Scanner& scanner;
-};
 
 /// Lists the reports as a tree of dates and times, shows one, has its files scanned again, and deletes
 /// reports.
-class LogBrowser {
+class LogBrowser : Services {
 public:
-    LogBrowser(LogControls& screen, NavButton& options, const LogBrowserParts& parts);
+    LogBrowser(LogControls& screen, NavButton& options, const Services& services, const Scanner& scanner);
 
     std::function<void()> norms2; ///< Hides all pages of the main window.
 
@@ -52,8 +40,7 @@ private:
 
     LogControls& screen_;
     NavButton& options_; ///< Opens the page of options, which the tree is on.
-    LogBrowserParts parts_;
-    Globals& globals_;
+    const Scanner& scanner_;
 };
 
 } // namespace tarvelon

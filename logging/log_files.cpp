@@ -27,14 +27,14 @@ void LogFiles::writeLog(const std::string& listText, bool force) {
     }
     const std::string path = fileName();
     const std::size_t headingLength = listText.find(',') + 1;
-    const CaseRules& cases = globals_.cases;
+    const CaseRules& cases = globals.cases;
     std::string names = trim(std::string_view(listText).substr(headingLength));
     names = cases.replaceAll(names, "\" \"", ",");
     names = cases.replaceAll(names, "\" \"", ",");
     names = cases.replaceAll(names, "\"", "");
     names = cases.replaceAll(names, ", ", ",");
     names = cases.replaceAll(names, " ", ",");
-    if (!writeWholeFile(platform_.files, path, listText.substr(0, headingLength) + names + "\r\n")) {
+    if (!writeWholeFile(platform.files, path, listText.substr(0, headingLength) + names + "\r\n")) {
         throw Failure("The report cannot be written:\r\n" + path);
     }
 }
@@ -43,18 +43,18 @@ bool LogFiles::passesGate(const std::string& listText) {
     if (trim(listText).empty() || listText.find('.') == std::string::npos) {
         return false;
     }
-    if (globals_.app.shutAction != -1) {
-        globals_.shutDown.scanLogged = 1;
+    if (globals.app.shutAction != -1) {
+        globals.shutDown.scanLogged = 1;
     }
     return autoLogging_.value() != 0;
 }
 
 std::string LogFiles::fileName() const {
-    std::string name = reportDate(platform_.clock.dateText()) + "(" +
-                       reportTimeStored(globals_.cases, platform_.clock.timeText()) + ").log";
+    std::string name = reportDate(platform.clock.dateText()) + "(" +
+                       reportTimeStored(globals.cases, platform.clock.timeText()) + ").log";
     // Letters that the code page lacks come as "?", in the date or where other systems have AM and PM.
     std::replace_if(name.begin(), name.end(), fitsNoFileName, '_');
-    return globals_.app.appPath + "Data\\Log\\" + name;
+    return globals.app.appPath + "Data\\Log\\" + name;
 }
 
 } // namespace tarvelon

@@ -1,20 +1,19 @@
 #pragma once
 
+#include "core/services.h"
+
 #include <string>
 
 namespace tarvelon {
 
-struct Globals;
-struct Platform;
 class FlatCheck;
 
 /// Writes the reports about files that were handed to the scanners.
-class LogFiles {
+class LogFiles : Services {
 public:
-    LogFiles(const FlatCheck& autoLogging, Globals& globals, Platform& platform)
-        : autoLogging_(autoLogging)
-        , globals_(globals)
-        , platform_(platform) {}
+    LogFiles(const FlatCheck& autoLogging, const Services& services)
+        : Services(services)
+        , autoLogging_(autoLogging) {}
 
     /// Writes a report of one line: a heading that ends in the text's first comma, then the names, a comma
     /// between each two. The names may stand in quotes or not, with blanks between them; a blank in a name
@@ -30,8 +29,6 @@ private:
     bool passesGate(const std::string& listText);
 
     const FlatCheck& autoLogging_;
-    Globals& globals_;
-    Platform& platform_;
 };
 
 } // namespace tarvelon

@@ -25,11 +25,9 @@ const LocationRoot& rootOf(const Location& location) {
 
 } // namespace
 
-Detection::Detection(RegPageControls& screen, Globals& globals, Platform& platform, SettingsFile& settings)
-    : screen_(screen)
-    , globals_(globals)
-    , platform_(platform)
-    , settings_(settings) {}
+Detection::Detection(RegPageControls& screen, const Services& services)
+    : Services(services)
+    , screen_(screen) {}
 
 void Detection::setReg() {
     screen_.List2.clear();
@@ -42,7 +40,7 @@ void Detection::setReg() {
     }
     // Rows of the user's and the classes' keys carry the tail of the last warning of the local machine.
     std::string keyTail;
-    RegClass key(platform_.registry);
+    RegClass key(platform.registry);
     int groupIndex = 0;
     Registry::Key group = 0;
     for (const Location& location : locations) {
@@ -51,7 +49,7 @@ void Detection::setReg() {
         walk(location, groupIndex, key, keyTail);
     }
     showOutcome();
-    globals_.regWatch.regNew = false;
+    globals.regWatch.regNew = false;
 }
 
 void Detection::walk(const Location& location, int groupIndex, RegClass& key, std::string& keyTail) {
@@ -62,7 +60,7 @@ void Detection::walk(const Location& location, int groupIndex, RegClass& key, st
         if (value != normalCommand) {
             showEntry(location, groupIndex, name, " (" + value + ")", keyTail);
         }
-        platform_.messages.pump();
+        platform.messages.pump();
     }
     key.CloseRegistry();
 }
@@ -104,12 +102,12 @@ Detection::Found Detection::checkRegEntry(std::string& name, std::string& stored
         std::replace(text->begin(), text->end(), '\r', ' ');
         std::replace(text->begin(), text->end(), '\n', ' ');
     }
-    const std::string& file = globals_.app.regFile;
-    if (globals_.regWatch.regNew) {
-        settings_.writeEntry(file, name, storedText, location.section);
+    const std::string& file = globals.app.regFile;
+    if (globals.regWatch.regNew) {
+        settings.writeEntry(file, name, storedText, location.section);
         return Found::Nothing;
     }
-    const std::string entry = settings_.readIni(file, name, location.section);
+    const std::string entry = settings.readIni(file, name, location.section);
     if (entry.empty()) {
         return Found::New;
     }

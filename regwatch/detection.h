@@ -1,22 +1,21 @@
 #pragma once
 
+#include "core/services.h"
+
 #include <cstdint>
 #include <string>
 
 namespace tarvelon {
 
-struct Globals;
 struct Location;
-struct Platform;
 struct RegPageControls;
 class RegClass;
-class SettingsFile;
 
 /// Compares the watched locations with the snapshot: fills the tree with what they hold and the warnings with
 /// what is new or changed. While `regNew` is set it records instead.
-class Detection {
+class Detection : Services {
 public:
-    Detection(RegPageControls& screen, Globals& globals, Platform& platform, SettingsFile& settings);
+    Detection(RegPageControls& screen, const Services& services);
 
     /// One pass over all locations. Window messages run inside. A location that cannot be read is left empty.
     void setReg();
@@ -35,9 +34,6 @@ private:
     void showOutcome();
 
     RegPageControls& screen_;
-    Globals& globals_;
-    Platform& platform_;
-    SettingsFile& settings_;
 };
 
 } // namespace tarvelon

@@ -34,10 +34,13 @@ std::string before(const std::string& text, char mark) {
 
 } // namespace
 
-RegPage::RegPage(RegPageControls& screen, const RegPageParts& parts)
-    : screen_(screen)
-    , parts_(parts)
-    , globals_(parts.globals) {
+RegPage::RegPage(RegPageControls& screen, const Services& services, const Scanner& scanner,
+                 LogFiles& logFiles, Detection& detection)
+    : Services(services)
+    , screen_(screen)
+    , scanner_(scanner)
+    , logFiles_(logFiles)
+    , detection_(detection) {
     bind();
 }
 
@@ -67,7 +70,7 @@ void RegPage::Command1_Click() {
     screen_.Command11.Caption = scanOne;
     screen_.TreeView1.Visible = true;
     screen_.List6.Visible = false;
-    parts_.detection.setReg();
+    detection_.setReg();
 }
 
 // ---- Selection
@@ -87,7 +90,7 @@ void RegPage::List5_Click() {
         row += rowEnd;
         screen_.List5.replace(index, row);
     }
-    screen_.Text4.Caption = getBetween(globals_.cases, row, selEntry.size(), "\\", rowEnd) + ")";
+    screen_.Text4.Caption = getBetween(globals.cases, row, selEntry.size(), "\\", rowEnd) + ")";
     screen_.Label19.Caption = screen_.Text4.Caption();
     screen_.List5.ToolTip = row;
 }
@@ -103,7 +106,7 @@ void RegPage::TreeView1_NodeClick() {
     screen_.Label19.Caption = node->text;
     screen_.Text4.Caption = node->text;
     const std::string path = withBackslash(Tree::fullPath(*node));
-    selEntry = before(path, '\\') + "|" + getBetween(globals_.cases, path, 1, "\\", "\\");
+    selEntry = before(path, '\\') + "|" + getBetween(globals.cases, path, 1, "\\", "\\");
 }
 
 void RegPage::List6_Click() {
@@ -129,8 +132,8 @@ void RegPage::Command3_Click() {
 void RegPage::deleteValue(const std::string& root, const std::string& location) {
     const std::string name = trim(before(screen_.Label19.Caption(), '('));
     const std::string path = R"(Software\Microsoft\Windows\CurrentVersion\)" +
-                             getBetween(globals_.cases, location + "|", 1, "in ", "|");
-    const Answer answer = parts_.platform.dialogs.message(
+                             getBetween(globals.cases, location + "|", 1, "in ", "|");
+    const Answer answer = platform.dialogs.message(
         {.text = "WARNING!\r\nYou are about to Delete the key: " + name + "\r\nFrom: " + root + "\\" + path +
                  "\r\nDoing this may have unpredictable results!\r\n\r\nContinue?",
          .buttons = Buttons::YesNo});
@@ -138,7 +141,7 @@ void RegPage::deleteValue(const std::string& root, const std::string& location) 
         return;
     }
     {
-        RegClass key(parts_.platform.registry);
+        RegClass key(platform.registry);
         if (root == "HKEY_LOCAL_MACHINE") {
             key.OpenRegistry(Registry::localMachine, path);
         } else if (root == "HKEY_CURRENT_USER") {
@@ -154,13 +157,13 @@ void RegPage::deleteValue(const std::string& root, const std::string& location) 
 
 void RegPage::offerRegistryEditor() {
     const Answer answer =
-        parts_.platform.dialogs.message({.text = "This key will not be deleted.\r\nYou must change the value "
-                                                 "manually. Would you like to open the "
-                                                 "Registry for Editing now?",
-                                         .title = "Caution",
-                                         .buttons = Buttons::YesNo});
+        platform.dialogs.message({.text = "This key will not be deleted.\r\nYou must change the value "
+                                          "manually. Would you like to open the "
+                                          "Registry for Editing now?",
+                                  .title = "Caution",
+                                  .buttons = Buttons::YesNo});
     if (answer != Answer::No) {
-        parts_.platform.processes.start("regedit.exe", "", WindowStyle::MinimizedFocus);
+        platform.processes.start("regedit.exe", "", WindowStyle::MinimizedFocus);
     }
 }
 
@@ -171,14 +174,14 @@ void RegPage::Command11_Click() {
         cScnUpd_Click();
         return;
     }
-    const CutPath cut = cutToFilePath(screen_.Label19.Caption(), parts_.utilities);
+    const CutPath cut = cutToFilePath(screen_.Label19.Caption(), utilities);
     if (!cut.path) {
-        parts_.platform.dialogs.message({.text = "Cannot find file, please scan manually"});
+        platform.dialogs.message({.text = "Cannot find file, please scan manually"});
         return;
     }
     std::string path = *cut.path;
     if (path.find('"') == std::string::npos) {
-        path = parts_.scanner.quoted(parts_.scanner.shortened(path));
+        path = scanner_.quoted(scanner_.shortened(path));
     }
     runBoth({path});
 }
@@ -197,26 +200,26 @@ void RegPage::cScnUpd_Click() {
         refuseToAccept();
         return;
     }
-    globals_.regWatch.regNew = true;
-    parts_.detection.setReg();
+    globals.regWatch.regNew = true;
+    detection_.setReg();
     passOver([&] {
-        parts_.logFiles.writeLog(
+        logFiles_.writeLog(
             (pending ? "Precautionary Scan - These files were to be renamed/deleted/overwritten at startup,"
                      : "Registry Action - Scan and Update Multiple Entries,") +
             joined(files));
     });
-    globals_.regWatch.regNew = false;
+    globals.regWatch.regNew = false;
 }
 
 /// The rows stay as they are. In a shut-down nobody is asked, but the end must not say that all is clean.
 void RegPage::refuseToAccept() {
-    if (globals_.app.shutAction != -1) {
-        globals_.shutDown.scanLogged = 1;
+    if (globals.app.shutAction != -1) {
+        globals.shutDown.scanLogged = 1;
         return;
     }
     std::string exe;
     passOver([&] { exe = stored("ANTIVIRUS").exe; });
-    parts_.platform.dialogs.message({.text = couldNotBeExecuted(exe)});
+    platform.dialogs.message({.text = couldNotBeExecuted(exe)});
 }
 
 /// The row in the form that is scanned, which it also takes on the screen.
@@ -235,14 +238,13 @@ std::string RegPage::rowToScan(int row) {
 
 /// The row's file as it stands on a command line; empty when it cannot be found.
 std::string RegPage::fileOfRow(const std::string& row) {
-    const CutPath cut = cutToFilePath(row, parts_.utilities);
-    if (!cut.path && globals_.app.shutAction == -1) {
-        parts_.platform.dialogs.message(
+    const CutPath cut = cutToFilePath(row, utilities);
+    if (!cut.path && globals.app.shutAction == -1) {
+        platform.dialogs.message(
             {.text = "Unable to find the file: " + cut.text + "\r\nPlease scan manually."});
     }
-    const std::string path =
-        parts_.scanner.shortened(replaceExact(cut.path.value_or(std::string()), "\"", ""));
-    return path.empty() ? path : parts_.scanner.quoted(path);
+    const std::string path = scanner_.shortened(replaceExact(cut.path.value_or(std::string()), "\"", ""));
+    return path.empty() ? path : scanner_.quoted(path);
 }
 
 /// A scanner that is not there goes unnoticed. False when one that is there did not get all of the files.
@@ -262,14 +264,14 @@ bool RegPage::runBoth(const std::vector<std::string>& files) const {
 bool RegPage::run(const ScannerCommand& scanner, const std::string& list) const {
     bool started = false;
     passOver([&] {
-        parts_.scanner.runScanner(scanner.exe, scanner.arguments(list));
+        scanner_.runScanner(scanner.exe, scanner.arguments(list));
         started = true;
     });
-    return started || !parts_.utilities.fileThere(scanner.exe);
+    return started || !utilities.fileThere(scanner.exe);
 }
 
 ScannerCommand RegPage::stored(const std::string& request) const {
-    const ExeAndArgs scanner = splitExeAndArgs(parts_.settings.getSetting(request)).value_or(ExeAndArgs{});
+    const ExeAndArgs scanner = splitExeAndArgs(settings.getSetting(request)).value_or(ExeAndArgs{});
     return {scanner.exe, scanner.args};
 }
 
@@ -284,10 +286,10 @@ void RegPage::cMod_Click() {
     screen_.List6.clear();
     screen_.List6.add(
         "These files are to be Deleted or Overwritten on the next Reboot (Wininit.ini and Registry).");
-    for (const PendingFile& entry : wininitEntries(globals_.cases, parts_.platform, parts_.utilities)) {
+    for (const PendingFile& entry : wininitEntries(globals.cases, platform, utilities)) {
         screen_.List6.add(entry.file + (entry.toBeDeleted ? deletedMark : overwrittenMark));
     }
-    for (const auto& file : pendingRenames(globals_.cases, parts_.platform)) {
+    for (const auto& file : pendingRenames(globals.cases, platform)) {
         if (file) {
             screen_.List6.add(*file);
         }
@@ -295,7 +297,7 @@ void RegPage::cMod_Click() {
     if (screen_.List6.count() >= 2) {
         screen_.Command11.Enabled = true;
     } else {
-        parts_.platform.dialogs.message({.text = "No files will be modified or deleted on Restart!"});
+        platform.dialogs.message({.text = "No files will be modified or deleted on Restart!"});
     }
 }
 

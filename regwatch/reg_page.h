@@ -1,36 +1,24 @@
 #pragma once
 
+#include "core/services.h"
+
 #include <string>
 #include <vector>
 
 namespace tarvelon {
 
-struct Globals;
 struct RegPageControls;
-struct Platform;
 struct ScannerCommand;
 class Detection;
 class LogFiles;
 class Scanner;
-class SettingsFile;
-class Utilities;
-
-/// What the page works with.
-struct RegPageParts {
-    Globals& globals;
-    Platform& platform;
-    SettingsFile& settings;
-    const Utilities& utilities;
-    const Scanner& scanner;
-    LogFiles& logFiles;
-    Detection& detection;
-};
 
 /// The page of the watched registry locations: selecting, deleting, scanning and accepting entries, and the
 /// view of what is pending for the next boot.
-class RegPage {
+class RegPage : Services {
 public:
-    RegPage(RegPageControls& screen, const RegPageParts& parts);
+    RegPage(RegPageControls& screen, const Services& services, const Scanner& scanner, LogFiles& logFiles,
+            Detection& detection);
 
     /// The page comes to light: its lists are as they were left, and nothing can be acted on yet.
     void opened();
@@ -60,8 +48,9 @@ private:
     void enableEntryButtons(bool enabled);
 
     RegPageControls& screen_;
-    RegPageParts parts_;
-    Globals& globals_;
+    const Scanner& scanner_;
+    LogFiles& logFiles_;
+    Detection& detection_;
     std::string selEntry; ///< The selection: root, "|", label of the location.
 };
 

@@ -10,21 +10,19 @@
 namespace tarvelon {
 
 void SnapshotFile::checkRegFile() {
-    const std::string& path = globals_.app.regFile;
-    if (platform_.files.open(path, OpenMode::Read)) {
+    const std::string& path = globals.app.regFile;
+    if (platform.files.open(path, OpenMode::Read)) {
         return;
     }
     std::string text;
     for (const Location& location : locations) {
         text.append("[").append(location.section).append("]\r\n\r\n");
     }
-    if (!writeWholeFile(platform_.files, path, text)) {
+    if (!writeWholeFile(platform.files, path, text)) {
         throw Failure("The registry snapshot cannot be made:\r\n" + path);
     }
-    globals_.regWatch.regNew = true;
-    if (setReg) {
-        setReg();
-    }
+    globals.regWatch.regNew = true;
+    setReg();
 }
 
 } // namespace tarvelon

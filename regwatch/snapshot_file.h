@@ -1,18 +1,16 @@
 #pragma once
 
+#include "core/services.h"
+
 #include <functional>
 
 namespace tarvelon {
 
-struct Globals;
-struct Platform;
-
 /// The registry snapshot's file.
-class SnapshotFile {
+class SnapshotFile : Services {
 public:
-    SnapshotFile(Globals& globals, Platform& platform)
-        : globals_(globals)
-        , platform_(platform) {}
+    explicit SnapshotFile(const Services& services)
+        : Services(services) {}
 
     /// A pass over the watched locations; while `regNew` is set it records what they hold.
     std::function<void()> setReg;
@@ -22,8 +20,6 @@ public:
     void checkRegFile();
 
 private:
-    Globals& globals_;
-    Platform& platform_;
 };
 
 } // namespace tarvelon

@@ -19,15 +19,18 @@
 namespace tarvelon {
 
 Sequence::Sequence(LogoffScreen& logoff, SProgScreen& sProg, const ListBox& warnings,
-                   const SAvirScreen& scanners, const SequenceParts& parts)
-    : logoff_(logoff)
+                   const SAvirScreen& scanners, const Services& services, const Scanner& scanner,
+                   LogFiles& logFiles, PowerAction& power)
+    : Services(services)
+    , logoff_(logoff)
     , sProg_(sProg)
     , warnings_(warnings)
     , scanners_(scanners)
-    , parts_(parts)
-    , globals_(parts.globals) {
+    , scanner_(scanner)
+    , logFiles_(logFiles)
+    , power_(power) {
     logoff_.Timer1.onTick = [this] { Timer1_Tick(); };
-    sProg_.Command1.onClick = [this] { parts_.power.ShutDown(globals_.app.shutAction); };
+    sProg_.Command1.onClick = [this] { power_.ShutDown(globals.app.shutAction); };
     sProg_.onQueryClose = [this] { return queryClose(); };
 }
 
@@ -41,7 +44,7 @@ void Sequence::CheckWinInit() {
     sProg_.load();
     status("Checking Startup/Delete/Replace Entries...");
     sProg_.ProgressBar1.setValue(0);
-    if (wininitThere(parts_.utilities)) {
+    if (wininitThere(utilities)) {
         scanWininit();
     }
     scanPendingRenames();
@@ -50,24 +53,23 @@ void Sequence::CheckWinInit() {
 
 void Sequence::scanWininit() {
     std::vector<std::string> batch;
-    for (const PendingFile& entry : wininitEntries(globals_.cases, parts_.platform, parts_.utilities)) {
+    for (const PendingFile& entry : wininitEntries(globals.cases, platform, utilities)) {
         batch.push_back(item(entry.file));
     }
     runScanners(batch);
     const std::string all = joined(batch);
     if (!all.empty()) {
         passOver([&] {
-            parts_.logFiles.writeLog(
-                "The following Files were scanned as a precaution (being renamed or deleted "
-                "from Wininit)," +
-                all);
+            logFiles_.writeLog("The following Files were scanned as a precaution (being renamed or deleted "
+                               "from Wininit)," +
+                               all);
         });
     }
     sProg_.ProgressBar1.setValue(50);
 }
 
 void Sequence::scanPendingRenames() {
-    const auto files = pendingRenames(globals_.cases, parts_.platform);
+    const auto files = pendingRenames(globals.cases, platform);
     if (files.empty()) {
         return;
     }
@@ -80,7 +82,7 @@ void Sequence::scanPendingRenames() {
             ++taken;
             batch.push_back(item(*files[i]));
         }
-        if (i + 1 == files.size() || taken >= globals_.settings.passCount) {
+        if (i + 1 == files.size() || taken >= globals.settings.passCount) {
             runScanners(batch);
             collected += joined(batch);
             batch.clear();
@@ -90,18 +92,17 @@ void Sequence::scanPendingRenames() {
     sProg_.ProgressBar1.setValue(100);
     if (!collected.empty()) {
         passOver([&] {
-            parts_.logFiles.writeLog(
-                "The following Files were scanned as a precaution (being renamed or deleted "
-                "from the Registry)," +
-                collected);
+            logFiles_.writeLog("The following Files were scanned as a precaution (being renamed or deleted "
+                               "from the Registry)," +
+                               collected);
         });
     }
 }
 
 /// The file as it stands on a command line; empty when it is gone.
 std::string Sequence::item(const std::string& file) const {
-    const std::string name = parts_.scanner.shortened(file);
-    return parts_.utilities.fileThere(name) ? parts_.scanner.quoted(name) + " " : std::string();
+    const std::string name = scanner_.shortened(file);
+    return utilities.fileThere(name) ? scanner_.quoted(name) + " " : std::string();
 }
 
 /// The second scanner starts even when there is nothing to hand over. One that cannot be started goes
@@ -110,7 +111,7 @@ void Sequence::runScanners(const std::vector<std::string>& batch) {
     const ScannerPair scanners{{scanners_.Text5.Caption(), scanners_.Text6.Caption()},
                                {scanners_.Text1.Caption(), scanners_.Text2.Caption()}};
     const auto run = [this](const ScannerCommand& scanner, const std::string& list) {
-        passOver([&] { parts_.scanner.runScanner(scanner.exe, scanner.arguments(list)); });
+        passOver([&] { scanner_.runScanner(scanner.exe, scanner.arguments(list)); });
     };
     for (const std::string& list : scanners.lists(batch)) {
         if (!list.empty()) {
@@ -125,7 +126,7 @@ void Sequence::runScanners(const std::vector<std::string>& batch) {
 // ---- The scans
 
 void Sequence::PreShut1() {
-    globals_.app.autoLoadRun = true;
+    globals.app.autoLoadRun = true;
     logoff_.hide();
     status("Scanning Files...");
     try {
@@ -139,11 +140,11 @@ void Sequence::PreShut1() {
 
 /// No scan's end will bring what follows.
 void Sequence::goOnWithoutScan(const Failure& failure) {
-    tellUnscanned(parts_.platform, failure);
-    if (globals_.app.shutAction == -1) {
-        parts_.platform.processes.end();
+    tellUnscanned(platform, failure);
+    if (globals.app.shutAction == -1) {
+        platform.processes.end();
     }
-    globals_.shutDown.scanLogged = 1; // The machine must not go down as if all were well.
+    globals.shutDown.scanLogged = 1; // The machine must not go down as if all were well.
     passOver([this] { PreShut2(); });
 }
 
@@ -160,16 +161,16 @@ void Sequence::PreShut2() {
 // ---- The end
 
 void Sequence::startCountDown() {
-    if (globals_.shutDown.scanLogged == 0) {
+    if (globals.shutDown.scanLogged == 0) {
         status("All scans completed.  No suspicious files found!");
-        parts_.power.ShutDown(globals_.app.shutAction);
+        power_.ShutDown(globals.app.shutAction);
         return;
     }
     status("Some files were scanned...Shutting Down in 2 minutes");
     sProg_.Command1.Visible = true;
     sProg_.ProgressBar1.setValue(0);
     sProg_.ProgressBar1.setMax(120);
-    logoff_.Timer1.Enabled = globals_.shutDown.scanLogged == 1;
+    logoff_.Timer1.Enabled = globals.shutDown.scanLogged == 1;
 }
 
 /// The clock goes on behind the second minute. The action comes once: refused, it is not tried again, and a
@@ -181,15 +182,14 @@ void Sequence::Timer1_Tick() {
         ++minutesPast;
     }
     if (minutesPast == 2 && secondsPast == 0) {
-        parts_.power.ShutDown(globals_.app.shutAction);
+        power_.ShutDown(globals.app.shutAction);
     }
 }
 
 bool Sequence::queryClose() {
-    const Answer answer =
-        parts_.platform.dialogs.message({.text = "Cancel Shutdown?", .buttons = Buttons::YesNo});
+    const Answer answer = platform.dialogs.message({.text = "Cancel Shutdown?", .buttons = Buttons::YesNo});
     if (answer == Answer::Yes) {
-        parts_.platform.processes.end();
+        platform.processes.end();
     }
     return false;
 }

@@ -1,13 +1,13 @@
 #pragma once
 
+#include "core/services.h"
+
 #include <functional>
 #include <string>
 
 namespace tarvelon {
 
-struct Globals;
 struct LogoffScreen;
-struct Platform;
 struct SAvirScreen;
 struct SProgScreen;
 class Failure;
@@ -15,7 +15,6 @@ class ListBox;
 class LogFiles;
 class PowerAction;
 class Scanner;
-class Utilities;
 
 /// What the sequence calls in other subsystems.
 struct SequenceHooks {
@@ -24,23 +23,13 @@ struct SequenceHooks {
     std::function<void()> cScnUpd; ///< Scans and accepts the registry warnings.
 };
 
-/// What the sequence works with.
-struct SequenceParts {
-    Globals& globals;
-    Platform& platform;
-    const Utilities& utilities;
-    const Scanner& scanner;
-    LogFiles& logFiles;
-    PowerAction& power;
-};
-
 /// The scans between the choice of a shut-down and the machine going down: files pending for the next boot,
 /// the integrity scan, the registry; then the power action, at once when nothing was logged, after two
 /// minutes otherwise.
-class Sequence {
+class Sequence : Services {
 public:
     Sequence(LogoffScreen& logoff, SProgScreen& sProg, const ListBox& warnings, const SAvirScreen& scanners,
-             const SequenceParts& parts);
+             const Services& services, const Scanner& scanner, LogFiles& logFiles, PowerAction& power);
 
     SequenceHooks hooks;
 
@@ -68,8 +57,9 @@ private:
     SProgScreen& sProg_;
     const ListBox& warnings_; ///< Of the watched registry locations.
     const SAvirScreen& scanners_;
-    SequenceParts parts_;
-    Globals& globals_;
+    const Scanner& scanner_;
+    LogFiles& logFiles_;
+    PowerAction& power_;
 
     int secondsPast = 0;
     int minutesPast = 0;

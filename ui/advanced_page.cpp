@@ -43,12 +43,9 @@ void showWarning(const CheckBox& clicked, const CheckBox& other, Label& warning)
 
 } // namespace
 
-AdvancedPage::AdvancedPage(AdvancedControls& screen, Globals& globals, Platform& platform,
-                           SettingsFile& settings, Checksum& checksum)
-    : screen_(screen)
-    , globals_(globals)
-    , platform_(platform)
-    , settings_(settings)
+AdvancedPage::AdvancedPage(AdvancedControls& screen, const Services& services, Checksum& checksum)
+    : Services(services)
+    , screen_(screen)
     , checksum_(checksum) {
     screen_.cSave2.onClick = [this] { cSave2_Click(); };
     screen_.Check10.onClick = [this] { showWarning(screen_.Check10, screen_.Check11, screen_.Label1); };
@@ -56,8 +53,8 @@ AdvancedPage::AdvancedPage(AdvancedControls& screen, Globals& globals, Platform&
 }
 
 void AdvancedPage::opened() {
-    const Settings& values = globals_.settings;
-    const std::string algorithm = globals_.cases.upper(trim(values.algoName));
+    const Settings& values = globals.settings;
+    const std::string algorithm = globals.cases.upper(trim(values.algoName));
     choose(screen_.bufferOptions, values.readBuffer);
     choose(screen_.passOptions, values.passCount);
     choose(screen_.algorithmOptions, values.algoName.empty() ? "CRC32" : algorithm);
@@ -65,22 +62,22 @@ void AdvancedPage::opened() {
 }
 
 void AdvancedPage::cSave2_Click() {
-    Settings& values = globals_.settings;
+    Settings& values = globals.settings;
     takeChosen(screen_.bufferOptions, values.readBuffer);
     takeChosen(screen_.passOptions, values.passCount);
     takeChosen(screen_.algorithmOptions, values.algoName);
     checksum_.setDatName();
     values.useWsh = static_cast<std::int16_t>(screen_.wsh.value());
 
-    settings_.checkSettFile();
+    settings.checkSettFile();
     const auto write = [this](const char* key, const std::string& value) {
-        settings_.writeEntry(globals_.app.settFile, key, value, "Tarvelon");
+        settings.writeEntry(globals.app.settFile, key, value, "Tarvelon");
     };
     write("advanced", std::to_string(values.readBuffer) + "," + std::to_string(values.passCount) + "," +
                           std::to_string(values.useWsh));
     write("antivirus2", joinValues(screen_.shellChecks));
     write("algo", values.algoName);
-    platform_.dialogs.message({.text = "Save Success!"});
+    platform.dialogs.message({.text = "Save Success!"});
 }
 
 } // namespace tarvelon

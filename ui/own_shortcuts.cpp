@@ -9,34 +9,32 @@
 
 namespace tarvelon {
 
-OwnShortcuts::OwnShortcuts(Globals& globals, Platform& platform, const Utilities& utilities)
-    : globals_(globals)
-    , platform_(platform)
-    , utilities_(utilities) {}
+OwnShortcuts::OwnShortcuts(const Services& services)
+    : Services(services) {}
 
 void OwnShortcuts::createAutoLoad() {
-    const std::string path = autoLoadShortcut(platform_);
-    if (globals_.settings.useWsh == 1 || !utilities_.fileThere(path)) {
+    const std::string path = autoLoadShortcut(platform);
+    if (globals.settings.useWsh == 1 || !utilities.fileThere(path)) {
         make(path, {"/r", "Tarvelon"});
     }
 }
 
 void OwnShortcuts::cCreateSS_Click() {
     const std::string path = shutDownShortcut();
-    if (!utilities_.fileThere(path)) {
+    if (!utilities.fileThere(path)) {
         make(path, {"/s", "SecureShutDown"});
     }
-    platform_.dialogs.message({.text = "Success!"});
+    platform.dialogs.message({.text = "Success!"});
 }
 
 void OwnShortcuts::make(const std::string& linkPath, const Kind& kind) {
     constexpr std::int32_t show = 5;
     const std::string target = program();
-    if (globals_.settings.useWsh == 1) {
-        makeShortcutWsh(platform_, globals_.cases, linkPath, kind.description, target, kind.command);
+    if (globals.settings.useWsh == 1) {
+        makeShortcutWsh(platform, globals.cases, linkPath, kind.description, target, kind.command);
     } else {
         // The blank has always stood in links of this kind; the command line is trimmed when it is read.
-        makeShortcut(platform_, linkPath, target, "", std::string(" ") + kind.command, target, 0, show);
+        makeShortcut(platform, linkPath, target, "", std::string(" ") + kind.command, target, 0, show);
     }
 }
 
@@ -44,28 +42,28 @@ std::string OwnShortcuts::shutDownShortcut() {
     constexpr const char* fileName = "SecureShutDown.lnk";
     constexpr int desktop = 0;
     const Answer answer =
-        platform_.dialogs.message({.text = "Tarvelon will now create a shortcut for you to use the Secure "
-                                           "ShutDown and Scan Feature.\r\n"
-                                           "Would you like this shortcut on your Desktop?",
-                                   .buttons = Buttons::YesNo});
+        platform.dialogs.message({.text = "Tarvelon will now create a shortcut for you to use the Secure "
+                                          "ShutDown and Scan Feature.\r\n"
+                                          "Would you like this shortcut on your Desktop?",
+                                  .buttons = Buttons::YesNo});
     if (answer != Answer::Yes) {
-        platform_.dialogs.message(
+        platform.dialogs.message(
             {.text = "Tarvelon will now create a SecureShutDown shortcut in your Tarvelon directory."});
-        return globals_.app.appPath + fileName;
+        return globals.app.appPath + fileName;
     }
-    const std::string folder = utilities_.getSpecialFolder(desktop);
+    const std::string folder = utilities.getSpecialFolder(desktop);
     // A lone backslash is what a folder becomes that the system does not name.
     if (folder.empty() || folder == "\\") {
-        platform_.dialogs.message({.text = "Error: Could not find Desktop directory...Creating shortcut in "
-                                           "Tarvelon directory."});
-        return globals_.app.appPath + fileName;
+        platform.dialogs.message({.text = "Error: Could not find Desktop directory...Creating shortcut in "
+                                          "Tarvelon directory."});
+        return globals.app.appPath + fileName;
     }
     return withBackslash(folder) + fileName;
 }
 
 std::string OwnShortcuts::program() {
-    const std::string name = bareName(platform_.processes.programFile());
-    return globals_.app.appPath + name.substr(0, name.rfind('.')) + ".exe";
+    const std::string name = bareName(platform.processes.programFile());
+    return globals.app.appPath + name.substr(0, name.rfind('.')) + ".exe";
 }
 
 } // namespace tarvelon

@@ -1,18 +1,16 @@
 #pragma once
 
+#include "core/services.h"
+
 #include <string>
 
 namespace tarvelon {
 
-struct Globals;
-struct Platform;
-class Utilities;
-
 /// The two shortcuts that the program makes to itself, in the way that the settings say. A shortcut that
 /// cannot be made is not reported: the user sees it missing and tries the other way.
-class OwnShortcuts {
+class OwnShortcuts : Services {
 public:
-    OwnShortcuts(Globals& globals, Platform& platform, const Utilities& utilities);
+    explicit OwnShortcuts(const Services& services);
 
     /// The one in the Startup folder, that runs the check at every log-on. The shell-link way leaves a file
     /// alone that is there already.
@@ -30,10 +28,6 @@ private:
     void make(const std::string& linkPath, const Kind& kind);
     std::string shutDownShortcut();
     std::string program();
-
-    Globals& globals_;
-    Platform& platform_;
-    const Utilities& utilities_;
 };
 
 } // namespace tarvelon

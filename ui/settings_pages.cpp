@@ -40,15 +40,11 @@ bool tick(const Boxes& boxes, const std::string& list) {
 } // namespace
 
 SettingsPages::SettingsPages(SettingsControls& screen, AdvancedControls& advanced, SAvirScreen& scanners,
-                             Globals& globals, Platform& platform, SettingsFile& settings,
-                             const Utilities& utilities, OwnShortcuts& shortcuts)
-    : screen_(screen)
+                             const Services& services, OwnShortcuts& shortcuts)
+    : Services(services)
+    , screen_(screen)
     , advanced_(advanced)
     , scanners_(scanners)
-    , globals_(globals)
-    , platform_(platform)
-    , settings_(settings)
-    , utilities_(utilities)
     , shortcuts_(shortcuts) {
     screen_.cSave.onClick = [this] { cSave_Click(); };
 }
@@ -58,28 +54,27 @@ void SettingsPages::loadSettings() {
         if (!loadAutoLoad() || !loadAdvanced()) {
             return;
         }
-        globals_.settings.autoScanFailed = screen_.Check8.value() == 1;
+        globals.settings.autoScanFailed = screen_.Check8.value() == 1;
         passOver([this] {
-            fillScannerFields(settings_.getSetting("ANTIVIRUS"), scanners_.Text5, scanners_.Text6);
+            fillScannerFields(settings.getSetting("ANTIVIRUS"), scanners_.Text5, scanners_.Text6);
         });
-        passOver(
-            [this] { fillScannerFields(settings_.getSetting("AV2"), scanners_.Text1, scanners_.Text2); });
+        passOver([this] { fillScannerFields(settings.getSetting("AV2"), scanners_.Text1, scanners_.Text2); });
         if (!loadShellOptions()) {
             return;
         }
-        globals_.settings.algoName = settings_.getSetting("ALGO");
+        globals.settings.algoName = settings.getSetting("ALGO");
     });
 }
 
 bool SettingsPages::loadAutoLoad() {
-    screen_.Check1.setValue(utilities_.fileThere(autoLoadShortcut(platform_)));
-    return tick(screen_.autoLoadChecks, settings_.getSetting("GETSETT")) &&
-           tick(screen_.shutDownChecks, settings_.getSetting("GETSETT2"));
+    screen_.Check1.setValue(utilities.fileThere(autoLoadShortcut(platform)));
+    return tick(screen_.autoLoadChecks, settings.getSetting("GETSETT")) &&
+           tick(screen_.shutDownChecks, settings.getSetting("GETSETT2"));
 }
 
 bool SettingsPages::loadAdvanced() {
-    const std::vector<std::string> positions = split(settings_.getSetting("ADV"), ',');
-    Settings& values = globals_.settings;
+    const std::vector<std::string> positions = split(settings.getSetting("ADV"), ',');
+    Settings& values = globals.settings;
     for (std::size_t i = 0; i < 3 && i < positions.size(); ++i) {
         const auto number = toNumber(positions[i]);
         const bool fits = number && (i < 2 || (*number >= std::numeric_limits<std::int16_t>::min() &&
@@ -102,30 +97,30 @@ bool SettingsPages::loadAdvanced() {
 }
 
 bool SettingsPages::loadShellOptions() {
-    if (!tick(advanced_.shellChecks, settings_.getSetting("ANTIVIRUS2"))) {
+    if (!tick(advanced_.shellChecks, settings.getSetting("ANTIVIRUS2"))) {
         return false;
     }
-    globals_.settings.quoteChar = advanced_.Check10.value() != 0 ? "\"" : "";
-    globals_.settings.shortPaths = advanced_.Check11.value() != 0;
+    globals.settings.quoteChar = advanced_.Check10.value() != 0 ? "\"" : "";
+    globals.settings.shortPaths = advanced_.Check11.value() != 0;
     return true;
 }
 
 /// Every save starts from no shortcut, so that an old one is never left in place of a new one. Whether the
 /// shortcut and the settings reached the disk is not looked at.
 void SettingsPages::cSave_Click() {
-    settings_.checkSettFile();
-    const std::string shortcut = autoLoadShortcut(platform_);
-    if (utilities_.fileThere(shortcut)) {
-        platform_.files.remove(shortcut);
+    settings.checkSettFile();
+    const std::string shortcut = autoLoadShortcut(platform);
+    if (utilities.fileThere(shortcut)) {
+        platform.files.remove(shortcut);
     }
     if (screen_.Check1.value() == 1) {
         shortcuts_.createAutoLoad();
     }
-    const std::string& file = globals_.app.settFile;
-    settings_.writeEntry(file, "settings", joinValues(screen_.autoLoadChecks), "Tarvelon");
-    settings_.writeEntry(file, "settings2", joinValues(screen_.shutDownChecks), "Tarvelon");
-    globals_.settings.autoScanFailed = screen_.Check8.value() == 1;
-    platform_.dialogs.message({.text = "Settings Saved Successfully"});
+    const std::string& file = globals.app.settFile;
+    settings.writeEntry(file, "settings", joinValues(screen_.autoLoadChecks), "Tarvelon");
+    settings.writeEntry(file, "settings2", joinValues(screen_.shutDownChecks), "Tarvelon");
+    globals.settings.autoScanFailed = screen_.Check8.value() == 1;
+    platform.dialogs.message({.text = "Settings Saved Successfully"});
 }
 
 } // namespace tarvelon

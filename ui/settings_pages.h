@@ -1,24 +1,21 @@
 #pragma once
 
+#include "core/services.h"
+
 #include <string>
 
 namespace tarvelon {
 
 struct AdvancedControls;
-struct Globals;
-struct Platform;
 struct SAvirScreen;
 struct SettingsControls;
 class OwnShortcuts;
-class SettingsFile;
-class Utilities;
 
 /// The settings page and the advanced page of the main window.
-class SettingsPages {
+class SettingsPages : Services {
 public:
     SettingsPages(SettingsControls& screen, AdvancedControls& advanced, SAvirScreen& scanners,
-                  Globals& globals, Platform& platform, SettingsFile& settings, const Utilities& utilities,
-                  OwnShortcuts& shortcuts);
+                  const Services& services, OwnShortcuts& shortcuts);
 
     /// Fills both pages, the scanner fields and every global that depends on the settings from the settings
     /// file. A list with fewer positions leaves the rest as it is. A value that cannot be taken ends the
@@ -34,10 +31,6 @@ private:
     SettingsControls& screen_;
     AdvancedControls& advanced_;
     SAvirScreen& scanners_;
-    Globals& globals_;
-    Platform& platform_;
-    SettingsFile& settings_;
-    const Utilities& utilities_;
     OwnShortcuts& shortcuts_;
 };
 

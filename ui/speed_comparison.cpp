@@ -30,11 +30,11 @@ constexpr std::int32_t kilobytes(std::int32_t bytes) {
 /// What the comparison borrows while it runs: the button, the list and the read buffer.
 class SpeedComparison::Session {
 public:
-    Session(AdvancedControls& screen, Settings& settings)
+    Session(AdvancedControls& screen, Settings& values)
         : screen_(screen)
-        , settings_(settings)
-        , readBuffer_(settings.readBuffer) {
-        screen_.cSpeeds.Caption = "Testing... (" + settings_.algoName + ")";
+        , values_(values)
+        , readBuffer_(values.readBuffer) {
+        screen_.cSpeeds.Caption = "Testing... (" + values_.algoName + ")";
         screen_.cSpeeds.Enabled = false;
         screen_.List1.clear();
         screen_.List1.Enabled = false;
@@ -43,31 +43,29 @@ public:
     Session(const Session&) = delete;
     ~Session() {
         screen_.List1.Enabled = true;
-        settings_.readBuffer = readBuffer_;
+        values_.readBuffer = readBuffer_;
         screen_.cSpeeds.Caption = "Compare Speeds";
         screen_.cSpeeds.Enabled = true;
     }
 
 private:
     AdvancedControls& screen_;
-    Settings& settings_;
+    Settings& values_;
     std::int32_t readBuffer_;
 };
 
-SpeedComparison::SpeedComparison(AdvancedControls& screen, Globals& globals, Platform& platform,
-                                 Checksum& checksum)
-    : screen_(screen)
-    , globals_(globals)
-    , platform_(platform)
+SpeedComparison::SpeedComparison(AdvancedControls& screen, const Services& services, Checksum& checksum)
+    : Services(services)
+    , screen_(screen)
     , checksum_(checksum) {
     screen_.cSpeeds.onClick = [this] { cSpeeds_Click(); };
     screen_.List1.onClick = [this] { List1_Click(); };
 }
 
 void SpeedComparison::cSpeeds_Click() {
-    const Session session(screen_, globals_.settings);
-    const std::string file = globals_.app.appPath + "TarvelonLow.exe";
-    const auto length = platform_.files.length(file);
+    const Session session(screen_, globals.settings);
+    const std::string file = globals.app.appPath + "TarvelonLow.exe";
+    const auto length = platform.files.length(file);
     if (!length) {
         throw Failure("Cannot read " + file);
     }
@@ -81,7 +79,7 @@ void SpeedComparison::run(Test& test, const std::string& file, std::uint64_t len
     test.quickest.reset();
     float bestTime = 999;
     for (std::size_t i = 0; i < bufferSizes.size(); ++i) {
-        globals_.settings.readBuffer = bufferSizes[i];
+        globals.settings.readBuffer = bufferSizes[i];
         const float elapsed = measure(file, test.repetitions);
         screen_.List1.add("Test " + std::to_string(test.number) + " Buffer (" +
                           std::to_string(kilobytes(bufferSizes[i])) + " Kb) " + std::to_string(length) +
@@ -93,7 +91,7 @@ void SpeedComparison::run(Test& test, const std::string& file, std::uint64_t len
             test.quickest = i;
         }
         draw(test);
-        platform_.messages.pump();
+        platform.messages.pump();
     }
     const std::int32_t bestSize = test.quickest ? kilobytes(bufferSizes[*test.quickest]) : 0;
     screen_.List1.add("Quickest Calculation at: " + figureText(bestTime) +
@@ -106,7 +104,7 @@ void SpeedComparison::run(Test& test, const std::string& file, std::uint64_t len
 float SpeedComparison::measure(const std::string& file, int repetitions) {
     const auto now = [this] {
         // Through memory: a processor's registers may keep more digits than a float has.
-        const volatile auto seconds = static_cast<float>(platform_.clock.secondsSinceMidnight());
+        const volatile auto seconds = static_cast<float>(platform.clock.secondsSinceMidnight());
         return seconds;
     };
     const float start = now();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/services.h"
+
 #include <array>
 #include <cstdint>
 #include <optional>
@@ -10,15 +12,13 @@ namespace tarvelon {
 
 class Checksum;
 struct AdvancedControls;
-struct Globals;
-struct Platform;
 
 /// Compare Speeds: how long the checksum of the program's own file takes with each size of the read buffer.
 /// Three tests, of more and more repetitions. Beside the report a chart shows the test that runs, afterwards
 /// the last one, or that of the row which the user selects.
-class SpeedComparison {
+class SpeedComparison : Services {
 public:
-    SpeedComparison(AdvancedControls& screen, Globals& globals, Platform& platform, Checksum& checksum);
+    SpeedComparison(AdvancedControls& screen, const Services& services, Checksum& checksum);
 
 private:
     class Session;
@@ -37,8 +37,6 @@ private:
     void draw(const Test& test);
 
     AdvancedControls& screen_;
-    Globals& globals_;
-    Platform& platform_;
     Checksum& checksum_;
     std::array<Test, 3> tests_{{{1, 5, {}, {}}, {2, 10, {}, {}}, {3, 100, {}, {}}}};
 };

@@ -27,10 +27,11 @@ constexpr const char* noScannerNotice = "You didn't choose an anti-virus softwar
 
 } // namespace
 
-Wizard::Wizard(WizardScreen& screen, const WizardParts& parts)
-    : screen_(screen)
-    , parts_(parts)
-    , globals_(parts.globals) {
+Wizard::Wizard(WizardScreen& screen, const Services& services, const Scanner& scanner, SAvirScreen& scanners)
+    : Services(services)
+    , screen_(screen)
+    , scanner_(scanner)
+    , scanners_(scanners) {
     bind();
 }
 
@@ -54,7 +55,7 @@ void Wizard::bind() {
     screen_.desc.onMouseMove = plain;
     screen_.locate.onClick = [this] { locate_Click(); };
     screen_.helpme.onClick = [this] { hooks.showCatalogue(); };
-    screen_.Command1.onClick = [this] { parts_.scanner.test(screen_.vpath.Caption()); };
+    screen_.Command1.onClick = [this] { scanner_.test(screen_.vpath.Caption()); };
     screen_.cButton1.onClick = [this] { hooks.cCreateSS(); };
     screen_.Command2.onClick = [this] { Command2_Click(); };
 }
@@ -86,12 +87,12 @@ void Wizard::LoadUp() {
     page_ = 0;
     norms();
     screen_.Label1.Visible = true;
-    screen_.aload.setValue(parts_.utilities.fileThere(autoLoadShortcut(parts_.platform)));
-    const std::vector<std::string> values = split(parts_.settings.getSetting("GETSETT"), ',');
+    screen_.aload.setValue(utilities.fileThere(autoLoadShortcut(platform)));
+    const std::vector<std::string> values = split(settings.getSetting("GETSETT"), ',');
     for (std::size_t i = 0; i < screen_.settingChecks.size() && i < values.size(); ++i) {
         screen_.settingChecks[i]->setValue(toNumber(values[i]).value_or(0) != 0);
     }
-    fillScannerFields(parts_.settings.getSetting("ANTIVIRUS"), screen_.vpath, screen_.varg);
+    fillScannerFields(settings.getSetting("ANTIVIRUS"), screen_.vpath, screen_.varg);
     NextFrame();
 }
 
@@ -122,7 +123,7 @@ void Wizard::NextFrame() {
     switch (page_) {
     case 0:
         s.Label2.Visible = false;
-        startTime_ = static_cast<std::int32_t>(std::nearbyint(parts_.platform.clock.secondsSinceMidnight()));
+        startTime_ = static_cast<std::int32_t>(std::nearbyint(platform.clock.secondsSinceMidnight()));
         showPage("Welcome to the Setup Wizard",
                  "Just click the 'Next' button to continue.\r"
                  "-If you make any mistakes, just click on the back button.\r"
@@ -204,7 +205,7 @@ void Wizard::NextFrame() {
 }
 
 void Wizard::showLastPage() {
-    const double seconds = parts_.platform.clock.secondsSinceMidnight() - startTime_;
+    const double seconds = platform.clock.secondsSinceMidnight() - startTime_;
     const auto minutes = static_cast<std::int32_t>(std::nearbyint(seconds / 60));
     std::string text =
         "Just click on the Save button to save the settings!\r\rThis setup took: " + std::to_string(minutes) +
@@ -217,15 +218,15 @@ void Wizard::showLastPage() {
 }
 
 void Wizard::next() {
-    if (page_ == 2 && !parts_.utilities.fileThere(screen_.vpath.Caption())) {
-        parts_.platform.dialogs.message({.text = noScannerNotice});
+    if (page_ == 2 && !utilities.fileThere(screen_.vpath.Caption())) {
+        platform.dialogs.message({.text = noScannerNotice});
     }
     ++page_;
     NextFrame();
 }
 
 void Wizard::cancel() {
-    const Answer answer = parts_.platform.dialogs.message(
+    const Answer answer = platform.dialogs.message(
         {.text = "Are you sure you want to disregard all changes and exit the setup wizard?",
          .buttons = Buttons::YesNo});
     if (answer != Answer::No) {
@@ -234,36 +235,35 @@ void Wizard::cancel() {
 }
 
 void Wizard::locate_Click() {
-    const std::string file = parts_.utilities.openFileBox(scannerBoxTitle, scannerBoxFilter());
+    const std::string file = utilities.openFileBox(scannerBoxTitle, scannerBoxFilter());
     screen_.vpath.Caption = file.substr(0, file.find('\0'));
-    const char* arguments = defaultArguments(scannerFamily(globals_.cases, screen_.vpath.Caption()));
+    const char* arguments = defaultArguments(scannerFamily(globals.cases, screen_.vpath.Caption()));
     screen_.varg.Caption = arguments;
-    parts_.scanners.Text6.Caption = arguments;
+    scanners_.Text6.Caption = arguments;
 }
 
 void Wizard::Command2_Click() {
-    SettingsFile& settings = parts_.settings;
     passOver([&] { settings.checkSettFile(); });
     if (screen_.aload.value() == 1) {
         hooks.createAutoLoad();
     } else {
-        parts_.platform.files.remove(autoLoadShortcut(parts_.platform));
+        platform.files.remove(autoLoadShortcut(platform));
     }
     std::string list;
     for (const FlatCheck* check : screen_.settingChecks) {
         list += (list.empty() ? "" : ",") + std::to_string(check->value());
     }
-    const std::string& file = globals_.app.settFile;
+    const std::string& file = globals.app.settFile;
     settings.writeEntry(file, "settings", list, "Tarvelon");
-    if (!parts_.utilities.fileThere(screen_.vpath.Caption())) {
-        parts_.platform.dialogs.message({.text = noScannerNotice});
+    if (!utilities.fileThere(screen_.vpath.Caption())) {
+        platform.dialogs.message({.text = noScannerNotice});
         screen_.vpath.Caption = SAvirScreen::noScanner;
         screen_.varg.Caption = " ";
     }
     settings.writeEntry(file, "antivirus", screen_.vpath.Caption() + "|" + screen_.varg.Caption(),
                         "Tarvelon");
-    globals_.settings.autoScanFailed = screen_.Check6.value() == 1;
-    parts_.platform.dialogs.message({.text = "Settings Saved Successfully!"});
+    globals.settings.autoScanFailed = screen_.Check6.value() == 1;
+    platform.dialogs.message({.text = "Settings Saved Successfully!"});
     screen_.hide();
 }
 

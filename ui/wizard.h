@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/services.h"
+
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -9,13 +11,9 @@ namespace tarvelon {
 
 class Control;
 class Label;
-struct Globals;
-struct Platform;
 struct SAvirScreen;
 struct WizardScreen;
 class Scanner;
-class SettingsFile;
-class Utilities;
 
 /// What the wizard calls beside itself.
 struct WizardHooks {
@@ -24,20 +22,10 @@ struct WizardHooks {
     std::function<void()> cCreateSS;      ///< Makes the shut-down shortcut, with its questions.
 };
 
-/// What the wizard works with.
-struct WizardParts {
-    Globals& globals;
-    Platform& platform;
-    SettingsFile& settings;
-    const Utilities& utilities;
-    const Scanner& scanner;
-    SAvirScreen& scanners;
-};
-
 /// Walks a new user through the main settings. Nothing is written before the last page's Save.
-class Wizard {
+class Wizard : Services {
 public:
-    Wizard(WizardScreen& screen, const WizardParts& parts);
+    Wizard(WizardScreen& screen, const Services& services, const Scanner& scanner, SAvirScreen& scanners);
 
     WizardHooks hooks;
 
@@ -66,8 +54,8 @@ private:
     void Command2_Click();
 
     WizardScreen& screen_;
-    WizardParts parts_;
-    Globals& globals_;
+    const Scanner& scanner_;
+    SAvirScreen& scanners_;
 
     std::int16_t page_ = 0;      ///< 0 to 8.
     std::int32_t startTime_ = 0; ///< Whole seconds since midnight.
