@@ -59,7 +59,7 @@ void Application::bindScan() {
                                   &intCheck.Image11, &intCheck.Label2, &intCheck.Label12};
                               runHolding(controls, screens(), action);
                           }};
-    scan.hooks = {.resultAction = [this] { resultAction.Label12_Click(); },
+    scan.hooks = {.resultAction = [this] { resultAction.act(); },
                   .preShut2 = [this] { shutDownSequence.PreShut2(); },
                   .showMainWindow = [this] { mForm1.show(); }};
 }
@@ -70,7 +70,7 @@ void Application::bindPages() {
                       .showScanners = [this] { s_avir.show(); },
                       .regPageOpened = [this] { regPage.opened(); },
                       .advancedPageOpened = [this] { advancedPage.opened(); }};
-    mForm1.cCreateSS.onClick = [this] { ownShortcuts.cCreateSS_Click(); };
+    mForm1.cCreateSS.onClick = [this] { ownShortcuts.createShutDown(); };
     mForm1.cSetW.onClick = [this] {
         if (vDct.Visible()) {
             vDct.show(); // At the page where the user left it.
@@ -92,14 +92,14 @@ void Application::bindScanners() {
     scannerCatalogue.hooks = {.setWizardPath = setWizardPath, .setWizardArgs = setWizardArgs};
     wizard.hooks = {.showCatalogue = [this] { scannerCatalogue.showAsItStands(); },
                     .createAutoLoad = [this] { ownShortcuts.createAutoLoad(); },
-                    .cCreateSS = [this] { ownShortcuts.cCreateSS_Click(); }};
+                    .createShutDown = [this] { ownShortcuts.createShutDown(); }};
 }
 
 void Application::bindShutDown() {
     logoff.preShut0 = [this] { shutDownSequence.preShut0(); };
     shutDownSequence.hooks = {.loadUp = [this] { scan.LoadUp(); },
                               .setReg = [this] { detection.setReg(); },
-                              .cScnUpd = [this] { regPage.cScnUpd_Click(); }};
+                              .scanAndUpdate = [this] { regPage.scanAndUpdate(); }};
 }
 
 } // namespace tarvelon

@@ -15,8 +15,8 @@ void StartUp::run() {
     state.shutAction = -1;
 
     // From here on a step that fails is passed over: the program opens whatever state it finds.
-    ensureFolder(state.appPath + "Data\\");
-    ensureFolder(state.appPath + "Data\\Log\\");
+    ensureFolder(state.dataFolder());
+    ensureFolder(state.logFolder());
     passOver([this] { app_.settingsFile.checkSettFile(); });
     passOver(
         [this] { app_.baseline.checkIntFile(); }); // Still under the plain name, before any setting is read.
@@ -35,9 +35,9 @@ void StartUp::fixPaths() {
     const std::string file = app_.platform.processes.programFile();
     AppState& state = app_.globals.app;
     state.appPath = withBackslash(file.substr(0, file.size() - bareName(file).size()));
-    state.settFile = state.appPath + "Data\\Tarvelon.dat";
-    state.intFile = state.appPath + "Data\\Integrity.dat";
-    state.regFile = state.appPath + "Data\\Registry.dat";
+    state.settFile = state.dataFolder() + "Tarvelon.dat";
+    state.intFile = state.dataFolder() + "Integrity.dat";
+    state.regFile = state.dataFolder() + "Registry.dat";
 }
 
 void StartUp::ensureFolder(const std::string& folder) {

@@ -45,10 +45,10 @@ AppPage::AppPage(AppPageControls& screen, Platform& platform)
 }
 
 void AppPage::bind() {
-    screen_.ref.onClick = [this] { ref_Click(); };
-    screen_.lstOpenWindows.onClick = [this] { lstOpenWindows_Click(); };
-    screen_.act.onClick = [this] { act_Click(); };
-    screen_.cl.onClick = [this] { cl_Click(); };
+    screen_.ref.onClick = [this] { refresh(); };
+    screen_.lstOpenWindows.onClick = [this] { showSelected(); };
+    screen_.act.onClick = [this] { activateShown(); };
+    screen_.cl.onClick = [this] { closeShown(); };
 }
 
 std::int32_t AppPage::listOpenWindows() {
@@ -77,12 +77,12 @@ bool AppPage::isListed(const std::string& row) const {
     return std::ranges::find(rows, row) != rows.end();
 }
 
-void AppPage::ref_Click() {
+void AppPage::refresh() {
     screen_.lstOpenWindows.clear();
     screen_.lblCount.Caption = std::to_string(listOpenWindows()) + " open Windows.";
 }
 
-void AppPage::lstOpenWindows_Click() {
+void AppPage::showSelected() {
     Desktop& desktop = platform_.desktop;
     screen_.txtTitle.Caption = titleInRow(screen_.lstOpenWindows.text());
     const Desktop::Window window = desktop.find(std::nullopt, screen_.txtTitle.Caption());
@@ -108,11 +108,11 @@ Desktop::Window AppPage::shownWindow() const {
     return platform_.desktop.find(shown.substr(std::min(classNamePrefix.size(), shown.size())), title);
 }
 
-void AppPage::act_Click() {
+void AppPage::activateShown() {
     platform_.desktop.bringToTop(shownWindow());
 }
 
-void AppPage::cl_Click() {
+void AppPage::closeShown() {
     const Desktop::Window window = shownWindow();
     const Answer answer =
         platform_.dialogs.message({.text = "Are you sure you want to close " + screen_.txtTitle.Caption() +
@@ -121,7 +121,7 @@ void AppPage::cl_Click() {
     if (answer == Answer::Yes) {
         platform_.desktop.send(window, closeMessage);
     }
-    ref_Click();
+    refresh();
 }
 
 } // namespace tarvelon

@@ -22,10 +22,10 @@ public:
 
 private:
     void bind();
-    void ref_Click();
-    void lstOpenWindows_Click();
-    void act_Click();
-    void cl_Click();
+    void refresh();
+    void showSelected();
+    void activateShown();
+    void closeShown();
 
     bool isListed(const std::string& row) const;
     /// The window of the selected row by its class and title; 0 when there is none any more.

@@ -43,10 +43,10 @@ void AVirHelp::bind() {
         forSecond_ = false;
         return true;
     };
-    screen_.Command1.onClick = [this] { Command1_Click(); };
-    screen_.Command2.onClick = [this] { Command2_Click(); };
-    screen_.Command3.onClick = [this] { Command3_Click(); };
-    screen_.Command4.onClick = [this] { Command4_Click(); };
+    screen_.Command1.onClick = [this] { showSupportPage(); };
+    screen_.Command2.onClick = [this] { testFound(); };
+    screen_.Command3.onClick = [this] { useFound(); };
+    screen_.Command4.onClick = [this] { search(); };
 }
 
 void AVirHelp::show(bool forSecond) {
@@ -58,7 +58,7 @@ void AVirHelp::showAsItStands() {
     screen_.show();
 }
 
-void AVirHelp::Command4_Click() {
+void AVirHelp::search() {
     if (screen_.List1.listIndex() < 0) {
         return;
     }
@@ -87,13 +87,13 @@ void AVirHelp::Command4_Click() {
     screen_.Text2.Enabled = true;
 }
 
-void AVirHelp::Command2_Click() {
+void AVirHelp::testFound() {
     if (scanner_.test(screen_.Text2.Caption())) {
         screen_.Command3.Enabled = true;
     }
 }
 
-void AVirHelp::Command3_Click() {
+void AVirHelp::useFound() {
     const std::string path = screen_.Text2.Caption();
     if (forSecond_) {
         useForSecond(path);
@@ -118,7 +118,7 @@ void AVirHelp::useForFirst(const std::string& path) {
     scanners_.Text6.Caption = arguments;
 }
 
-void AVirHelp::Command1_Click() {
+void AVirHelp::showSupportPage() {
     platform.dialogs.message(
         {.text =
              std::string(

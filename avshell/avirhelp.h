@@ -31,12 +31,12 @@ public:
 
 private:
     void bind();
-    void Command4_Click();
-    void Command2_Click();
-    void Command3_Click();
+    void search();
+    void testFound();
+    void useFound();
     void useForFirst(const std::string& path);
     void useForSecond(const std::string& path);
-    void Command1_Click();
+    void showSupportPage();
 
     AVirHelpScreen& screen_;
     SAvirScreen& scanners_;

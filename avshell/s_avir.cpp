@@ -2,7 +2,6 @@
 
 #include "avshell/known_scanners.h"
 #include "avshell/s_avir_screen.h"
-#include "avshell/scanner_fields.h"
 #include "core/failure.h"
 #include "core/globals.h"
 #include "core/settings_file.h"
@@ -19,18 +18,14 @@ SAvir::SAvir(SAvirScreen& screen, const Services& services)
 }
 
 void SAvir::bind() {
-    screen_.onLoad = [this] {
-        passOver(
-            [this] { fillScannerFields(settings.getSetting("ANTIVIRUS"), screen_.Text5, screen_.Text6); });
-        passOver([this] { fillScannerFields(settings.getSetting("AV2"), screen_.Text1, screen_.Text2); });
-    };
+    screen_.onLoad = [this] { fillBoth(settings, screen_.first, screen_.second); };
     screen_.onMouseMove = [this] { norms(); };
-    screen_.cChoose.onClick = [this] { cChoose_Click(); };
-    screen_.cButton10.onClick = [this] { cButton10_Click(); };
+    screen_.cChoose.onClick = [this] { chooseFirst(); };
+    screen_.cButton10.onClick = [this] { chooseSecond(); };
     screen_.chlpFind.onClick = [this] { hooks.showHelp(false); };
     screen_.cButton1.onClick = [this] { hooks.showHelp(true); };
     screen_.cButton2.onClick = [this] { screen_.hide(); };
-    screen_.cButton3.onClick = [this] { cButton3_Click(); };
+    screen_.cButton3.onClick = [this] { save(); };
 }
 
 void SAvir::norms() {
@@ -46,7 +41,7 @@ std::string SAvir::choose() const {
     return file.substr(0, file.find('\0'));
 }
 
-void SAvir::cChoose_Click() {
+void SAvir::chooseFirst() {
     const std::string file = choose();
     if (file.empty()) {
         return;
@@ -56,7 +51,7 @@ void SAvir::cChoose_Click() {
     platform.dialogs.message({.text = "Don't forget to Save!"});
 }
 
-void SAvir::cButton10_Click() {
+void SAvir::chooseSecond() {
     const std::string file = choose();
     if (file.empty()) {
         return;
@@ -76,7 +71,7 @@ const char* SAvir::argumentsForFirst() {
     return arguments;
 }
 
-void SAvir::cButton3_Click() {
+void SAvir::save() {
     if (!utilities.fileThere(screen_.Text5.Caption())) {
         platform.dialogs.message(
             {.text = "You didn't choose an anti-virus software exe.  We recommend that you get "
@@ -88,10 +83,8 @@ void SAvir::cButton3_Click() {
         screen_.Text1.Caption = "";
         screen_.Text2.Caption = "";
     }
-    const std::string& file = globals.app.settFile;
-    settings.writeEntry(file, "antivirus", screen_.Text5.Caption() + "|" + screen_.Text6.Caption(),
-                        "Tarvelon");
-    settings.writeEntry(file, "av2", screen_.Text1.Caption() + "|" + screen_.Text2.Caption(), "Tarvelon");
+    settings.saveSetting("antivirus", screen_.first.command().setting());
+    settings.saveSetting("av2", screen_.second.command().setting());
     platform.dialogs.message({.text = "Save Success!"});
     screen_.hide();
 }

@@ -27,9 +27,9 @@ public:
 private:
     void bind();
     std::string choose() const;
-    void cChoose_Click();
-    void cButton10_Click();
-    void cButton3_Click();
+    void chooseFirst();
+    void chooseSecond();
+    void save();
     const char* argumentsForFirst();
 
     SAvirScreen& screen_;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "avshell/scanner_command.h"
 #include "ui/controls/controls.h"
 
 namespace tarvelon {
@@ -32,6 +33,9 @@ struct SAvirScreen : Screen {
 
     FlatButton cButton3{*this, "Save", at(320, 320, 104, 32)};
     FlatButton cButton2{*this, "Cancel", at(432, 320, 104, 32)};
+
+    const ScannerFields first{Text5, Text6};
+    const ScannerFields second{Text1, Text2};
 };
 
 } // namespace tarvelon

@@ -8,38 +8,7 @@
 #include "platform/processes.h"
 #include "ui/controls/controls.h"
 
-#include <algorithm>
-#include <numeric>
-
 namespace tarvelon {
-
-bool ScannerCommand::isSet() const {
-    return !trim(exe).empty();
-}
-
-std::string ScannerCommand::arguments(const std::string& files) const {
-    return args + " " + files;
-}
-
-std::vector<std::string> ScannerPair::lists(const std::vector<std::string>& items) const {
-    const auto aroundList = [](const ScannerCommand& scanner) {
-        return scanner.exe.size() + scanner.args.size() + 2;
-    };
-    const std::size_t taken = std::max(aroundList(first), aroundList(second));
-    const std::size_t room = Processes::longestCommandLine - std::min(taken, Processes::longestCommandLine);
-    std::vector<std::string> lists(1);
-    for (const std::string& item : items) {
-        if (!lists.back().empty() && lists.back().size() + item.size() > room) {
-            lists.emplace_back();
-        }
-        lists.back() += item;
-    }
-    return lists;
-}
-
-std::string joined(const std::vector<std::string>& items) {
-    return std::accumulate(items.begin(), items.end(), std::string());
-}
 
 std::string couldNotBeExecuted(const std::string& exe) {
     return "Your Anti-Virus program could not be executed!!!\rPlease verify the path of the software:\r" +

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "avshell/scanner_command.h"
 #include "core/services.h"
 
 #include <functional>
@@ -9,30 +10,6 @@
 namespace tarvelon {
 
 class CheckBox;
-
-/// One of the user's two scanners. An empty program (blanks aside) stands for none.
-struct ScannerCommand {
-    std::string exe; ///< Stands in the command line as it is, without quotes.
-    std::string args;
-
-    bool isSet() const;
-    /// What stands behind the program: `<args> <files>`. With empty args two blanks stand between program and
-    /// files.
-    std::string arguments(const std::string& files) const;
-};
-
-/// The user's first and second scanner. What goes to one goes to the other.
-struct ScannerPair {
-    ScannerCommand first;
-    ScannerCommand second;
-
-    /// Joins items, each with its blank, to as few lists as the length of a command line allows: one, also
-    /// for no items, unless they are very many. An item that is too long by itself makes a list of its own.
-    std::vector<std::string> lists(const std::vector<std::string>& items) const;
-};
-
-/// All items in one text.
-std::string joined(const std::vector<std::string>& items);
 
 /// What the user is told when a scanner cannot be started.
 std::string couldNotBeExecuted(const std::string& exe);

@@ -9,6 +9,9 @@
 
 namespace tarvelon {
 
+/// Below the program's folder.
+inline constexpr const char* dataFolderName = "Data\\";
+
 /// Fixed at start-up.
 struct AppState {
     std::string appPath;  ///< The program's folder, with a backslash.
@@ -20,6 +23,10 @@ struct AppState {
     std::int16_t shutAction = -1;
     bool autoLoadRun = false; ///< Run without questions.
     bool schedRun = false;    ///< A scheduled scan plans for all file types.
+
+    bool inShutDown() const { return shutAction != -1; }
+    std::string dataFolder() const { return appPath + dataFolderName; }
+    std::string logFolder() const { return dataFolder() + "Log\\"; }
 };
 
 /// How files are checksummed. The baselines are named after it.

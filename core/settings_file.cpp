@@ -111,8 +111,20 @@ std::string SettingsFile::readIni(const std::string& file, const std::string& ke
     return profiles_.read(file, section, key).substr(0, bufferWithoutZero);
 }
 
-std::string SettingsFile::readIni(const std::string& file, const std::string& key, int section) {
-    return readIni(file, key, std::to_string(section));
+std::string SettingsFile::ofSlot(const std::string& slot, const std::string& key) {
+    return readIni(globals_.app.settFile, key, slot);
+}
+
+std::string SettingsFile::ofSlot(int slot, const std::string& key) {
+    return ofSlot(std::to_string(slot), key);
+}
+
+void SettingsFile::saveOfSlot(const std::string& slot, const std::string& key, const std::string& value) {
+    writeEntry(globals_.app.settFile, key, value, slot);
+}
+
+void SettingsFile::saveSetting(const std::string& key, const std::string& value) {
+    writeEntry(globals_.app.settFile, key, value, "Tarvelon");
 }
 
 std::optional<bool> SettingsFile::writeEntry(const std::string& file, const std::string& key,

@@ -26,7 +26,14 @@ public:
 
     /// The value in a profile file, at most 249 characters of it; empty when there is none.
     std::string readIni(const std::string& file, const std::string& key, const std::string& section);
-    std::string readIni(const std::string& file, const std::string& key, int section);
+
+    /// A value of an added folder's slot in the settings file: "path", "args" or "args2".
+    std::string ofSlot(const std::string& slot, const std::string& key);
+    std::string ofSlot(int slot, const std::string& key);
+    void saveOfSlot(const std::string& slot, const std::string& key, const std::string& value);
+
+    /// Stores a main key in the settings file. Whether it reached the disk is not told.
+    void saveSetting(const std::string& key, const std::string& value);
 
     /// Stores one entry. The settings file and the registry snapshot are written at once, and so is every
     /// file during the primary full scan: the result tells whether that worked. Otherwise the entry goes to

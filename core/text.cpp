@@ -183,14 +183,6 @@ std::vector<std::string> split(std::string_view text, char separator) {
     }
 }
 
-std::optional<ExeAndArgs> splitExeAndArgs(std::string_view text) {
-    const std::size_t bar = text.find('|');
-    if (bar == std::string_view::npos) {
-        return std::nullopt;
-    }
-    return ExeAndArgs{std::string(text.substr(0, bar)), trim(text.substr(bar + 1))};
-}
-
 std::string_view lastCharacters(std::string_view text, std::size_t count) {
     return text.size() > count ? text.substr(text.size() - count) : text;
 }

@@ -57,13 +57,6 @@ std::string getBetween(const CaseRules& cases, std::string_view text, std::size_
 /// The parts between separators; an empty text has no parts.
 std::vector<std::string> split(std::string_view text, char separator);
 
-/// The text in front of the first "|" and, trimmed, the text behind it; empty without a "|".
-struct ExeAndArgs {
-    std::string exe;
-    std::string args;
-};
-std::optional<ExeAndArgs> splitExeAndArgs(std::string_view text);
-
 /// The last `count` characters, or all of a shorter text.
 std::string_view lastCharacters(std::string_view text, std::size_t count);
 

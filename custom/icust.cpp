@@ -58,14 +58,14 @@ void ICust::bind() {
     }
     screen_.onQueryClose = [this] { return queryClose(); };
     screen_.onMouseMove = [this] { norms(); };
-    screen_.List1.onClick = [this] { List1_Click(); };
-    screen_.Check1.onClick = [this] { box_Click(atStartup()); };
-    screen_.List2.onClick = [this] { types_Click(atStartup()); };
-    screen_.Check2.onClick = [this] { box_Click(atShutDown()); };
-    screen_.List4.onClick = [this] { types_Click(atShutDown()); };
-    screen_.cButton2.onClick = [this] { cButton2_Click(); };
-    screen_.Command2.onClick = [this] { Command2_Click(); };
-    screen_.Command3.onClick = [this] { Command3_Click(); };
+    screen_.List1.onClick = [this] { showFolder(); };
+    screen_.Check1.onClick = [this] { boxClicked(atStartup()); };
+    screen_.List2.onClick = [this] { storeTypes(atStartup()); };
+    screen_.Check2.onClick = [this] { boxClicked(atShutDown()); };
+    screen_.List4.onClick = [this] { storeTypes(atShutDown()); };
+    screen_.cButton2.onClick = [this] { addFolder(); };
+    screen_.Command2.onClick = [this] { removeFolder(); };
+    screen_.Command3.onClick = [this] { save(); };
 }
 
 void ICust::open() {
@@ -105,11 +105,10 @@ void ICust::startup() {
     screen_.List1.clear();
     screen_.List3.clear();
     screen_.List5.clear();
-    const std::string& file = globals.app.settFile;
     for (int slot = 1; slot <= folderSlots; ++slot) {
-        const std::string path = trim(settings.readIni(file, "path", slot));
-        const std::string args = settings.readIni(file, "args", slot);
-        const std::string args2 = settings.readIni(file, "args2", slot);
+        const std::string path = trim(settings.ofSlot(slot, "path"));
+        const std::string args = settings.ofSlot(slot, "args");
+        const std::string args2 = settings.ofSlot(slot, "args2");
         screen_.List1.add(path == "NULL" ? std::to_string(slot) + emptyMark : rowText(slot, path));
         screen_.List3.add(args.empty() ? noTypes : args);
         screen_.List5.add(args2.empty() ? noTypes : args2);
@@ -123,7 +122,7 @@ void ICust::norms() {
     }
 }
 
-void ICust::List1_Click() {
+void ICust::showFolder() {
     custLoading = true;
     const int row = screen_.List1.listIndex();
     if (row >= 0) {
@@ -160,12 +159,12 @@ void ICust::followBox(const Use& use) {
     use.types.Enabled = ticked;
 }
 
-void ICust::box_Click(const Use& use) {
+void ICust::boxClicked(const Use& use) {
     followBox(use);
-    types_Click(use);
+    storeTypes(use);
 }
 
-void ICust::types_Click(const Use& use) {
+void ICust::storeTypes(const Use& use) {
     if (custLoading) {
         return;
     }
@@ -183,7 +182,7 @@ void ICust::types_Click(const Use& use) {
     use.rows.replace(row, digits(globals.cases, words));
 }
 
-void ICust::cButton2_Click() {
+void ICust::addFolder() {
     custDirty = 1;
     std::string folder = utilities.browseFolder("Please Choose a Folder to Add");
     if (folder.empty()) {
@@ -214,7 +213,7 @@ void ICust::cButton2_Click() {
 }
 
 /// Takes effect at once, and is not stopped by a settings file that cannot be written.
-void ICust::Command2_Click() {
+void ICust::removeFolder() {
     custDirty = 1;
     const int row = screen_.List1.listIndex();
     if (row < 0 || isEmptyRow(row)) {
@@ -229,24 +228,22 @@ void ICust::Command2_Click() {
     if (answer != Answer::Ok) {
         return;
     }
-    const std::string& file = globals.app.settFile;
     const std::string slot = std::to_string(row + 1);
     passOver([&] { settings.checkSettFile(); });
-    settings.writeEntry(file, "path", "NULL", slot);
-    settings.writeEntry(file, "args", noTypes, slot);
-    settings.writeEntry(file, "args2", noTypes, slot);
+    settings.saveOfSlot(slot, "path", "NULL");
+    settings.saveOfSlot(slot, "args", noTypes);
+    settings.saveOfSlot(slot, "args2", noTypes);
     screen_.List1.replace(row, slot + emptyMark);
     screen_.List3.replace(row, noTypes);
     screen_.List5.replace(row, noTypes);
     for (const char* ending : slotFiles) {
-        platform.files.remove(globals.app.appPath + "Data\\" + slot + ending);
+        platform.files.remove(globals.app.dataFolder() + slot + ending);
     }
 }
 
 /// Tells of success whatever became of the settings file.
-void ICust::Command3_Click() {
+void ICust::save() {
     custDirty = 0;
-    const std::string& file = globals.app.settFile;
     passOver([&] { settings.checkSettFile(); });
     for (int row = 0; row < folderSlots; ++row) {
         const std::string slot = std::to_string(row + 1);
@@ -254,9 +251,9 @@ void ICust::Command3_Click() {
         if (folder.empty()) {
             continue; // It could not be read when the window opened, and the file keeps what it has.
         }
-        settings.writeEntry(file, "path", folder, slot);
-        settings.writeEntry(file, "args", screen_.List3.item(row), slot);
-        settings.writeEntry(file, "args2", screen_.List5.item(row), slot);
+        settings.saveOfSlot(slot, "path", folder);
+        settings.saveOfSlot(slot, "args", screen_.List3.item(row));
+        settings.saveOfSlot(slot, "args2", screen_.List5.item(row));
     }
     for (int slot = 1; slot <= folderSlots; ++slot) {
         if (!scanRuns() && !isEmptyRow(slot - 1) && !utilities.fileThere(checksum_.getCustomDat(slot))) {
@@ -273,7 +270,7 @@ bool ICust::queryClose() {
         const Answer answer = platform.dialogs.message(
             {.text = "Do you wish to Save your changes?", .buttons = Buttons::YesNo});
         if (answer == Answer::Yes) {
-            Command3_Click();
+            save();
         }
     }
     passOver(loadf);

@@ -45,14 +45,14 @@ private:
     void begin();
     Use atStartup();
     Use atShutDown();
-    void List1_Click();
+    void showFolder();
     void showUse(const Use& use, int row);
     void followBox(const Use& use);
-    void box_Click(const Use& use);
-    void types_Click(const Use& use);
-    void cButton2_Click();
-    void Command2_Click();
-    void Command3_Click();
+    void boxClicked(const Use& use);
+    void storeTypes(const Use& use);
+    void addFolder();
+    void removeFolder();
+    void save();
     bool queryClose();
 
     bool isEmptyRow(int row) const;

@@ -84,7 +84,7 @@ std::string Checksum::getCustomDat(int number) const {
 
 std::string Checksum::dataFile(const std::string& stem) const {
     const std::string name = trim(algorithm_.algoName);
-    std::string path = globals_.app.appPath + "Data\\" + stem;
+    std::string path = globals_.app.dataFolder() + stem;
     if (!name.empty() && globals_.cases.upper(name) != crc32Name) {
         path.append("-").append(globals_.cases.lower(name));
     }

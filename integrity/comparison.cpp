@@ -81,7 +81,7 @@ void Comparison::comparePass(const PassArguments& arguments) {
             platform.messages.pump();
         }
     }
-    if (!inShutDown()) {
+    if (!globals.app.inShutDown()) {
         screen_.pbm.Caption = std::to_string(pass.done);
         if (pass.labels) {
             pass.labels->percent.Caption = "100%";
@@ -95,7 +95,7 @@ Comparison::Outcome Comparison::compareFile(Pass& pass, const std::string& name)
     if (tail != pass.arguments.ext1 && tail != pass.arguments.ext2) {
         return Outcome::Done;
     }
-    if (!inShutDown() && pass.labels) {
+    if (!globals.app.inShutDown() && pass.labels) {
         pass.labels->file.Caption = name;
     }
     const std::string checksum = checksum_.getChecksum(pass.folder + name);
@@ -170,7 +170,7 @@ void Comparison::showProgress(Pass& pass) {
             pass.passPercent = *percent;
         }
     }
-    if (inShutDown()) {
+    if (globals.app.inShutDown()) {
         shutDownProgress_.setValue(pass.passPercent);
         return;
     }
@@ -182,10 +182,6 @@ void Comparison::showProgress(Pass& pass) {
     screen_.Label9.Caption = std::to_string(scan.failCount);
     screen_.Label8.Caption = std::to_string(scan.newCount);
     screen_.Label7.Caption = std::to_string(pass.done - scan.failCount - scan.newCount);
-}
-
-bool Comparison::inShutDown() const {
-    return globals.app.shutAction != -1;
 }
 
 } // namespace tarvelon

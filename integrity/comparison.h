@@ -38,7 +38,6 @@ private:
     void noteFailed(Pass& pass, const std::string& name, const std::string& checksum);
     void list(const Pass& pass, const std::string& name, const std::string& mark, const std::string& value);
     void showProgress(Pass& pass);
-    bool inShutDown() const;
 
     IntCheckScreen& screen_;
     Checksum& checksum_;

@@ -80,8 +80,8 @@ bool DataFile::loadCustomDat(const std::string& path) {
     if (!utilities.fileThere(path) && !platform.files.length(path)) {
         // The number is all that stands between "Data\" and the first ".", so a name with an algorithm in it
         // ("7-md5") is no slot of the settings, and the folder comes out empty.
-        const std::string number = getBetween(globals.cases, path, 1, "Data\\", ".");
-        const std::string folder = settings.readIni(globals.app.settFile, "path", number);
+        const std::string number = getBetween(globals.cases, path, 1, dataFolderName, ".");
+        const std::string folder = settings.ofSlot(number, "path");
         buildCustomDat(folder, path, number);
     }
     const auto text = read(path);
@@ -129,7 +129,7 @@ std::string DataFile::entry(const Blocks& blocks, std::optional<std::size_t> num
 void DataFile::saveIntFile() {
     // What could not be read is empty in memory, and must not take the place of the whole file.
     demand(intFileRead_, "The data file could not be read, and is left as it is:", intFile_);
-    save(intFile_, globals.app.appPath + "Data\\integrity.bak", globals.baselines.sectionText);
+    save(intFile_, globals.app.dataFolder() + "integrity.bak", globals.baselines.sectionText);
 }
 
 void DataFile::saveCustomDat(const std::string& path) {

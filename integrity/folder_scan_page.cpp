@@ -30,8 +30,8 @@ FolderScanPage::FolderScanPage(FolderScanControls& screen, NavButton& entry, con
 }
 
 void FolderScanPage::bind() {
-    entry_.onClick = [this] { Image5_Click(); };
-    screen_.Combo1.onClick = [this] { Combo1_Click(); };
+    entry_.onClick = [this] { open(); };
+    screen_.Combo1.onClick = [this] { takeFolder(); };
     for (std::size_t i = 0; i < screen_.check.size(); ++i) {
         screen_.typeButtons[i]->onClick = [this, i] {
             screen_.check[i].setValue(screen_.check[i].value() == 0);
@@ -39,7 +39,7 @@ void FolderScanPage::bind() {
     }
     screen_.bFULL.onClick = [this] { tickAll(true); };
     screen_.bCLEAR.onClick = [this] { tickAll(false); };
-    screen_.bSCAN.onClick = [this] { bSCAN_Click(); };
+    screen_.bSCAN.onClick = [this] { startScan(); };
 }
 
 void FolderScanPage::tickAll(bool ticked) {
@@ -53,7 +53,7 @@ void FolderScanPage::loadf() {
     screen_.Combo1.clear();
     screen_.Combo1.add(utilities.getSysDir());
     for (int slot = 1; slot <= folderSlots; ++slot) {
-        const std::string path = trim(settings.readIni(globals.app.settFile, "path", slot));
+        const std::string path = trim(settings.ofSlot(slot, "path"));
         if (path != "NULL") {
             screen_.Combo1.add(path);
         }
@@ -61,7 +61,7 @@ void FolderScanPage::loadf() {
     screen_.Combo1.setListIndex(0);
 }
 
-void FolderScanPage::Image5_Click() {
+void FolderScanPage::open() {
     loadf();
     hooks.norms2();
     if (utilities.fileThere(globals.app.intFile)) {
@@ -79,7 +79,7 @@ void FolderScanPage::Image5_Click() {
     }
 }
 
-void FolderScanPage::Combo1_Click() {
+void FolderScanPage::takeFolder() {
     const int index = screen_.Combo1.listIndex();
     if (index <= 0) {
         return;
@@ -90,13 +90,13 @@ void FolderScanPage::Combo1_Click() {
         screen_.Combo1.setListIndex(0);
         return;
     }
-    const std::vector<std::string> types = split(settings.readIni(globals.app.settFile, "args", index), ',');
+    const std::vector<std::string> types = split(settings.ofSlot(index, "args"), ',');
     for (std::size_t i = 0; i < screen_.check.size() && i < types.size(); ++i) {
         screen_.check[i].setValue(types[i] == "1");
     }
 }
 
-void FolderScanPage::bSCAN_Click() {
+void FolderScanPage::startScan() {
     baseline_.checkIntFile();
     ScanRun& scan = globals.scan;
     const auto wanted = scan.wanted();

@@ -32,13 +32,13 @@ public:
     void loadf();
 
     /// Opens the page; without a baseline it offers to start over with the first full scan.
-    void Image5_Click();
+    void open();
 
 private:
     void bind();
     void tickAll(bool ticked);
-    void Combo1_Click();
-    void bSCAN_Click();
+    void takeFolder();
+    void startScan();
 
     FolderScanControls& screen_;
     NavButton& entry_; ///< Opens the page.

@@ -1,6 +1,5 @@
 #include "integrity/intcheck.h"
 
-#include "avshell/scanner_fields.h"
 #include "core/failure.h"
 #include "core/globals.h"
 #include "core/settings_file.h"
@@ -15,25 +14,9 @@
 #include "platform/platform.h"
 #include "platform/processes.h"
 
-#include <array>
-
 namespace tarvelon {
 
 namespace {
-
-struct PassRow {
-    const char* ext1;
-    const char* ext2; ///< "..." equals no four characters of a name.
-    const char* notWanted;
-};
-
-constexpr std::array<PassRow, 6> passRows{
-    {{".DLL", "...", "DLL Scan --- Not Scanning"},
-     {".DRV", "...", "Driver Scan --- Not Scanning"},
-     {".SYS", ".386", "System Files --- Not Scanning"},
-     {".OCX", "...", "OCX Scan --- Not Scanning"},
-     {".EXE", ".COM", "Executable Scan --- Not Scanning"},
-     {".PIF", ".SCR", "Commonly Exploited Executables --- Not Scanning"}}};
 
 constexpr const char* closeCheckCaption = "Close Integrity Check Window";
 
@@ -51,17 +34,14 @@ IntCheck::IntCheck(IntCheckScreen& screen, const Services& services, Checksum& c
 }
 
 void IntCheck::bind() {
-    screen_.onLoad = [this] {
-        passOver([this] { readScanners(); });
-        passOver([this] { fillScannerFields(settings.getSetting("AV2"), screen_.textav1, screen_.textav2); });
-    };
+    screen_.onLoad = [this] { fillBoth(settings, screen_.first, screen_.second); };
     screen_.onQueryClose = [this] { return queryClose(); };
-    screen_.Timer1.onTick = [this] { Timer1_Tick(); };
+    screen_.Timer1.onTick = [this] { scanFolders(); };
     screen_.Image9.onClick = [this] { setPaused(!globals.scan.scanPaused); };
     screen_.Label11.onClick = screen_.Image9.onClick;
     screen_.Image11.onClick = [this] { Command1_Click(); };
     screen_.Command1.onClick = screen_.Image11.onClick;
-    screen_.Label2.onClick = [this] { Label2_Click(); };
+    screen_.Label2.onClick = [this] { showFailedFiles(); };
     screen_.Label12.onClick = [this] { hooks.resultAction(); };
 }
 
@@ -71,7 +51,7 @@ bool IntCheck::runs() const {
     return busy_ > 0 || screen_.Timer1.Enabled();
 }
 
-void IntCheck::Timer1_Tick() {
+void IntCheck::scanFolders() {
     const Busy busy(busy_);
     screen_.Timer1.Enabled = false;
     globals.scan.scanCancelled = false;
@@ -89,20 +69,20 @@ void IntCheck::Timer1_Tick() {
 }
 
 void IntCheck::runPasses() {
-    const std::array<const std::int32_t*, 6> counts{&cntDLL, &cntDRV, &cntSYS, &cntOCX, &cntEXE, nullptr};
-    for (std::size_t i = 0; i < passRows.size(); ++i) {
+    for (std::size_t i = 0; i < passKinds.size(); ++i) {
+        const PassKind& kind = passKinds[i];
         const PassLabels& labels = screen_.passes[i];
         if (!*globals.scan.wanted()[i]) {
-            labels.title.Caption = passRows[i].notWanted;
+            labels.title.Caption = kind.notWanted;
             continue;
         }
         globals.scan.passType = static_cast<std::int16_t>(i + 1);
         for (Label* label : {&labels.title, &labels.file, &labels.percent}) {
             label->ForeColor = colors::scanGrey;
         }
-        // The last pass has no count, so its percentage stands still until it ends.
-        screen_.pb1max.Caption = counts[i] ? std::to_string(*counts[i]) : std::string();
-        IntegrityChecker2(passRows[i].ext1, passRows[i].ext2);
+        screen_.pb1max.Caption = kind.count ? std::to_string(planned_.*kind.count) : std::string();
+        // A pass with one extension gets a second one that no file has.
+        IntegrityChecker2(kind.ext1, *kind.ext2 ? kind.ext2 : "...");
     }
 }
 
@@ -124,13 +104,12 @@ bool IntCheck::takeNextCustomFolder(int& turn, std::size_t& folders) {
     }
     ++turn;
     const std::string& slot = queue.front();
-    const std::string& file = globals.app.settFile;
-    scan.customFolder = settings.readIni(file, "path", slot);
+    scan.customFolder = settings.ofSlot(slot, "path");
     screen_.l_cust2.Caption = "Custom Folder " + std::to_string(turn) + "/" + std::to_string(folders);
     platform.messages.pump();
 
     // The types are those of "args" in a shut-down as well, although "args2" chose the folder.
-    const std::string types = settings.readIni(file, "args", slot);
+    const std::string types = settings.ofSlot(slot, "args");
     scan.want(false);
     wantFrom(types);
     scan.customIndex = static_cast<std::int16_t>(toNumber(slot).value_or(0));
@@ -149,12 +128,12 @@ void IntCheck::finish() {
         screen_.hide();
         hooks.showMainWindow();
     }
-    if (!scan.noAutoAction && (inShutDown() || globals.settings.autoScanFailed)) {
+    if (!scan.noAutoAction && (globals.app.inShutDown() || globals.settings.autoScanFailed)) {
         passOver(hooks.resultAction);
     }
     if (!scan.scanCancelled && screen_.Label6.Caption() == screen_.Label7.Caption()) {
         screen_.Label14.Visible = true;
-        if (!inShutDown() && globals.app.autoLoadRun) {
+        if (!globals.app.inShutDown() && globals.app.autoLoadRun) {
             platform.processes.end();
         }
     }
@@ -165,7 +144,7 @@ void IntCheck::finish() {
         passOver(hooks.resultAction);
     }
     showOutcome();
-    if (inShutDown()) {
+    if (globals.app.inShutDown()) {
         passOver(hooks.preShut2);
     }
     platform.messages.pump();
@@ -185,10 +164,6 @@ void IntCheck::showOutcome() {
 
 // ---- The screen
 
-void IntCheck::readScanners() {
-    fillScannerFields(settings.getSetting("ANTIVIRUS"), screen_.Text1, screen_.Text2);
-}
-
 void IntCheck::resetCaptions() {
     for (const PassLabels& labels : screen_.passes) {
         for (Label* label : {&labels.title, &labels.file, &labels.percent}) {
@@ -206,7 +181,7 @@ void IntCheck::setPaused(bool paused) {
     screen_.Label11.Visible = paused;
 }
 
-void IntCheck::Label2_Click() {
+void IntCheck::showFailedFiles() {
     if (screen_.Label2.Caption() == closeCheckCaption) {
         Command1_Click();
         return;
@@ -277,10 +252,6 @@ bool IntCheck::confirmLeave() {
         platform.files.remove(checksum_.getIntFile());
     }
     platform.processes.end();
-}
-
-bool IntCheck::inShutDown() const {
-    return globals.app.shutAction != -1;
 }
 
 } // namespace tarvelon

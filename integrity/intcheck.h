@@ -2,6 +2,7 @@
 
 #include "core/services.h"
 #include "integrity/comparison.h"
+#include "integrity/passes.h"
 
 #include <cstdint>
 #include <functional>
@@ -70,7 +71,6 @@ private:
     };
 
     void bind();
-    void readScanners();
     void resetCaptions();
     void setPaused(bool paused);
 
@@ -82,16 +82,15 @@ private:
     void wantFrom(const std::string& list);
     void wantFromWithAutoScan(const std::string& list);
 
-    void Timer1_Tick();
+    void scanFolders();
     void runPasses();
     bool takeNextCustomFolder(int& turn, std::size_t& folders);
     void finish();
     void showOutcome();
 
-    void Label2_Click();
+    void showFailedFiles();
     bool queryClose();
     bool confirmLeave();
-    bool inShutDown() const;
 
     IntCheckScreen& screen_;
     Checksum& checksum_;
@@ -99,13 +98,7 @@ private:
     Baseline& baseline_;
     Comparison& comparison_;
 
-    // Files planned for each pass, over all folders of the scan.
-    std::int32_t cntDLL = 0;
-    std::int32_t cntDRV = 0;
-    std::int32_t cntSYS = 0;
-    std::int32_t cntOCX = 0;
-    std::int32_t cntEXE = 0;
-    std::int32_t cntPIF = 0;
+    PlannedFiles planned_;
     int busy_ = 0;       ///< Plans and scans on the stack; one can run inside another.
     std::string extList; ///< The wanted extensions of the folder being counted, one behind the other.
 };

@@ -13,23 +13,9 @@
 #include "platform/messages.h"
 #include "platform/platform.h"
 
-#include <array>
 #include <vector>
 
 namespace tarvelon {
-
-namespace {
-
-/// What each wanted pass adds to the list of extensions.
-constexpr std::array<const char*, 6> passExtensions = {".dll", ".drv",     ".sys.386",
-                                                       ".ocx", ".exe.com", ".pif.scr"};
-
-constexpr std::array<const char*, 7> passTitles = {"DLL Scan",          "Driver Scan",
-                                                   "System Files Scan", "OCX Scan",
-                                                   "Executable Scan",   "Commonly Exploited Executable Scan",
-                                                   "Custom Folder"};
-
-} // namespace
 
 /// How far the planning has come.
 struct IntCheck::Plan {
@@ -61,7 +47,7 @@ void IntCheck::LoadUp() {
         if (globals.baselines.primaryBuild) {
             break;
         }
-        const bool foldersJoin = inShutDown() || !globals.app.cmdLine.empty();
+        const bool foldersJoin = globals.app.inShutDown() || !globals.app.cmdLine.empty();
         another = foldersJoin && joinNextFolder(plan);
         if (foldersJoin && !another) {
             // The joining folders have used the flags; they go back to what the system passes want.
@@ -79,9 +65,9 @@ void IntCheck::resetRun() {
     scan.customFailList.clear();
     scan.customQueue.clear();
     extList.clear();
-    cntDLL = cntDRV = cntSYS = cntOCX = cntEXE = cntPIF = 0;
+    planned_ = {};
     for (std::size_t i = 0; i < screen_.passes.size(); ++i) {
-        screen_.passes[i].title.Caption = passTitles[i];
+        screen_.passes[i].title.Caption = i < passKinds.size() ? passKinds[i].title : "Custom Folder";
         screen_.passes[i].file.Caption = "";
         screen_.passes[i].percent.Caption = "0%";
     }
@@ -95,12 +81,13 @@ void IntCheck::wantTypesOfRun() {
         globals.scan.want(true);
     } else {
         // Flags that are already set stay set; a list only adds to them.
-        wantFromWithAutoScan(!inShutDown() && globals.app.schedRun ? "1,1,1,1,1,1,1" : savedTypes());
+        wantFromWithAutoScan(!globals.app.inShutDown() && globals.app.schedRun ? "1,1,1,1,1,1,1"
+                                                                               : savedTypes());
     }
 }
 
 std::string IntCheck::savedTypes() const {
-    return settings.getSetting(inShutDown() ? "GETSETT2" : "GETSETT");
+    return settings.getSetting(globals.app.inShutDown() ? "GETSETT2" : "GETSETT");
 }
 
 /// Sets the flags of the passes whose position is "1".
@@ -123,28 +110,29 @@ void IntCheck::wantFromWithAutoScan(const std::string& list) {
 /// Counts the current folder's files of the wanted types.
 void IntCheck::countFolder(Plan& plan) {
     extList.clear();
-    const auto flags = globals.scan.wanted();
-    for (std::size_t i = 0; i < flags.size(); ++i) {
-        extList += *flags[i] ? passExtensions[i] : "";
+    for (std::size_t i = 0; i < passKinds.size(); ++i) {
+        if (*globals.scan.wanted()[i]) {
+            extList.append(passKinds[i].ext1).append(passKinds[i].ext2);
+        }
     }
-    passOver([this] { readScanners(); });
+    // Scanners may have been chosen since the window was loaded.
+    passOver([this] { screen_.first.fill(settings.getSetting("ANTIVIRUS")); });
     const std::string& custom = globals.scan.customFolder;
     const std::string folder = withBackslash(custom.empty() ? trim(utilities.getSysDir()) : custom);
 
     const CaseRules& cases = globals.cases;
-    const std::string wanted = cases.upper(extList);
     Files& files = platform.files;
     for (std::string name = files.firstName(folder); !name.empty(); name = files.nextName()) {
         const std::string tail = cases.upper(lastCharacters(name, 4));
-        if (name == "." || name == ".." || wanted.find(tail) == std::string::npos) {
+        if (name == "." || name == ".." || extList.find(tail) == std::string::npos) {
             continue;
         }
-        cntDLL += tail == ".DLL";
-        cntDRV += tail == ".DRV";
-        cntSYS += tail == ".SYS" || tail == ".386";
-        cntOCX += tail == ".OCX";
-        cntEXE += tail == ".EXE" || tail == ".COM";
-        cntPIF += tail == ".PIF"; // ".SCR" counts towards the total only.
+        for (const PassKind& kind : passKinds) {
+            if (kind.count && (tail == kind.ext1 || tail == kind.ext2)) {
+                ++(planned_.*kind.count);
+            }
+        }
+        planned_.cntPIF += tail == ".PIF";
         ++plan.grandTotal;
     }
 }
@@ -153,15 +141,14 @@ void IntCheck::countFolder(Plan& plan) {
 /// further one; the system directory is then current again.
 bool IntCheck::joinNextFolder(Plan& plan) {
     ScanRun& scan = globals.scan;
-    const std::string& file = globals.app.settFile;
     for (;;) {
         ++plan.slot;
-        const std::string list = settings.readIni(file, inShutDown() ? "args2" : "args", plan.slot);
+        const std::string list = settings.ofSlot(plan.slot, globals.app.inShutDown() ? "args2" : "args");
         if (lastCharacters(list, 1) == "1") {
             scan.customQueue += std::to_string(plan.slot) + ",";
             scan.want(false);
             wantFrom(list);
-            scan.customFolder = settings.readIni(file, "path", plan.slot);
+            scan.customFolder = settings.ofSlot(plan.slot, "path");
             return true;
         }
         if (plan.slot > folderSlots) {

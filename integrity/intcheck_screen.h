@@ -1,5 +1,6 @@
 #pragma once
 
+#include "avshell/scanner_command.h"
 #include "ui/controls/controls.h"
 
 #include <array>
@@ -88,6 +89,8 @@ struct IntCheckScreen : Screen {
     TextBox Text2{*this, at(0, 0, 8, 8), false};
     TextBox textav1{*this, at(0, 0, 8, 8), false};
     TextBox textav2{*this, at(0, 0, 8, 8), false};
+    const ScannerFields first{Text1, Text2};
+    const ScannerFields second{textav1, textav2};
     FlatButton Command1{*this, "", at(0, 0, 8, 8)};
 
     // Progress figures, read back as texts.

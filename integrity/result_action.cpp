@@ -70,7 +70,7 @@ ResultAction::ResultAction(IntCheckScreen& screen, const Services& services, Che
     , scanner_(scanner)
     , logFiles_(logFiles) {}
 
-void ResultAction::Label12_Click() {
+void ResultAction::act() {
     if (globals.scan.accepting) {
         return;
     }
@@ -107,8 +107,7 @@ bool ResultAction::handOver() {
                  "can scan them for viruses later)."});
     }
     std::string all;
-    const bool inShutDown = globals.app.shutAction != -1;
-    if (startScanners(noScanner, all) == Handed::All && !inShutDown) {
+    if (startScanners(noScanner, all) == Handed::All && !globals.app.inShutDown()) {
         if (globals.baselines.primaryBuild) {
             return false;
         }
@@ -132,8 +131,7 @@ bool ResultAction::handOver() {
 /// Hands the list over in batches and collects them in `all`. Without a scanner the walk ends at the first
 /// batch, so that only this one reaches the report.
 ResultAction::Handed ResultAction::startScanners(bool noScanner, std::string& all) {
-    const ScannerPair scanners{{screen_.Text1.Caption(), screen_.Text2.Caption()},
-                               {screen_.textav1.Caption(), screen_.textav2.Caption()}};
+    const ScannerPair scanners{screen_.first.command(), screen_.second.command()};
     // One row past the end, which reads as empty and only hands over the last batch.
     const int lastRow = screen_.List1.count();
     const bool ended = scanner_.batch(
@@ -160,7 +158,7 @@ void ResultAction::acceptFindings() {
         platform.dialogs.message({.text = "Initial Custom Folder Scan Completed Successfully!"});
         return;
     }
-    const bool runWithSwitch = !globals.app.cmdLine.empty() && globals.app.shutAction == -1;
+    const bool runWithSwitch = !globals.app.cmdLine.empty() && !globals.app.inShutDown();
     if (runWithSwitch && globals.settings.autoScanFailed) {
         platform.processes.end();
     }
@@ -265,7 +263,7 @@ void ResultAction::queueForCustom(const SearchIndex& copy, const std::string& it
 
 void ResultAction::SpecialSave(int slot) {
     std::string pending = std::exchange(passFolderList[static_cast<std::size_t>(slot - 1)], {});
-    if (settings.readIni(globals.app.settFile, "path", slot) == "NULL") {
+    if (settings.ofSlot(slot, "path") == "NULL") {
         return; // The folder was removed after its scan.
     }
     const std::string file = checksum_.getCustomDat(slot);

@@ -36,7 +36,7 @@ public:
     /// The action, by click or by itself at the end of a scan. A scanner that cannot be started ends it with
     /// a message; nothing is logged or accepted then, and it can be tried again. It is not entered a second
     /// time while it runs.
-    void Label12_Click();
+    void act();
 
     /// Accepts every listed finding into the baseline it belongs to and saves the baselines. Failures are
     /// passed over, but false when a baseline could not be saved: the user has been told, and the findings

@@ -64,7 +64,8 @@ void LogBrowser::load() {
     screen_.TreeView2.clear();
     Files& files = platform.files;
     std::vector<std::string> names;
-    for (std::string name = files.firstName(folder()); !name.empty(); name = files.nextName()) {
+    for (std::string name = files.firstName(globals.app.logFolder()); !name.empty();
+         name = files.nextName()) {
         if (name != "." && name != ".." && isReport(globals.cases, name)) {
             names.push_back(name);
         }
@@ -133,17 +134,16 @@ void LogBrowser::fillReport(std::string text) {
 }
 
 void LogBrowser::scan() {
-    const auto first = splitExeAndArgs(settings.getSetting("ANTIVIRUS")).value_or(ExeAndArgs{});
-    const auto second = splitExeAndArgs(settings.getSetting("AV2")).value_or(ExeAndArgs{});
+    const ScannerPair scanners = ScannerPair::stored(settings);
     try {
         scanner_.batch(
             1, screen_.List4.count() - 1, [this](int row) { return screen_.List4.item(row); },
             [&](const std::vector<std::string>& items) {
-                scanner_.startBoth({{first.exe, first.args}, {second.exe, second.args}}, items);
+                scanner_.startBoth(scanners, items);
                 return true;
             });
     } catch (const Failure&) {
-        platform.dialogs.message({.text = couldNotBeExecuted(first.exe)});
+        platform.dialogs.message({.text = couldNotBeExecuted(scanners.first.exe)});
         return;
     }
     platform.dialogs.message({.text = "Anti-Virus program executed successfully!"});
@@ -168,13 +168,14 @@ void LogBrowser::deleteAll() {
     }
     Files& files = platform.files;
     std::vector<std::string> names;
-    for (std::string name = files.firstName(folder()); !name.empty(); name = files.nextName()) {
+    for (std::string name = files.firstName(globals.app.logFolder()); !name.empty();
+         name = files.nextName()) {
         names.push_back(name);
     }
     for (const std::string& name : names) {
         platform.messages.pump();
         if (isReport(globals.cases, name)) {
-            files.remove(folder() + name);
+            files.remove(globals.app.logFolder() + name);
         }
         platform.messages.pump();
     }
@@ -227,13 +228,9 @@ bool LogBrowser::confirms(const std::string& question) const {
     return platform.dialogs.message({.text = question, .buttons = Buttons::YesNo}) == Answer::Yes;
 }
 
-std::string LogBrowser::folder() const {
-    return globals.app.appPath + "Data\\Log\\";
-}
-
 std::string LogBrowser::fileOf(const Tree::Node& node) const {
     const std::string date = node.parent ? node.parent->text : std::string();
-    return folder() + date + "(" + reportTimeStored(globals.cases, node.text) + ").log";
+    return globals.app.logFolder() + date + "(" + reportTimeStored(globals.cases, node.text) + ").log";
 }
 
 } // namespace tarvelon

@@ -35,7 +35,6 @@ private:
     void backToTree();
 
     bool confirms(const std::string& question) const;
-    std::string folder() const;
     std::string fileOf(const Tree::Node& node) const;
 
     LogControls& screen_;

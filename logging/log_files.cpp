@@ -43,7 +43,7 @@ bool LogFiles::passesGate(const std::string& listText) {
     if (trim(listText).empty() || listText.find('.') == std::string::npos) {
         return false;
     }
-    if (globals.app.shutAction != -1) {
+    if (globals.app.inShutDown()) {
         globals.shutDown.scanLogged = 1;
     }
     return autoLogging_.value() != 0;
@@ -54,7 +54,7 @@ std::string LogFiles::fileName() const {
                        reportTimeStored(globals.cases, platform.clock.timeText()) + ").log";
     // Letters that the code page lacks come as "?", in the date or where other systems have AM and PM.
     std::replace_if(name.begin(), name.end(), fitsNoFileName, '_');
-    return globals.app.appPath + "Data\\Log\\" + name;
+    return globals.app.logFolder() + name;
 }
 
 } // namespace tarvelon

@@ -85,7 +85,7 @@ void Detection::showEntry(const Location& location, int groupIndex, std::string 
 void Detection::showOutcome() {
     const bool warnings = screen_.List5.count() > 1;
     if (!warnings) {
-        screen_.List5.add("*No new or modified Registry Entries*");
+        screen_.List5.add(RegPageControls::noWarnings);
     }
     screen_.cScnUpd.Enabled = warnings;
 }

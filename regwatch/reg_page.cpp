@@ -23,7 +23,6 @@ namespace {
 
 constexpr const char* scanOne = "Scan File for Viruses";
 constexpr const char* scanAll = "Scan all Files for Viruses";
-constexpr const char* noWarnings = "*No new or modified Registry Entries*";
 constexpr const char* deletedMark = " {To be Deleted}";
 constexpr const char* overwrittenMark = " {To be Overwritten}";
 constexpr std::string_view rowEnd = ") ";
@@ -45,14 +44,14 @@ RegPage::RegPage(RegPageControls& screen, const Services& services, const Scanne
 }
 
 void RegPage::bind() {
-    screen_.Command1.onClick = [this] { Command1_Click(); };
-    screen_.Command3.onClick = [this] { Command3_Click(); };
-    screen_.Command11.onClick = [this] { Command11_Click(); };
-    screen_.cScnUpd.onClick = [this] { cScnUpd_Click(); };
-    screen_.cMod.onClick = [this] { cMod_Click(); };
-    screen_.List5.onClick = [this] { List5_Click(); };
-    screen_.List6.onClick = [this] { List6_Click(); };
-    screen_.TreeView1.onNodeClick = [this] { TreeView1_NodeClick(); };
+    screen_.Command1.onClick = [this] { refresh(); };
+    screen_.Command3.onClick = [this] { deleteSelected(); };
+    screen_.Command11.onClick = [this] { scanSelected(); };
+    screen_.cScnUpd.onClick = [this] { scanAndUpdate(); };
+    screen_.cMod.onClick = [this] { showPending(); };
+    screen_.List5.onClick = [this] { selectWarning(); };
+    screen_.List6.onClick = [this] { selectPending(); };
+    screen_.TreeView1.onNodeClick = [this] { selectNode(); };
     screen_.TreeView1.onExpandOrCollapse = [this] { enableEntryButtons(false); };
 }
 
@@ -66,7 +65,7 @@ void RegPage::enableEntryButtons(bool enabled) {
     screen_.Command11.Enabled = enabled;
 }
 
-void RegPage::Command1_Click() {
+void RegPage::refresh() {
     screen_.Command11.Caption = scanOne;
     screen_.TreeView1.Visible = true;
     screen_.List6.Visible = false;
@@ -75,9 +74,9 @@ void RegPage::Command1_Click() {
 
 // ---- Selection
 
-void RegPage::List5_Click() {
+void RegPage::selectWarning() {
     const int index = screen_.List5.listIndex();
-    const bool entry = screen_.List5.item(1) != noWarnings && index > 0;
+    const bool entry = screen_.List5.item(1) != RegPageControls::noWarnings && index > 0;
     enableEntryButtons(entry);
     if (!entry) {
         return;
@@ -95,7 +94,7 @@ void RegPage::List5_Click() {
     screen_.List5.ToolTip = row;
 }
 
-void RegPage::TreeView1_NodeClick() {
+void RegPage::selectNode() {
     const Tree::Node* node = screen_.TreeView1.selected();
     const std::string parent = node && node->parent ? node->parent->text : std::string();
     const bool entry = node && !parent.empty() && parent.substr(0, 4) != "HKEY";
@@ -109,7 +108,7 @@ void RegPage::TreeView1_NodeClick() {
     selEntry = before(path, '\\') + "|" + getBetween(globals.cases, path, 1, "\\", "\\");
 }
 
-void RegPage::List6_Click() {
+void RegPage::selectPending() {
     const bool selected = screen_.List6.listIndex() >= 0;
     if (selected &&
         screen_.List6.text() != "The Following Files are to be Deleted or Overwritten on the next Reboot.") {
@@ -119,7 +118,7 @@ void RegPage::List6_Click() {
 
 // ---- Deleting
 
-void RegPage::Command3_Click() {
+void RegPage::deleteSelected() {
     const std::string root = before(selEntry, '|');
     const std::string location = selEntry.substr(std::min(selEntry.size(), root.size() + 1));
     if (location.substr(0, 1) == "S") {
@@ -152,7 +151,7 @@ void RegPage::deleteValue(const std::string& root, const std::string& location) 
     }
     screen_.Text4.Caption = "";
     screen_.Command3.Enabled = false;
-    Command1_Click(); // Whether the value has gone shows in the lists.
+    refresh(); // Whether the value has gone shows in the lists.
 }
 
 void RegPage::offerRegistryEditor() {
@@ -169,9 +168,9 @@ void RegPage::offerRegistryEditor() {
 
 // ---- Scanning and accepting
 
-void RegPage::Command11_Click() {
+void RegPage::scanSelected() {
     if (screen_.Command11.Caption() == scanAll) {
-        cScnUpd_Click();
+        scanAndUpdate();
         return;
     }
     const CutPath cut = cutToFilePath(screen_.Label19.Caption(), utilities);
@@ -186,7 +185,7 @@ void RegPage::Command11_Click() {
     runBoth({path});
 }
 
-void RegPage::cScnUpd_Click() {
+void RegPage::scanAndUpdate() {
     const bool pending = screen_.List6.Visible();
     const ListBox& source = pending ? screen_.List6 : screen_.List5;
     if (source.count() == 1) {
@@ -213,12 +212,12 @@ void RegPage::cScnUpd_Click() {
 
 /// The rows stay as they are. In a shut-down nobody is asked, but the end must not say that all is clean.
 void RegPage::refuseToAccept() {
-    if (globals.app.shutAction != -1) {
+    if (globals.app.inShutDown()) {
         globals.shutDown.scanLogged = 1;
         return;
     }
     std::string exe;
-    passOver([&] { exe = stored("ANTIVIRUS").exe; });
+    passOver([&] { exe = ScannerPair::stored(settings).first.exe; });
     platform.dialogs.message({.text = couldNotBeExecuted(exe)});
 }
 
@@ -239,7 +238,7 @@ std::string RegPage::rowToScan(int row) {
 /// The row's file as it stands on a command line; empty when it cannot be found.
 std::string RegPage::fileOfRow(const std::string& row) {
     const CutPath cut = cutToFilePath(row, utilities);
-    if (!cut.path && globals.app.shutAction == -1) {
+    if (!cut.path && !globals.app.inShutDown()) {
         platform.dialogs.message(
             {.text = "Unable to find the file: " + cut.text + "\r\nPlease scan manually."});
     }
@@ -251,7 +250,7 @@ std::string RegPage::fileOfRow(const std::string& row) {
 bool RegPage::runBoth(const std::vector<std::string>& files) const {
     bool handedOver = false;
     passOver([&] {
-        const ScannerPair scanners{stored("ANTIVIRUS"), stored("AV2")};
+        const ScannerPair scanners = ScannerPair::stored(settings);
         handedOver = true;
         for (const std::string& list : scanners.lists(files)) {
             handedOver &= run(scanners.first, list);
@@ -270,14 +269,9 @@ bool RegPage::run(const ScannerCommand& scanner, const std::string& list) const 
     return started || !utilities.fileThere(scanner.exe);
 }
 
-ScannerCommand RegPage::stored(const std::string& request) const {
-    const ExeAndArgs scanner = splitExeAndArgs(settings.getSetting(request)).value_or(ExeAndArgs{});
-    return {scanner.exe, scanner.args};
-}
-
 // ---- Pending boot operations
 
-void RegPage::cMod_Click() {
+void RegPage::showPending() {
     enableEntryButtons(false);
     screen_.cScnUpd.Enabled = false;
     screen_.Command11.Caption = scanAll;

@@ -26,24 +26,23 @@ public:
     /// Hands the files behind all rows of the shown list to the scanners, and accepts the registry as it
     /// stands; what could not be handed over to a scanner that is there is told, and nothing is accepted
     /// then. Also called by the shut-down, which asks and tells nothing.
-    void cScnUpd_Click();
+    void scanAndUpdate();
 
 private:
     void bind();
-    void Command1_Click();
-    void List5_Click();
-    void TreeView1_NodeClick();
-    void List6_Click();
-    void Command3_Click();
+    void refresh();
+    void selectWarning();
+    void selectNode();
+    void selectPending();
+    void deleteSelected();
     void deleteValue(const std::string& root, const std::string& location);
     void offerRegistryEditor();
-    void Command11_Click();
-    void cMod_Click();
+    void scanSelected();
+    void showPending();
     std::string rowToScan(int row);
     std::string fileOfRow(const std::string& row);
     bool runBoth(const std::vector<std::string>& files) const;
     bool run(const ScannerCommand& scanner, const std::string& list) const;
-    ScannerCommand stored(const std::string& request) const;
     void refuseToAccept();
     void enableEntryButtons(bool enabled);
 

@@ -15,6 +15,9 @@ struct RegPageControls {
         List6.name = "Files pending for the next restart";
     }
 
+    /// Row 1 of the warnings when there are none; code compares it.
+    static constexpr const char* noWarnings = "*No new or modified Registry Entries*";
+
     Frame regF;
     ListBox List5{regF, at(16, 16, 568, 112)};
     Tree TreeView1{regF, at(16, 136, 568, 224)};

@@ -11,6 +11,7 @@
 #include "platform/platform.h"
 #include "platform/processes.h"
 #include "regwatch/pending_files.h"
+#include "regwatch/reg_page_controls.h"
 #include "shutdown/logoff_screen.h"
 #include "shutdown/power_action.h"
 #include "shutdown/sprog_screen.h"
@@ -29,7 +30,7 @@ Sequence::Sequence(LogoffScreen& logoff, SProgScreen& sProg, const ListBox& warn
     , scanner_(scanner)
     , logFiles_(logFiles)
     , power_(power) {
-    logoff_.Timer1.onTick = [this] { Timer1_Tick(); };
+    logoff_.Timer1.onTick = [this] { countDown(); };
     sProg_.Command1.onClick = [this] { power_.ShutDown(globals.app.shutAction); };
     sProg_.onQueryClose = [this] { return queryClose(); };
 }
@@ -108,8 +109,7 @@ std::string Sequence::item(const std::string& file) const {
 /// The second scanner starts even when there is nothing to hand over. One that cannot be started goes
 /// unnoticed.
 void Sequence::runScanners(const std::vector<std::string>& batch) {
-    const ScannerPair scanners{{scanners_.Text5.Caption(), scanners_.Text6.Caption()},
-                               {scanners_.Text1.Caption(), scanners_.Text2.Caption()}};
+    const ScannerPair scanners{scanners_.first.command(), scanners_.second.command()};
     const auto run = [this](const ScannerCommand& scanner, const std::string& list) {
         passOver([&] { scanner_.runScanner(scanner.exe, scanner.arguments(list)); });
     };
@@ -141,7 +141,7 @@ void Sequence::PreShut1() {
 /// No scan's end will bring what follows.
 void Sequence::goOnWithoutScan(const Failure& failure) {
     tellUnscanned(platform, failure);
-    if (globals.app.shutAction == -1) {
+    if (!globals.app.inShutDown()) {
         platform.processes.end();
     }
     globals.shutDown.scanLogged = 1; // The machine must not go down as if all were well.
@@ -151,9 +151,9 @@ void Sequence::goOnWithoutScan(const Failure& failure) {
 void Sequence::PreShut2() {
     status("Scanning Registry...");
     hooks.setReg();
-    if (warnings_.item(1) != "*No new or modified Registry Entries*") {
+    if (warnings_.item(1) != RegPageControls::noWarnings) {
         status("Found Modified Registry Entries...");
-        hooks.cScnUpd();
+        hooks.scanAndUpdate();
     }
     startCountDown();
 }
@@ -175,7 +175,7 @@ void Sequence::startCountDown() {
 
 /// The clock goes on behind the second minute. The action comes once: refused, it is not tried again, and a
 /// machine that has slept meanwhile is left awake.
-void Sequence::Timer1_Tick() {
+void Sequence::countDown() {
     sProg_.ProgressBar1.setValue(sProg_.ProgressBar1.value() + 1);
     if (++secondsPast == 60) {
         secondsPast = 0;

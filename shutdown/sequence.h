@@ -18,9 +18,9 @@ class Scanner;
 
 /// What the sequence calls in other subsystems.
 struct SequenceHooks {
-    std::function<void()> loadUp;  ///< Plans the integrity scan and starts it.
-    std::function<void()> setReg;  ///< A pass over the watched registry locations.
-    std::function<void()> cScnUpd; ///< Scans and accepts the registry warnings.
+    std::function<void()> loadUp;        ///< Plans the integrity scan and starts it.
+    std::function<void()> setReg;        ///< A pass over the watched registry locations.
+    std::function<void()> scanAndUpdate; ///< Scans and accepts the registry warnings.
 };
 
 /// The scans between the choice of a shut-down and the machine going down: files pending for the next boot,
@@ -46,7 +46,7 @@ private:
     void PreShut1();
     void goOnWithoutScan(const Failure& failure);
     void startCountDown();
-    void Timer1_Tick();
+    void countDown();
     bool queryClose();
 
     void runScanners(const std::vector<std::string>& batch);

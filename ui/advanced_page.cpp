@@ -47,7 +47,7 @@ AdvancedPage::AdvancedPage(AdvancedControls& screen, const Services& services, C
     : Services(services)
     , screen_(screen)
     , checksum_(checksum) {
-    screen_.cSave2.onClick = [this] { cSave2_Click(); };
+    screen_.cSave2.onClick = [this] { save(); };
     screen_.Check10.onClick = [this] { showWarning(screen_.Check10, screen_.Check11, screen_.Label1); };
     screen_.Check11.onClick = [this] { showWarning(screen_.Check11, screen_.Check10, screen_.Label1); };
 }
@@ -61,7 +61,7 @@ void AdvancedPage::opened() {
     screen_.wsh.setValue(values.useWsh != 0);
 }
 
-void AdvancedPage::cSave2_Click() {
+void AdvancedPage::save() {
     Settings& values = globals.settings;
     takeChosen(screen_.bufferOptions, values.readBuffer);
     takeChosen(screen_.passOptions, values.passCount);
@@ -70,13 +70,11 @@ void AdvancedPage::cSave2_Click() {
     values.useWsh = static_cast<std::int16_t>(screen_.wsh.value());
 
     settings.checkSettFile();
-    const auto write = [this](const char* key, const std::string& value) {
-        settings.writeEntry(globals.app.settFile, key, value, "Tarvelon");
-    };
-    write("advanced", std::to_string(values.readBuffer) + "," + std::to_string(values.passCount) + "," +
-                          std::to_string(values.useWsh));
-    write("antivirus2", joinValues(screen_.shellChecks));
-    write("algo", values.algoName);
+    settings.saveSetting("advanced", std::to_string(values.readBuffer) + "," +
+                                         std::to_string(values.passCount) + "," +
+                                         std::to_string(values.useWsh));
+    settings.saveSetting("antivirus2", joinValues(screen_.shellChecks));
+    settings.saveSetting("algo", values.algoName);
     platform.dialogs.message({.text = "Save Success!"});
 }
 

@@ -17,7 +17,7 @@ public:
     void opened();
 
 private:
-    void cSave2_Click();
+    void save();
 
     AdvancedControls& screen_;
     Checksum& checksum_;

@@ -25,14 +25,14 @@ void MForm1::bind() {
         return true;
     };
     screen_.cButton9.onClick = [this] { screen_.close(); };
-    screen_.cAbout.onClick = [this] { cAbout_Click(); };
+    screen_.cAbout.onClick = [this] { showAbout(); };
     screen_.cButton7.onClick = screen_.cAbout.onClick;
-    screen_.cButton4.onClick = [this] { cButton4_Click(); };
+    screen_.cButton4.onClick = [this] { showHelp(); };
     screen_.cButton6.onClick = screen_.cButton4.onClick;
     screen_.chlp.onClick = screen_.cButton4.onClick;
     screen_.cButton5.onClick = [this] { siteClick(); };
-    screen_.Label37.onClick = [this] { Label37_Click(); };
-    screen_.cUpdates.onClick = [this] { cUpdates_Click(); };
+    screen_.Label37.onClick = [this] { writeToSupport(); };
+    screen_.cUpdates.onClick = [this] { checkForUpdates(); };
     screen_.addRem.onClick = [this] { hooks.showCustomFolders(); };
     screen_.cButton10.onClick = [this] { hooks.showScanners(); };
     bindPages();
@@ -118,14 +118,14 @@ void MForm1::backToOptions(Frame& page) {
     screen_.setFq.Visible = true;
 }
 
-void MForm1::cAbout_Click() {
+void MForm1::showAbout() {
     const auto version = platform_.processes.programVersion();
     screen_.Label33.Caption = "Version: " + std::to_string(version[0]) + "." + std::to_string(version[1]) +
                               "." + std::to_string(version[2]);
     open(nullptr, screen_.Frame2);
 }
 
-void MForm1::cButton4_Click() {
+void MForm1::showHelp() {
     if (platform_.shell.open("index.html", app_.appPath + "Help\\") != Shell::fileNotFound) {
         return;
     }
@@ -156,7 +156,7 @@ void MForm1::visitMaker(const char* address) {
     }
 }
 
-void MForm1::Label37_Click() {
+void MForm1::writeToSupport() {
     const auto version = platform_.processes.programVersion();
     const std::string subject = "Tarvelon(v" + std::to_string(version[0]) + "." + std::to_string(version[1]) +
                                 "." + std::to_string(version[2]) + ")";
@@ -167,7 +167,7 @@ void MForm1::Label37_Click() {
     }
 }
 
-void MForm1::cUpdates_Click() {
+void MForm1::checkForUpdates() {
     std::string folder;
     {
         RegClass key(platform_.registry);

@@ -39,12 +39,12 @@ private:
     void open(NavButton* entry, Frame& page);
     void backToOptions(Frame& page);
 
-    void cAbout_Click();
-    void cButton4_Click();
+    void showAbout();
+    void showHelp();
     void siteClick();
     void visitMaker(const char* address);
-    void Label37_Click();
-    void cUpdates_Click();
+    void writeToSupport();
+    void checkForUpdates();
 
     MForm1Screen& screen_;
     const AppState& app_;

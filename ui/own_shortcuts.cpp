@@ -19,7 +19,7 @@ void OwnShortcuts::createAutoLoad() {
     }
 }
 
-void OwnShortcuts::cCreateSS_Click() {
+void OwnShortcuts::createShutDown() {
     const std::string path = shutDownShortcut();
     if (!utilities.fileThere(path)) {
         make(path, {"/s", "SecureShutDown"});

@@ -17,7 +17,7 @@ public:
     void createAutoLoad();
 
     /// Asks where the shortcut that shuts the machine down shall lie, and makes it unless it lies there.
-    void cCreateSS_Click();
+    void createShutDown();
 
 private:
     struct Kind {

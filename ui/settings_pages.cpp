@@ -1,7 +1,6 @@
 #include "ui/settings_pages.h"
 
 #include "avshell/s_avir_screen.h"
-#include "avshell/scanner_fields.h"
 #include "core/failure.h"
 #include "core/globals.h"
 #include "core/settings_file.h"
@@ -46,7 +45,7 @@ SettingsPages::SettingsPages(SettingsControls& screen, AdvancedControls& advance
     , advanced_(advanced)
     , scanners_(scanners)
     , shortcuts_(shortcuts) {
-    screen_.cSave.onClick = [this] { cSave_Click(); };
+    screen_.cSave.onClick = [this] { save(); };
 }
 
 void SettingsPages::loadSettings() {
@@ -55,10 +54,7 @@ void SettingsPages::loadSettings() {
             return;
         }
         globals.settings.autoScanFailed = screen_.Check8.value() == 1;
-        passOver([this] {
-            fillScannerFields(settings.getSetting("ANTIVIRUS"), scanners_.Text5, scanners_.Text6);
-        });
-        passOver([this] { fillScannerFields(settings.getSetting("AV2"), scanners_.Text1, scanners_.Text2); });
+        fillBoth(settings, scanners_.first, scanners_.second);
         if (!loadShellOptions()) {
             return;
         }
@@ -107,7 +103,7 @@ bool SettingsPages::loadShellOptions() {
 
 /// Every save starts from no shortcut, so that an old one is never left in place of a new one. Whether the
 /// shortcut and the settings reached the disk is not looked at.
-void SettingsPages::cSave_Click() {
+void SettingsPages::save() {
     settings.checkSettFile();
     const std::string shortcut = autoLoadShortcut(platform);
     if (utilities.fileThere(shortcut)) {
@@ -116,9 +112,8 @@ void SettingsPages::cSave_Click() {
     if (screen_.Check1.value() == 1) {
         shortcuts_.createAutoLoad();
     }
-    const std::string& file = globals.app.settFile;
-    settings.writeEntry(file, "settings", joinValues(screen_.autoLoadChecks), "Tarvelon");
-    settings.writeEntry(file, "settings2", joinValues(screen_.shutDownChecks), "Tarvelon");
+    settings.saveSetting("settings", joinValues(screen_.autoLoadChecks));
+    settings.saveSetting("settings2", joinValues(screen_.shutDownChecks));
     globals.settings.autoScanFailed = screen_.Check8.value() == 1;
     platform.dialogs.message({.text = "Settings Saved Successfully"});
 }

@@ -23,7 +23,7 @@ public:
     void loadSettings();
 
 private:
-    void cSave_Click();
+    void save();
     bool loadAutoLoad();
     bool loadAdvanced();
     bool loadShellOptions();

@@ -58,11 +58,11 @@ SpeedComparison::SpeedComparison(AdvancedControls& screen, const Services& servi
     : Services(services)
     , screen_(screen)
     , checksum_(checksum) {
-    screen_.cSpeeds.onClick = [this] { cSpeeds_Click(); };
-    screen_.List1.onClick = [this] { List1_Click(); };
+    screen_.cSpeeds.onClick = [this] { compare(); };
+    screen_.List1.onClick = [this] { drawSelected(); };
 }
 
-void SpeedComparison::cSpeeds_Click() {
+void SpeedComparison::compare() {
     const Session session(screen_, globals.settings);
     const std::string file = globals.app.appPath + "TarvelonLow.exe";
     const auto length = platform.files.length(file);
@@ -114,7 +114,7 @@ float SpeedComparison::measure(const std::string& file, int repetitions) {
     return now() - start;
 }
 
-void SpeedComparison::List1_Click() {
+void SpeedComparison::drawSelected() {
     const auto test = static_cast<std::size_t>(screen_.List1.listIndex()) / rowsOfTest;
     if (test < tests_.size()) {
         draw(tests_[test]);

@@ -30,10 +30,10 @@ private:
         std::optional<std::size_t> quickest;
     };
 
-    void cSpeeds_Click();
+    void compare();
     void run(Test& test, const std::string& file, std::uint64_t length);
     float measure(const std::string& file, int repetitions);
-    void List1_Click();
+    void drawSelected();
     void draw(const Test& test);
 
     AdvancedControls& screen_;

@@ -3,7 +3,6 @@
 #include "avshell/known_scanners.h"
 #include "avshell/s_avir_screen.h"
 #include "avshell/scanner.h"
-#include "avshell/scanner_fields.h"
 #include "core/failure.h"
 #include "core/globals.h"
 #include "core/settings_file.h"
@@ -12,6 +11,7 @@
 #include "platform/dialogs.h"
 #include "platform/files.h"
 #include "platform/platform.h"
+#include "ui/join_values.h"
 #include "ui/shortcuts.h"
 #include "ui/wizard_screen.h"
 
@@ -53,11 +53,11 @@ void Wizard::bind() {
     };
     screen_.onMouseMove = plain;
     screen_.desc.onMouseMove = plain;
-    screen_.locate.onClick = [this] { locate_Click(); };
+    screen_.locate.onClick = [this] { locate(); };
     screen_.helpme.onClick = [this] { hooks.showCatalogue(); };
     screen_.Command1.onClick = [this] { scanner_.test(screen_.vpath.Caption()); };
-    screen_.cButton1.onClick = [this] { hooks.cCreateSS(); };
-    screen_.Command2.onClick = [this] { Command2_Click(); };
+    screen_.cButton1.onClick = [this] { hooks.createShutDown(); };
+    screen_.Command2.onClick = [this] { save(); };
 }
 
 void Wizard::bindStep(Label& label, Hover number) {
@@ -92,7 +92,7 @@ void Wizard::LoadUp() {
     for (std::size_t i = 0; i < screen_.settingChecks.size() && i < values.size(); ++i) {
         screen_.settingChecks[i]->setValue(toNumber(values[i]).value_or(0) != 0);
     }
-    fillScannerFields(settings.getSetting("ANTIVIRUS"), screen_.vpath, screen_.varg);
+    screen_.scanner.fill(settings.getSetting("ANTIVIRUS"));
     NextFrame();
 }
 
@@ -234,7 +234,7 @@ void Wizard::cancel() {
     }
 }
 
-void Wizard::locate_Click() {
+void Wizard::locate() {
     const std::string file = utilities.openFileBox(scannerBoxTitle, scannerBoxFilter());
     screen_.vpath.Caption = file.substr(0, file.find('\0'));
     const char* arguments = defaultArguments(scannerFamily(globals.cases, screen_.vpath.Caption()));
@@ -242,26 +242,20 @@ void Wizard::locate_Click() {
     scanners_.Text6.Caption = arguments;
 }
 
-void Wizard::Command2_Click() {
+void Wizard::save() {
     passOver([&] { settings.checkSettFile(); });
     if (screen_.aload.value() == 1) {
         hooks.createAutoLoad();
     } else {
         platform.files.remove(autoLoadShortcut(platform));
     }
-    std::string list;
-    for (const FlatCheck* check : screen_.settingChecks) {
-        list += (list.empty() ? "" : ",") + std::to_string(check->value());
-    }
-    const std::string& file = globals.app.settFile;
-    settings.writeEntry(file, "settings", list, "Tarvelon");
+    settings.saveSetting("settings", joinValues(screen_.settingChecks));
     if (!utilities.fileThere(screen_.vpath.Caption())) {
         platform.dialogs.message({.text = noScannerNotice});
         screen_.vpath.Caption = SAvirScreen::noScanner;
         screen_.varg.Caption = " ";
     }
-    settings.writeEntry(file, "antivirus", screen_.vpath.Caption() + "|" + screen_.varg.Caption(),
-                        "Tarvelon");
+    settings.saveSetting("antivirus", screen_.scanner.command().setting());
     globals.settings.autoScanFailed = screen_.Check6.value() == 1;
     platform.dialogs.message({.text = "Settings Saved Successfully!"});
     screen_.hide();

@@ -19,7 +19,7 @@ class Scanner;
 struct WizardHooks {
     std::function<void()> showCatalogue;  ///< For the first scanner.
     std::function<void()> createAutoLoad; ///< Makes the log-on shortcut in the way that is set.
-    std::function<void()> cCreateSS;      ///< Makes the shut-down shortcut, with its questions.
+    std::function<void()> createShutDown; ///< Makes the shut-down shortcut, with its questions.
 };
 
 /// Walks a new user through the main settings. Nothing is written before the last page's Save.
@@ -50,8 +50,8 @@ private:
 
     void next();
     void cancel();
-    void locate_Click();
-    void Command2_Click();
+    void locate();
+    void save();
 
     WizardScreen& screen_;
     const Scanner& scanner_;

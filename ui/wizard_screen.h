@@ -1,5 +1,6 @@
 #pragma once
 
+#include "avshell/scanner_command.h"
 #include "ui/controls/controls.h"
 
 #include <array>
@@ -21,6 +22,7 @@ struct WizardScreen : Screen {
     FlatButton locate{*this, "Locate...", at(472, 212, 136, 32)};
     Label Label4{*this, "Extra Arguments", at(32, 256, 144, 24)};
     TextBox varg{*this, at(184, 256, 280, 24)};
+    const ScannerFields scanner{vpath, varg};
     FlatButton helpme{*this, "Help Me!", at(472, 252, 136, 32)};
     FlatButton Command1{*this, "Test It!", at(32, 216, 136, 32)};
 

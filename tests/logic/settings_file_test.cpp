@@ -77,7 +77,7 @@ TEST_F(SettingsTest, EachWriteIsOnTheDiskAndOthersChangesAreSeen) {
     EXPECT_EQ(read("k"), "");
     EXPECT_EQ(settings.writeEntry(path, "path", "C:\\" + std::string(300, 'x'), "7"), true);
     EXPECT_EQ(content().find("k="), std::string::npos) << "Nothing of the removed file comes back";
-    EXPECT_EQ(settings.readIni(path, "PATH", 7).size(), 249u);
+    EXPECT_EQ(settings.readIni(path, "PATH", "7").size(), 249u);
 }
 
 TEST_F(SettingsTest, AFailedWriteLosesNothing) {
