@@ -4,11 +4,11 @@
 #include "avshell/s_avir_screen.h"
 #include "avshell/scanner.h"
 #include "core/globals.h"
+#include "core/maker.h"
 #include "core/utilities.h"
 #include "platform/dialogs.h"
 #include "platform/platform.h"
 #include "platform/shell.h"
-#include "ui/maker.h"
 
 namespace tarvelon {
 

@@ -19,20 +19,12 @@ SAvir::SAvir(SAvirScreen& screen, const Services& services)
 
 void SAvir::bind() {
     screen_.onLoad = [this] { fillBoth(settings, screen_.first, screen_.second); };
-    screen_.onMouseMove = [this] { norms(); };
     screen_.cChoose.onClick = [this] { chooseFirst(); };
     screen_.cButton10.onClick = [this] { chooseSecond(); };
     screen_.chlpFind.onClick = [this] { hooks.showHelp(false); };
     screen_.cButton1.onClick = [this] { hooks.showHelp(true); };
     screen_.cButton2.onClick = [this] { screen_.hide(); };
     screen_.cButton3.onClick = [this] { save(); };
-}
-
-void SAvir::norms() {
-    for (FlatButton* button : {&screen_.cChoose, &screen_.chlpFind, &screen_.cButton10, &screen_.cButton1,
-                               &screen_.cButton2, &screen_.cButton3}) {
-        button->downStatus(1);
-    }
 }
 
 /// The file that the user picks, or empty.

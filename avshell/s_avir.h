@@ -22,8 +22,6 @@ public:
 
     SAvirHooks hooks;
 
-    void norms();
-
 private:
     void bind();
     std::string choose() const;

@@ -57,7 +57,6 @@ void ICust::bind() {
         screen_.List4.add(row);
     }
     screen_.onQueryClose = [this] { return queryClose(); };
-    screen_.onMouseMove = [this] { norms(); };
     screen_.List1.onClick = [this] { showFolder(); };
     screen_.Check1.onClick = [this] { boxClicked(atStartup()); };
     screen_.List2.onClick = [this] { storeTypes(atStartup()); };
@@ -114,12 +113,6 @@ void ICust::startup() {
         screen_.List5.add(args2.empty() ? noTypes : args2);
     }
     custLoading = false;
-}
-
-void ICust::norms() {
-    for (FlatButton* button : {&screen_.cButton2, &screen_.Command2, &screen_.Command3}) {
-        button->downStatus(1);
-    }
 }
 
 void ICust::showFolder() {

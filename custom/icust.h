@@ -30,9 +30,6 @@ public:
     /// Fills the lists from the settings.
     void startup();
 
-    /// Takes the hover look off the flat buttons.
-    void norms();
-
 private:
     /// One of the two uses of a folder: its box, its types, and the rows where they are kept.
     struct Use {

@@ -1,13 +1,13 @@
 #include "ui/mform1.h"
 
 #include "core/globals.h"
+#include "core/maker.h"
 #include "platform/dialogs.h"
 #include "platform/platform.h"
 #include "platform/processes.h"
 #include "platform/registry.h"
 #include "platform/shell.h"
 #include "regwatch/reg_class.h"
-#include "ui/maker.h"
 #include "ui/mform1_screen.h"
 
 namespace tarvelon {
@@ -76,17 +76,9 @@ void MForm1::bindHover() {
     for (Frame* frame : {&screen_.settF, &screen_.qSett, &screen_.Frame2}) {
         frame->onMouseMove = [this] { norms(); };
     }
-    screen_.Frame1.onMouseMove = [this] {
-        screen_.cSave2.downStatus(1);
-        screen_.cSpeeds.downStatus(1);
-    };
-    screen_.advF.onMouseMove = [this] {
-        screen_.Frame1.onMouseMove();
-        screen_.cButton1.downStatus(1);
-    };
 }
 
-/// On a flat button this does nothing, so the check boxes are all that need it.
+/// The hover look of flat buttons goes by itself.
 void MForm1::norms() {
     for (Control* control : screen_.controls()) {
         if (control->kind() == ControlKind::FlatCheck) {

@@ -226,14 +226,6 @@ void ItemControl::replace(int index, std::string text) {
     }
 }
 
-void ItemControl::remove(int index) {
-    if (index >= 0 && index < count()) {
-        items_.erase(items_.begin() + index);
-        listIndex_ = -1;
-        changed(Aspect::Items);
-    }
-}
-
 void ItemControl::setListIndex(int index) {
     const int chosen = index >= 0 && index < count() ? index : -1;
     if (listIndex_ != chosen) {

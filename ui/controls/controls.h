@@ -134,9 +134,6 @@ class FlatButton : public Control {
 public:
     FlatButton(ControlParent parent, std::string caption, Rect place);
 
-    /// Takes any value and does nothing.
-    void downStatus(int) {}
-
     /// The caption's colour now.
     Color foreColor() const;
 
@@ -284,7 +281,6 @@ public:
     void add(std::string text);
     void clear();
     void replace(int index, std::string text);
-    void remove(int index);
 
     /// Selected row from 0, or -1. Set by code, it raises no click.
     int listIndex() const { return listIndex_; }

@@ -44,7 +44,6 @@ public:
     void show();
     /// A screen that is hidden by its own load handler stays hidden.
     void hide();
-    bool isLoaded() const { return loaded_; }
     /// True when the load handler, or something it called, asked for the screen to stay unseen.
     bool hiddenWhileLoading() const { return hiddenWhileLoading_; }
 
