@@ -47,9 +47,10 @@ void Application::bindScan() {
     const auto loadUp = [this] { scan.LoadUp(); };
     dataFile.buildCustomDat = [this](const std::string& folder, const std::string& file,
                                      const std::string& number) {
-        return baseline.buildCustomDat(folder, file, number);
+        return baselineBuilder.buildCustomDat(folder, file, number);
     };
-    baseline.hooks = {.showScan = [this] { intCheck.show(); }, .leaveScan = leaveScan, .loadUp = loadUp};
+    baselineBuilder.hooks = {
+        .showScan = [this] { intCheck.show(); }, .leaveScan = leaveScan, .loadUp = loadUp};
     folderScanPage.hooks = {
         .norms2 = [this] { mainForm.norms2(); }, .leaveScan = leaveScan, .loadUp = loadUp};
     resultAction.hooks = {.leaveScan = leaveScan, .undisturbed = [this](const std::function<void()>& action) {

@@ -7,14 +7,14 @@
 #include "avshell/s_avir.h"
 #include "avshell/s_avir_screen.h"
 #include "avshell/scanner.h"
+#include "core/func_mod.h"
 #include "core/globals.h"
 #include "core/services.h"
 #include "core/settings_file.h"
-#include "core/utilities.h"
 #include "custom/icust.h"
 #include "custom/icust_screen.h"
 #include "hash/checksum.h"
-#include "integrity/baseline.h"
+#include "integrity/baseline_builder.h"
 #include "integrity/comparison.h"
 #include "integrity/data_file.h"
 #include "integrity/folder_scan_page.h"
@@ -71,16 +71,16 @@ public:
     ICustScreen iCust;
     WizardScreen vDct;
 
-    Utilities utilities{platform};
+    FuncMod funcMod{platform};
     SettingsFile settingsFile{globals, platform};
-    const Services services{globals, platform, settingsFile, utilities};
+    const Services services{globals, platform, settingsFile, funcMod};
     Checksum checksum{globals.settings, globals, platform};
     Checksum scanChecksum{globals.scan.algorithm, globals, platform};
     SnapshotFile snapshotFile{services};
     DataFile dataFile{services};
-    Baseline baseline{services, dataFile, mForm1, mForm1.Combo1};
+    BaselineBuilder baselineBuilder{services, dataFile, mForm1, mForm1.Combo1};
     Comparison comparison{intCheck, sProg.ProgressBar1, services, scanChecksum, dataFile};
-    IntCheck scan{intCheck, services, scanChecksum, dataFile, baseline, comparison};
+    IntCheck scan{intCheck, services, scanChecksum, dataFile, baselineBuilder, comparison};
     Scanner scanner{mForm1.avfocus, services};
     LogFiles logFiles{mForm1.Check7, services};
     SAvir scannerChoice{s_avir, services};
@@ -95,7 +95,7 @@ public:
     Sequence shutDownSequence{frmLogoff, sProg,   mForm1.List5, s_avir,
                               services,  scanner, logFiles,     powerAction};
     ResultAction resultAction{intCheck, services, scanChecksum, dataFile, scanner, logFiles};
-    FolderScanPage folderScanPage{mForm1, mForm1.Image5, services, checksum, dataFile, baseline};
+    FolderScanPage folderScanPage{mForm1, mForm1.Image5, services, checksum, dataFile, baselineBuilder};
     OwnShortcuts ownShortcuts{services};
     SettingsPages settingsPages{mForm1, mForm1, s_avir, services, ownShortcuts};
     AdvancedPage advancedPage{mForm1, services, checksum};

@@ -18,13 +18,15 @@ void StartUp::run() {
     ensureFolder(state.dataFolder());
     ensureFolder(state.logFolder());
     passOver([this] { app_.settingsFile.checkSettFile(); });
-    passOver(
-        [this] { app_.baseline.checkIntFile(); }); // Still under the plain name, before any setting is read.
+    passOver([this] {
+        app_.baselineBuilder.checkIntFile();
+    }); // Still under the plain name, before any setting is read.
     passOver([this] { app_.snapshotFile.checkRegFile(); });
     passOver([this] { app_.settingsPages.loadSettings(); });
     app_.checksum.setDatName();
-    passOver([this] { app_.baseline.checkIntFile(); }); // And under the name of the algorithm in force.
-    if (app_.utilities.fileThere(state.intFile)) {
+    passOver(
+        [this] { app_.baselineBuilder.checkIntFile(); }); // And under the name of the algorithm in force.
+    if (app_.funcMod.fileThere(state.intFile)) {
         passOver([&] { app_.dataFile.loadIntFile(state.intFile); });
     }
     state.cmdLine = trim(app_.platform.processes.commandLine());
@@ -83,7 +85,7 @@ void StartUp::checkAtLogOn() {
 
 /// That the data file can be opened is all there is to a completed primary full scan.
 void StartUp::demandBaseline(const char* message) {
-    if (!app_.utilities.fileThere(app_.globals.app.intFile)) {
+    if (!app_.funcMod.fileThere(app_.globals.app.intFile)) {
         app_.platform.dialogs.message({.text = message});
         app_.platform.processes.end();
     }

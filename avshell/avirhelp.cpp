@@ -3,9 +3,9 @@
 #include "avshell/avirhelp_screen.h"
 #include "avshell/s_avir_screen.h"
 #include "avshell/scanner.h"
+#include "core/func_mod.h"
 #include "core/globals.h"
 #include "core/maker.h"
-#include "core/utilities.h"
 #include "platform/dialogs.h"
 #include "platform/platform.h"
 #include "platform/shell.h"
@@ -68,9 +68,9 @@ void AVirHelp::search() {
                  "Click OK to continue."});
     const std::string file = fileOf(screen_.List1.text());
     screen_.Text2.Caption = "Searching...";
-    std::string path = trim(utilities.findInTree(utilities.getSpecialFolder(), file));
+    std::string path = trim(funcMod.findInTree(funcMod.getSpecialFolder(), file));
     if (path.empty()) {
-        path = trim(utilities.findInTree("C:\\", file));
+        path = trim(funcMod.findInTree("C:\\", file));
     }
     if (path.empty()) {
         platform.dialogs.message(

@@ -3,9 +3,9 @@
 #include "avshell/known_scanners.h"
 #include "avshell/s_avir_screen.h"
 #include "core/failure.h"
+#include "core/func_mod.h"
 #include "core/globals.h"
 #include "core/settings_file.h"
-#include "core/utilities.h"
 #include "platform/dialogs.h"
 #include "platform/platform.h"
 
@@ -29,7 +29,7 @@ void SAvir::bind() {
 
 /// The file that the user picks, or empty.
 std::string SAvir::choose() const {
-    const std::string file = utilities.openFileBox(scannerBoxTitle, scannerBoxFilter());
+    const std::string file = funcMod.openFileBox(scannerBoxTitle, scannerBoxFilter());
     return file.substr(0, file.find('\0'));
 }
 
@@ -64,14 +64,14 @@ const char* SAvir::argumentsForFirst() {
 }
 
 void SAvir::save() {
-    if (!utilities.fileThere(screen_.Text5.Caption())) {
+    if (!funcMod.fileThere(screen_.Text5.Caption())) {
         platform.dialogs.message(
             {.text = "You didn't choose an anti-virus software exe.  We recommend that you get "
                      "one to take full advantage of Tarvelon"});
         screen_.Text5.Caption = SAvirScreen::noScanner;
         screen_.Text6.Caption = " ";
     }
-    if (!utilities.fileThere(screen_.Text1.Caption())) {
+    if (!funcMod.fileThere(screen_.Text1.Caption())) {
         screen_.Text1.Caption = "";
         screen_.Text2.Caption = "";
     }

@@ -1,9 +1,9 @@
 #include "custom/icust.h"
 
 #include "core/failure.h"
+#include "core/func_mod.h"
 #include "core/globals.h"
 #include "core/settings_file.h"
-#include "core/utilities.h"
 #include "custom/icust_screen.h"
 #include "hash/checksum.h"
 #include "platform/dialogs.h"
@@ -177,13 +177,13 @@ void ICust::storeTypes(const Use& use) {
 
 void ICust::addFolder() {
     custDirty = 1;
-    std::string folder = utilities.browseFolder("Please Choose a Folder to Add");
+    std::string folder = funcMod.browseFolder("Please Choose a Folder to Add");
     if (folder.empty()) {
         return;
     }
     folder = withBackslash(std::move(folder));
     const CaseRules& cases = globals.cases;
-    if (cases.equal(folder, utilities.getSysDir())) {
+    if (cases.equal(folder, funcMod.getSysDir())) {
         platform.dialogs.message({.text = "This is the default folder that Tarvelon scans. It cannot be "
                                           "added to the Custom Integrity Checker"});
         return;
@@ -249,7 +249,7 @@ void ICust::save() {
         settings.saveOfSlot(slot, "args2", screen_.List5.item(row));
     }
     for (int slot = 1; slot <= folderSlots; ++slot) {
-        if (!scanRuns() && !isEmptyRow(slot - 1) && !utilities.fileThere(checksum_.getCustomDat(slot))) {
+        if (!scanRuns() && !isEmptyRow(slot - 1) && !funcMod.fileThere(checksum_.getCustomDat(slot))) {
             globals.scan.customIndex = static_cast<std::int16_t>(slot);
         }
     }

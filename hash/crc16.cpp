@@ -8,7 +8,7 @@ namespace tarvelon {
 namespace {
 
 /// The states left by single bytes (D. V. Sarwate, 1988).
-constexpr std::array<std::uint16_t, 256> makeTable() {
+constexpr std::array<std::uint16_t, 256> InitCrc16() {
     std::array<std::uint16_t, 256> table{};
     for (std::size_t byte = 0; byte < table.size(); ++byte) {
         std::uint32_t state = static_cast<std::uint32_t>(byte) << 8;
@@ -20,7 +20,7 @@ constexpr std::array<std::uint16_t, 256> makeTable() {
     return table;
 }
 
-constexpr std::array<std::uint16_t, 256> table = makeTable();
+constexpr std::array<std::uint16_t, 256> table = InitCrc16();
 
 } // namespace
 

@@ -41,7 +41,7 @@ constexpr std::size_t slices = 16;
 using Slice = std::array<std::uint32_t, 256>;
 
 /// Entry [k][b]: the state left by byte b and k zero bytes behind it.
-constexpr std::array<Slice, slices> makeTables() {
+constexpr std::array<Slice, slices> InitCrc32() {
     std::array<Slice, slices> tables{};
     for (std::uint32_t byte = 0; byte < 256; ++byte) {
         std::uint32_t state = byte;
@@ -59,7 +59,7 @@ constexpr std::array<Slice, slices> makeTables() {
     return tables;
 }
 
-constexpr std::array<Slice, slices> tables = makeTables();
+constexpr std::array<Slice, slices> tables = InitCrc32();
 
 std::uint32_t loadWord(const unsigned char* bytes) {
     std::uint32_t word = 0;

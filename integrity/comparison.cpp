@@ -1,9 +1,9 @@
 #include "integrity/comparison.h"
 
 #include "core/failure.h"
+#include "core/func_mod.h"
 #include "core/globals.h"
 #include "core/settings_file.h"
-#include "core/utilities.h"
 #include "hash/checksum.h"
 #include "hash/do_events.h"
 #include "integrity/data_file.h"
@@ -64,7 +64,7 @@ void Comparison::comparePass(const PassArguments& arguments) {
     pass.done = toNumber(screen_.pbm.Caption()).value_or(0);
     pass.grand = toNumber(screen_.pb2max.Caption()).value_or(0);
     if (scan.customFolder.empty()) {
-        pass.folder = trim(utilities.getSysDir());
+        pass.folder = trim(funcMod.getSysDir());
     } else {
         pass.folder = withBackslash(scan.customFolder);
         pass.arguments.dataFile = checksum_.getCustomDat(scan.customIndex);

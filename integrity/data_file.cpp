@@ -2,8 +2,8 @@
 
 #include "core/failure.h"
 #include "core/file_text.h"
+#include "core/func_mod.h"
 #include "core/settings_file.h"
-#include "core/utilities.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
 #include "platform/messages.h"
@@ -66,7 +66,7 @@ void DataFile::needIntFile(const std::string& path) {
 
 bool DataFile::loadCustomDat(const std::string& path) {
     const std::string backup = backupOf(path);
-    if (!utilities.fileThere(path) && utilities.fileThere(backup)) {
+    if (!funcMod.fileThere(path) && funcMod.fileThere(backup)) {
         const Answer answer =
             platform.dialogs.message({.text = "The data file is missing! Would you like to use the backup?",
                                       .title = ".Dat file Missing!",
@@ -77,7 +77,7 @@ bool DataFile::loadCustomDat(const std::string& path) {
     }
     // A file that is there and cannot be opened at the moment is not missing, and no blank one takes its
     // place.
-    if (!utilities.fileThere(path) && !platform.files.length(path)) {
+    if (!funcMod.fileThere(path) && !platform.files.length(path)) {
         // The number is all that stands between "Data\" and the first ".", so a name with an algorithm in it
         // ("7-md5") is no slot of the settings, and the folder comes out empty.
         const std::string number = getBetween(globals.cases, path, 1, dataFolderName, ".");

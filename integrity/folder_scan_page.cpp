@@ -1,10 +1,10 @@
 #include "integrity/folder_scan_page.h"
 
+#include "core/func_mod.h"
 #include "core/globals.h"
 #include "core/settings_file.h"
-#include "core/utilities.h"
 #include "hash/checksum.h"
-#include "integrity/baseline.h"
+#include "integrity/baseline_builder.h"
 #include "integrity/data_file.h"
 #include "integrity/folder_scan_controls.h"
 #include "integrity/restart.h"
@@ -19,13 +19,13 @@
 namespace tarvelon {
 
 FolderScanPage::FolderScanPage(FolderScanControls& screen, NavButton& entry, const Services& services,
-                               Checksum& checksum, DataFile& dataFile, Baseline& baseline)
+                               Checksum& checksum, DataFile& dataFile, BaselineBuilder& baselineBuilder)
     : Services(services)
     , screen_(screen)
     , entry_(entry)
     , checksum_(checksum)
     , dataFile_(dataFile)
-    , baseline_(baseline) {
+    , baselineBuilder_(baselineBuilder) {
     bind();
 }
 
@@ -51,7 +51,7 @@ void FolderScanPage::tickAll(bool ticked) {
 void FolderScanPage::loadf() {
     settings.checkSettFile();
     screen_.Combo1.clear();
-    screen_.Combo1.add(utilities.getSysDir());
+    screen_.Combo1.add(funcMod.getSysDir());
     for (int slot = 1; slot <= folderSlots; ++slot) {
         const std::string path = trim(settings.ofSlot(slot, "path"));
         if (path != "NULL") {
@@ -64,7 +64,7 @@ void FolderScanPage::loadf() {
 void FolderScanPage::open() {
     loadf();
     hooks.norms2();
-    if (utilities.fileThere(globals.app.intFile)) {
+    if (funcMod.fileThere(globals.app.intFile)) {
         entry_.Current = true;
         screen_.intF.Visible = true;
         return;
@@ -85,8 +85,8 @@ void FolderScanPage::takeFolder() {
         return;
     }
     const std::string file = checksum_.getCustomDat(index);
-    if (!utilities.fileThere(file) &&
-        !baseline_.buildCustomDat(screen_.Combo1.text(), file, std::to_string(index))) {
+    if (!funcMod.fileThere(file) &&
+        !baselineBuilder_.buildCustomDat(screen_.Combo1.text(), file, std::to_string(index))) {
         screen_.Combo1.setListIndex(0);
         return;
     }
@@ -97,7 +97,7 @@ void FolderScanPage::takeFolder() {
 }
 
 void FolderScanPage::startScan() {
-    baseline_.checkIntFile();
+    baselineBuilder_.checkIntFile();
     ScanRun& scan = globals.scan;
     const auto wanted = scan.wanted();
     bool any = false;

@@ -7,7 +7,7 @@
 namespace tarvelon {
 
 struct FolderScanControls;
-class Baseline;
+class BaselineBuilder;
 class Checksum;
 class DataFile;
 class NavButton;
@@ -24,7 +24,7 @@ struct FolderScanHooks {
 class FolderScanPage : Services {
 public:
     FolderScanPage(FolderScanControls& screen, NavButton& entry, const Services& services, Checksum& checksum,
-                   DataFile& dataFile, Baseline& baseline);
+                   DataFile& dataFile, BaselineBuilder& baselineBuilder);
 
     FolderScanHooks hooks;
 
@@ -44,7 +44,7 @@ private:
     NavButton& entry_; ///< Opens the page.
     Checksum& checksum_;
     DataFile& dataFile_;
-    Baseline& baseline_;
+    BaselineBuilder& baselineBuilder_;
 };
 
 } // namespace tarvelon

@@ -1,11 +1,11 @@
 #include "integrity/intcheck.h"
 
 #include "core/failure.h"
+#include "core/func_mod.h"
 #include "core/globals.h"
 #include "core/settings_file.h"
-#include "core/utilities.h"
 #include "hash/checksum.h"
-#include "integrity/baseline.h"
+#include "integrity/baseline_builder.h"
 #include "integrity/data_file.h"
 #include "integrity/intcheck_screen.h"
 #include "platform/dialogs.h"
@@ -23,12 +23,12 @@ constexpr const char* closeCheckCaption = "Close Integrity Check Window";
 } // namespace
 
 IntCheck::IntCheck(IntCheckScreen& screen, const Services& services, Checksum& checksum, DataFile& dataFile,
-                   Baseline& baseline, Comparison& comparison)
+                   BaselineBuilder& baselineBuilder, Comparison& comparison)
     : Services(services)
     , screen_(screen)
     , checksum_(checksum)
     , dataFile_(dataFile)
-    , baseline_(baseline)
+    , baselineBuilder_(baselineBuilder)
     , comparison_(comparison) {
     bind();
 }
@@ -198,8 +198,8 @@ void IntCheck::Command1_Click() {
     scan.customQueue.clear();
     setPaused(false);
     const std::string intFile = checksum_.getIntFile();
-    if (!utilities.fileThere(intFile)) {
-        baseline_.checkIntFile(); // An algorithm chosen meanwhile is no matter before the next plan.
+    if (!funcMod.fileThere(intFile)) {
+        baselineBuilder_.checkIntFile(); // An algorithm chosen meanwhile is no matter before the next plan.
     }
     if (!confirmLeave()) {
         return;

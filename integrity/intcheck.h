@@ -11,7 +11,7 @@
 namespace tarvelon {
 
 struct IntCheckScreen;
-class Baseline;
+class BaselineBuilder;
 class Checksum;
 class DataFile;
 
@@ -22,24 +22,12 @@ struct IntCheckHooks {
     std::function<void()> showMainWindow; ///< The primary full scan is over.
 };
 
-/// What a scan works with.
-struct IntCheckParts {
-    Globals& globals;
-    Platform& platform;
-    SettingsFile& settings;
-    Checksum& checksum;
-    DataFile& dataFile;
-    Baseline& baseline;
-    const Utilities& utilities;
-    Comparison& comparison;
-};
-
 /// The scan window's behaviour: plans a scan, runs its passes folder by folder, shows the results, and
 /// leaves.
 class IntCheck : Services {
 public:
     IntCheck(IntCheckScreen& screen, const Services& services, Checksum& checksum, DataFile& dataFile,
-             Baseline& baseline, Comparison& comparison);
+             BaselineBuilder& baselineBuilder, Comparison& comparison);
 
     IntCheckHooks hooks;
 
@@ -95,7 +83,7 @@ private:
     IntCheckScreen& screen_;
     Checksum& checksum_;
     DataFile& dataFile_;
-    Baseline& baseline_;
+    BaselineBuilder& baselineBuilder_;
     Comparison& comparison_;
 
     PlannedFiles planned_;

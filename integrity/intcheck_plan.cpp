@@ -1,11 +1,11 @@
 // The plan of a scan: which folders and file types it takes in, and how many files that is.
 
 #include "core/failure.h"
+#include "core/func_mod.h"
 #include "core/globals.h"
 #include "core/settings_file.h"
-#include "core/utilities.h"
 #include "hash/checksum.h"
-#include "integrity/baseline.h"
+#include "integrity/baseline_builder.h"
 #include "integrity/data_file.h"
 #include "integrity/intcheck.h"
 #include "integrity/intcheck_screen.h"
@@ -28,7 +28,7 @@ void IntCheck::LoadUp() {
     screen_.load();
     globals.scan.algorithm = static_cast<const Algorithm&>(globals.settings);
     checksum_.setDatName();
-    baseline_.checkIntFile();
+    baselineBuilder_.checkIntFile();
     dataFile_.needIntFile(checksum_.getIntFile());
     resetCaptions();
     setPaused(false);
@@ -118,7 +118,7 @@ void IntCheck::countFolder(Plan& plan) {
     // Scanners may have been chosen since the window was loaded.
     passOver([this] { screen_.first.fill(settings.getSetting("ANTIVIRUS")); });
     const std::string& custom = globals.scan.customFolder;
-    const std::string folder = withBackslash(custom.empty() ? trim(utilities.getSysDir()) : custom);
+    const std::string folder = withBackslash(custom.empty() ? trim(funcMod.getSysDir()) : custom);
 
     const CaseRules& cases = globals.cases;
     Files& files = platform.files;

@@ -2,10 +2,10 @@
 
 #include "avshell/scanner.h"
 #include "core/failure.h"
+#include "core/func_mod.h"
 #include "core/globals.h"
 #include "core/search_index.h"
 #include "core/settings_file.h"
-#include "core/utilities.h"
 #include "hash/checksum.h"
 #include "hash/do_events.h"
 #include "integrity/data_file.h"
@@ -98,7 +98,7 @@ void ResultAction::handOverAndAccept() {
 
 /// Scanners and report. False when nothing is left to do.
 bool ResultAction::handOver() {
-    const bool noScanner = !utilities.fileThere(screen_.Text1.Caption());
+    const bool noScanner = !funcMod.fileThere(screen_.Text1.Caption());
     if (noScanner) {
         platform.dialogs.message(
             {.text =

@@ -3,9 +3,9 @@
 #include "avshell/scanner.h"
 #include "core/failure.h"
 #include "core/file_text.h"
+#include "core/func_mod.h"
 #include "core/globals.h"
 #include "core/settings_file.h"
-#include "core/utilities.h"
 #include "logging/log_controls.h"
 #include "logging/report_name.h"
 #include "platform/dialogs.h"
@@ -100,7 +100,7 @@ void LogBrowser::open() {
     }
     screen_.Label26.Visible = true;
     const std::string path = fileOf(*node);
-    if (!utilities.fileThere(path)) {
+    if (!funcMod.fileThere(path)) {
         platform.dialogs.message({.text = "Error - This report does not exist and could not be opened."});
         return;
     }

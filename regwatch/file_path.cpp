@@ -1,7 +1,7 @@
 #include "regwatch/file_path.h"
 
+#include "core/func_mod.h"
 #include "core/text.h"
-#include "core/utilities.h"
 
 #include <array>
 
@@ -24,13 +24,13 @@ std::string withoutArguments(const std::string& text) {
 }
 
 /// The first of the system's folders that holds the file.
-std::optional<std::string> searched(const std::string& name, const Utilities& utilities) {
-    const std::string sysDir = utilities.getSysDir();
+std::optional<std::string> searched(const std::string& name, const FuncMod& funcMod) {
+    const std::string sysDir = funcMod.getSysDir();
     // "...\system32\" without its last three characters is the old system folder.
     const std::array<std::string, 3> places{
-        sysDir, utilities.getWinDir(), sysDir.substr(0, sysDir.size() < 3 ? 0 : sysDir.size() - 3) + "\\"};
+        sysDir, funcMod.getWinDir(), sysDir.substr(0, sysDir.size() < 3 ? 0 : sysDir.size() - 3) + "\\"};
     for (const std::string& place : places) {
-        if (utilities.fileThere(place + name)) {
+        if (funcMod.fileThere(place + name)) {
             return place + name;
         }
     }
@@ -39,12 +39,12 @@ std::optional<std::string> searched(const std::string& name, const Utilities& ut
 
 } // namespace
 
-CutPath cutToFilePath(const std::string& entry, const Utilities& utilities) {
+CutPath cutToFilePath(const std::string& entry, const FuncMod& funcMod) {
     const std::string text = withoutArguments(insideParentheses(entry));
     if (text.find('\\') == std::string::npos) {
-        return {text, searched(text, utilities)};
+        return {text, searched(text, funcMod)};
     }
-    std::string path = replaceExact(replaceExact(text, "%systemroot%", utilities.getWinDir()), "\\\\", "\\");
+    std::string path = replaceExact(replaceExact(text, "%systemroot%", funcMod.getWinDir()), "\\\\", "\\");
     if (path.find('.') == std::string::npos) {
         path += ".exe";
     }

@@ -5,7 +5,7 @@
 
 namespace tarvelon {
 
-class Utilities;
+class FuncMod;
 
 /// What `cutToFilePath` made of a text.
 struct CutPath {
@@ -18,6 +18,6 @@ struct CutPath {
 /// behind the first blank that follows a dot; "%systemroot%" in lower case is the one variable known; a name
 /// without a backslash is looked for in the system folder, the Windows folder and the old system folder.
 /// Quotes stay.
-CutPath cutToFilePath(const std::string& entry, const Utilities& utilities);
+CutPath cutToFilePath(const std::string& entry, const FuncMod& funcMod);
 
 } // namespace tarvelon

@@ -1,8 +1,8 @@
 #include "regwatch/pending_files.h"
 
 #include "core/file_text.h"
+#include "core/func_mod.h"
 #include "core/text.h"
-#include "core/utilities.h"
 #include "platform/files.h"
 #include "platform/platform.h"
 #include "platform/registry.h"
@@ -26,20 +26,19 @@ std::vector<std::string> splitAt(std::string_view text, std::string_view separat
     }
 }
 
-std::string wininitPath(const Utilities& utilities) {
-    return utilities.getWinDir() + "wininit.ini";
+std::string wininitPath(const FuncMod& funcMod) {
+    return funcMod.getWinDir() + "wininit.ini";
 }
 
 } // namespace
 
-bool wininitThere(const Utilities& utilities) {
-    return utilities.fileThere(wininitPath(utilities));
+bool wininitThere(const FuncMod& funcMod) {
+    return funcMod.fileThere(wininitPath(funcMod));
 }
 
-std::vector<PendingFile> wininitEntries(const CaseRules& cases, Platform& platform,
-                                        const Utilities& utilities) {
+std::vector<PendingFile> wininitEntries(const CaseRules& cases, Platform& platform, const FuncMod& funcMod) {
     std::vector<PendingFile> entries;
-    const auto text = readWholeFile(platform.files, wininitPath(utilities));
+    const auto text = readWholeFile(platform.files, wininitPath(funcMod));
     if (!text) {
         return entries;
     }

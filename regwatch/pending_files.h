@@ -8,7 +8,7 @@ namespace tarvelon {
 
 class CaseRules;
 struct Platform;
-class Utilities;
+class FuncMod;
 
 /// A file that the system will delete or overwrite at its next start.
 struct PendingFile {
@@ -18,11 +18,10 @@ struct PendingFile {
 
 /// The entries of wininit.ini in the Windows folder: every line with a "=", whatever its section. Empty when
 /// there is no such file or it cannot be read.
-std::vector<PendingFile> wininitEntries(const CaseRules& cases, Platform& platform,
-                                        const Utilities& utilities);
+std::vector<PendingFile> wininitEntries(const CaseRules& cases, Platform& platform, const FuncMod& funcMod);
 
 /// Whether wininit.ini is there to be read.
-bool wininitThere(const Utilities& utilities);
+bool wininitThere(const FuncMod& funcMod);
 
 /// The session manager's pending operations, cut at each "\??\"; sources and targets stand side by side. An
 /// element of blanks alone is no file, one without a zero in it an empty one. No elements at all when the

@@ -2,9 +2,9 @@
 
 #include "avshell/scanner.h"
 #include "core/failure.h"
+#include "core/func_mod.h"
 #include "core/globals.h"
 #include "core/settings_file.h"
-#include "core/utilities.h"
 #include "logging/log_files.h"
 #include "platform/dialogs.h"
 #include "platform/platform.h"
@@ -173,7 +173,7 @@ void RegPage::scanSelected() {
         scanAndUpdate();
         return;
     }
-    const CutPath cut = cutToFilePath(screen_.Label19.Caption(), utilities);
+    const CutPath cut = cutToFilePath(screen_.Label19.Caption(), funcMod);
     if (!cut.path) {
         platform.dialogs.message({.text = "Cannot find file, please scan manually"});
         return;
@@ -237,7 +237,7 @@ std::string RegPage::rowToScan(int row) {
 
 /// The row's file as it stands on a command line; empty when it cannot be found.
 std::string RegPage::fileOfRow(const std::string& row) {
-    const CutPath cut = cutToFilePath(row, utilities);
+    const CutPath cut = cutToFilePath(row, funcMod);
     if (!cut.path && !globals.app.inShutDown()) {
         platform.dialogs.message(
             {.text = "Unable to find the file: " + cut.text + "\r\nPlease scan manually."});
@@ -266,7 +266,7 @@ bool RegPage::run(const ScannerCommand& scanner, const std::string& list) const 
         scanner_.runScanner(scanner.exe, scanner.arguments(list));
         started = true;
     });
-    return started || !utilities.fileThere(scanner.exe);
+    return started || !funcMod.fileThere(scanner.exe);
 }
 
 // ---- Pending boot operations
@@ -280,7 +280,7 @@ void RegPage::showPending() {
     screen_.List6.clear();
     screen_.List6.add(
         "These files are to be Deleted or Overwritten on the next Reboot (Wininit.ini and Registry).");
-    for (const PendingFile& entry : wininitEntries(globals.cases, platform, utilities)) {
+    for (const PendingFile& entry : wininitEntries(globals.cases, platform, funcMod)) {
         screen_.List6.add(entry.file + (entry.toBeDeleted ? deletedMark : overwrittenMark));
     }
     for (const auto& file : pendingRenames(globals.cases, platform)) {

@@ -3,9 +3,9 @@
 #include "avshell/s_avir_screen.h"
 #include "avshell/scanner.h"
 #include "core/failure.h"
+#include "core/func_mod.h"
 #include "core/globals.h"
 #include "core/unscanned.h"
-#include "core/utilities.h"
 #include "logging/log_files.h"
 #include "platform/dialogs.h"
 #include "platform/platform.h"
@@ -45,7 +45,7 @@ void Sequence::CheckWinInit() {
     sProg_.load();
     status("Checking Startup/Delete/Replace Entries...");
     sProg_.ProgressBar1.setValue(0);
-    if (wininitThere(utilities)) {
+    if (wininitThere(funcMod)) {
         scanWininit();
     }
     scanPendingRenames();
@@ -54,7 +54,7 @@ void Sequence::CheckWinInit() {
 
 void Sequence::scanWininit() {
     std::vector<std::string> batch;
-    for (const PendingFile& entry : wininitEntries(globals.cases, platform, utilities)) {
+    for (const PendingFile& entry : wininitEntries(globals.cases, platform, funcMod)) {
         batch.push_back(item(entry.file));
     }
     runScanners(batch);
@@ -103,7 +103,7 @@ void Sequence::scanPendingRenames() {
 /// The file as it stands on a command line; empty when it is gone.
 std::string Sequence::item(const std::string& file) const {
     const std::string name = scanner_.shortened(file);
-    return utilities.fileThere(name) ? scanner_.quoted(name) + " " : std::string();
+    return funcMod.fileThere(name) ? scanner_.quoted(name) + " " : std::string();
 }
 
 /// The second scanner starts even when there is nothing to hand over. One that cannot be started goes

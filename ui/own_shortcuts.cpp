@@ -1,11 +1,11 @@
 #include "ui/own_shortcuts.h"
 
+#include "core/func_mod.h"
 #include "core/globals.h"
-#include "core/utilities.h"
 #include "platform/dialogs.h"
 #include "platform/platform.h"
 #include "platform/processes.h"
-#include "ui/shortcuts.h"
+#include "ui/short_cut.h"
 
 namespace tarvelon {
 
@@ -13,15 +13,15 @@ OwnShortcuts::OwnShortcuts(const Services& services)
     : Services(services) {}
 
 void OwnShortcuts::createAutoLoad() {
-    const std::string path = autoLoadShortcut(platform);
-    if (globals.settings.useWsh == 1 || !utilities.fileThere(path)) {
+    const std::string path = shortCut::autoLoadShortcut(platform);
+    if (globals.settings.useWsh == 1 || !funcMod.fileThere(path)) {
         make(path, {"/r", "Tarvelon"});
     }
 }
 
 void OwnShortcuts::createShutDown() {
     const std::string path = shutDownShortcut();
-    if (!utilities.fileThere(path)) {
+    if (!funcMod.fileThere(path)) {
         make(path, {"/s", "SecureShutDown"});
     }
     platform.dialogs.message({.text = "Success!"});
@@ -31,10 +31,11 @@ void OwnShortcuts::make(const std::string& linkPath, const Kind& kind) {
     constexpr std::int32_t show = 5;
     const std::string target = program();
     if (globals.settings.useWsh == 1) {
-        makeShortcutWsh(platform, globals.cases, linkPath, kind.description, target, kind.command);
+        shortCut::makeShortcutWsh(platform, globals.cases, linkPath, kind.description, target, kind.command);
     } else {
         // The blank has always stood in links of this kind; the command line is trimmed when it is read.
-        makeShortcut(platform, linkPath, target, "", std::string(" ") + kind.command, target, 0, show);
+        shortCut::makeShortcut(platform, linkPath, target, "", std::string(" ") + kind.command, target, 0,
+                               show);
     }
 }
 
@@ -51,7 +52,7 @@ std::string OwnShortcuts::shutDownShortcut() {
             {.text = "Tarvelon will now create a SecureShutDown shortcut in your Tarvelon directory."});
         return globals.app.appPath + fileName;
     }
-    const std::string folder = utilities.getSpecialFolder(desktop);
+    const std::string folder = funcMod.getSpecialFolder(desktop);
     // A lone backslash is what a folder becomes that the system does not name.
     if (folder.empty() || folder == "\\") {
         platform.dialogs.message({.text = "Error: Could not find Desktop directory...Creating shortcut in "

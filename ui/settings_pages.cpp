@@ -2,9 +2,9 @@
 
 #include "avshell/s_avir_screen.h"
 #include "core/failure.h"
+#include "core/func_mod.h"
 #include "core/globals.h"
 #include "core/settings_file.h"
-#include "core/utilities.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
 #include "platform/platform.h"
@@ -12,7 +12,7 @@
 #include "ui/join_values.h"
 #include "ui/own_shortcuts.h"
 #include "ui/settings_controls.h"
-#include "ui/shortcuts.h"
+#include "ui/short_cut.h"
 
 #include <cstdint>
 #include <limits>
@@ -63,7 +63,7 @@ void SettingsPages::loadSettings() {
 }
 
 bool SettingsPages::loadAutoLoad() {
-    screen_.Check1.setValue(utilities.fileThere(autoLoadShortcut(platform)));
+    screen_.Check1.setValue(funcMod.fileThere(shortCut::autoLoadShortcut(platform)));
     return tick(screen_.autoLoadChecks, settings.getSetting("GETSETT")) &&
            tick(screen_.shutDownChecks, settings.getSetting("GETSETT2"));
 }
@@ -105,8 +105,8 @@ bool SettingsPages::loadShellOptions() {
 /// shortcut and the settings reached the disk is not looked at.
 void SettingsPages::save() {
     settings.checkSettFile();
-    const std::string shortcut = autoLoadShortcut(platform);
-    if (utilities.fileThere(shortcut)) {
+    const std::string shortcut = shortCut::autoLoadShortcut(platform);
+    if (funcMod.fileThere(shortcut)) {
         platform.files.remove(shortcut);
     }
     if (screen_.Check1.value() == 1) {

@@ -4,15 +4,15 @@
 #include "avshell/s_avir_screen.h"
 #include "avshell/scanner.h"
 #include "core/failure.h"
+#include "core/func_mod.h"
 #include "core/globals.h"
 #include "core/settings_file.h"
-#include "core/utilities.h"
 #include "platform/clock.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
 #include "platform/platform.h"
 #include "ui/join_values.h"
-#include "ui/shortcuts.h"
+#include "ui/short_cut.h"
 #include "ui/wizard_screen.h"
 
 #include <cmath>
@@ -87,7 +87,7 @@ void Wizard::LoadUp() {
     page_ = 0;
     norms();
     screen_.Label1.Visible = true;
-    screen_.aload.setValue(utilities.fileThere(autoLoadShortcut(platform)));
+    screen_.aload.setValue(funcMod.fileThere(shortCut::autoLoadShortcut(platform)));
     const std::vector<std::string> values = split(settings.getSetting("GETSETT"), ',');
     for (std::size_t i = 0; i < screen_.settingChecks.size() && i < values.size(); ++i) {
         screen_.settingChecks[i]->setValue(toNumber(values[i]).value_or(0) != 0);
@@ -218,7 +218,7 @@ void Wizard::showLastPage() {
 }
 
 void Wizard::next() {
-    if (page_ == 2 && !utilities.fileThere(screen_.vpath.Caption())) {
+    if (page_ == 2 && !funcMod.fileThere(screen_.vpath.Caption())) {
         platform.dialogs.message({.text = noScannerNotice});
     }
     ++page_;
@@ -235,7 +235,7 @@ void Wizard::cancel() {
 }
 
 void Wizard::locate() {
-    const std::string file = utilities.openFileBox(scannerBoxTitle, scannerBoxFilter());
+    const std::string file = funcMod.openFileBox(scannerBoxTitle, scannerBoxFilter());
     screen_.vpath.Caption = file.substr(0, file.find('\0'));
     const char* arguments = defaultArguments(scannerFamily(globals.cases, screen_.vpath.Caption()));
     screen_.varg.Caption = arguments;
@@ -247,10 +247,10 @@ void Wizard::save() {
     if (screen_.aload.value() == 1) {
         hooks.createAutoLoad();
     } else {
-        platform.files.remove(autoLoadShortcut(platform));
+        platform.files.remove(shortCut::autoLoadShortcut(platform));
     }
     settings.saveSetting("settings", joinValues(screen_.settingChecks));
-    if (!utilities.fileThere(screen_.vpath.Caption())) {
+    if (!funcMod.fileThere(screen_.vpath.Caption())) {
         platform.dialogs.message({.text = noScannerNotice});
         screen_.vpath.Caption = SAvirScreen::noScanner;
         screen_.varg.Caption = " ";

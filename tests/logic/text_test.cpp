@@ -1,6 +1,6 @@
+#include "core/func_mod.h"
 #include "core/search_index.h"
 #include "core/text.h"
-#include "core/utilities.h"
 #include "platform/command_line.h"
 #include "platform/sim/workstation.h"
 
@@ -58,17 +58,17 @@ TEST(Text, IsCutInPieces) {
 
 TEST(Text, OfFoldersEndsInOneBackslash) {
     SimWorkstation pc;
-    const Utilities utilities(pc.platform());
+    const FuncMod funcMod(pc.platform());
     const std::string longest = "C:\\" + std::string(252, 'x');
     pc.folders.windowsDirectory = "C:\\";
-    EXPECT_EQ(utilities.getWinDir(), "C:\\");
+    EXPECT_EQ(funcMod.getWinDir(), "C:\\");
     pc.faults.failNth(Operation::WindowsDirectory, 1);
-    EXPECT_EQ(utilities.getWinDir(), "\\");
+    EXPECT_EQ(funcMod.getWinDir(), "\\");
     for (const auto& [path, folder] : {std::pair<std::string, std::string>{"  C:\\Up\\ ", "C:\\Up\\"},
                                        {"\\", "C:\\Program Files\\"},
                                        {longest + "x", longest + "\\"}}) {
         pc.folders.special[24] = path;
-        EXPECT_EQ(utilities.getSpecialFolder(24), folder);
+        EXPECT_EQ(funcMod.getSpecialFolder(24), folder);
     }
 }
 

@@ -1,9 +1,9 @@
-#include "integrity/baseline.h"
+#include "integrity/baseline_builder.h"
 
 #include "core/failure.h"
 #include "core/file_text.h"
+#include "core/func_mod.h"
 #include "core/globals.h"
-#include "core/utilities.h"
 #include "integrity/data_file.h"
 #include "integrity/restart.h"
 #include "platform/dialogs.h"
@@ -82,16 +82,17 @@ void writeBlank(Files& files, const std::string& path, const SectionLists& lists
 
 } // namespace
 
-Baseline::Baseline(const Services& services, DataFile& dataFile, Screen& mainWindow, const ComboBox& folders)
+BaselineBuilder::BaselineBuilder(const Services& services, DataFile& dataFile, Screen& mainWindow,
+                                 const ComboBox& folders)
     : Services(services)
     , dataFile_(dataFile)
     , mainWindow_(mainWindow)
     , folders_(folders) {}
 
-void Baseline::checkIntFile() {
+void BaselineBuilder::checkIntFile() {
     if (!platform.files.open(globals.app.intFile, OpenMode::Read)) {
         const std::string backup = backupOf(globals.app.intFile);
-        if (utilities.fileThere(backup)) {
+        if (funcMod.fileThere(backup)) {
             restoreOrRestart(backup);
             return;
         }
@@ -115,7 +116,7 @@ void Baseline::checkIntFile() {
     mainWindow_.Caption = "Welcome to Tarvelon";
 }
 
-void Baseline::restoreOrRestart(const std::string& backup) {
+void BaselineBuilder::restoreOrRestart(const std::string& backup) {
     const Answer answer = platform.dialogs.message(
         {.text = "Your Integrity.dat file cannot be found! But the backup file was located!\r\n"
                  "Would you like to restore the backup?",
@@ -130,13 +131,13 @@ void Baseline::restoreOrRestart(const std::string& backup) {
     restartWithoutBackup(globals, platform, backup);
 }
 
-void Baseline::buildPrimary() {
+void BaselineBuilder::buildPrimary() {
     globals.baselines.primaryBuild = true;
     const std::string& path = globals.app.intFile;
     makeEmpty(platform.files, path);
     mainWindow_.Caption = "Building Integrity File...";
     platform.messages.pump();
-    const SectionLists lists = walk(globals, platform, trim(utilities.getSysDir()));
+    const SectionLists lists = walk(globals, platform, trim(funcMod.getSysDir()));
     mainWindow_.Caption = "Saving...";
     platform.messages.pump();
     writeBlank(platform.files, path, lists);
@@ -146,7 +147,7 @@ void Baseline::buildPrimary() {
     hooks.loadUp();
 }
 
-bool Baseline::buildCustomDat(std::string folder, const std::string& datFile, const std::string&) {
+bool BaselineBuilder::buildCustomDat(std::string folder, const std::string& datFile, const std::string&) {
     // While findings are accepted no scan starts either; they go into the blank file.
     const bool blankOnly = globals.app.autoLoadRun || globals.scan.accepting;
     if (!blankOnly) {

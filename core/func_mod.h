@@ -7,9 +7,9 @@ namespace tarvelon {
 struct Platform;
 
 /// Small procedures over the platform that all subsystems call. None shows a message.
-class Utilities {
+class FuncMod {
 public:
-    explicit Utilities(Platform& platform)
+    explicit FuncMod(Platform& platform)
         : platform_(platform) {}
 
     /// Whether the file can be opened for reading: a locked file counts as absent, and so does a folder.

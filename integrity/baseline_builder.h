@@ -12,7 +12,7 @@ class DataFile;
 class Screen;
 
 /// How the baseline build reaches the scan window, which stands above it.
-struct BaselineHooks {
+struct BaselineBuilderHooks {
     std::function<void()> showScan;  ///< Makes the scan window visible.
     std::function<void()> leaveScan; ///< Its leave action, which clears an earlier scan.
     std::function<void()> loadUp;    ///< Plans a scan and starts it.
@@ -20,11 +20,12 @@ struct BaselineHooks {
 
 /// Makes sure that baselines exist: lists a folder into a data file without checksums, and starts the scan
 /// that fills them in.
-class Baseline : Services {
+class BaselineBuilder : Services {
 public:
-    Baseline(const Services& services, DataFile& dataFile, Screen& mainWindow, const ComboBox& folders);
+    BaselineBuilder(const Services& services, DataFile& dataFile, Screen& mainWindow,
+                    const ComboBox& folders);
 
-    BaselineHooks hooks;
+    BaselineBuilderHooks hooks;
 
     /// Sees to the system baseline: restores the backup, or on the user's word lists the system directory and
     /// starts the primary full scan. Throws `Failure` when a file cannot be made or restored.

@@ -1,11 +1,11 @@
-#include "ui/shortcuts.h"
+#include "ui/short_cut.h"
 
 #include "core/text.h"
 #include "platform/folders.h"
 #include "platform/platform.h"
 #include "platform/shortcuts.h"
 
-namespace tarvelon {
+namespace tarvelon::shortCut {
 
 namespace {
 
@@ -59,4 +59,4 @@ bool makeShortcutWsh(Platform& platform, const CaseRules& cases, const std::stri
         {.arguments = args, .description = description, .targetPath = target, .windowStyle = windowStyle});
 }
 
-} // namespace tarvelon
+} // namespace tarvelon::shortCut

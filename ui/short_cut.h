@@ -8,6 +8,9 @@ namespace tarvelon {
 class CaseRules;
 struct Platform;
 
+/// Link files, and where the system starts them from.
+namespace shortCut {
+
 /// The folder whose shortcuts start at log-on, without a trailing backslash; empty when the system names
 /// none.
 std::string getStartupFolder(Platform& platform);
@@ -26,5 +29,7 @@ bool makeShortcut(Platform& platform, const std::string& linkPath, const std::st
 bool makeShortcutWsh(Platform& platform, const CaseRules& cases, const std::string& linkPath,
                      const std::string& description, const std::string& target, const std::string& args,
                      std::int32_t windowStyle = 0);
+
+} // namespace shortCut
 
 } // namespace tarvelon

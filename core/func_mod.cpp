@@ -1,4 +1,4 @@
-#include "core/utilities.h"
+#include "core/func_mod.h"
 
 #include "core/text.h"
 #include "platform/dialogs.h"
@@ -24,24 +24,24 @@ constexpr std::size_t longestPath = 260;
 
 } // namespace
 
-bool Utilities::fileThere(const std::string& path) const {
+bool FuncMod::fileThere(const std::string& path) const {
     return platform_.files.open(path, OpenMode::Read) != nullptr;
 }
 
-std::string Utilities::getSysDir() const {
+std::string FuncMod::getSysDir() const {
     std::string buffer(144, '\0');
     const auto size = static_cast<std::uint32_t>(buffer.size());
     const std::uint32_t length = platform_.folders.getSystemDirectory(buffer.data(), size);
     return withBackslash(buffer.substr(0, std::min(length, size)));
 }
 
-std::string Utilities::getWinDir() const {
+std::string FuncMod::getWinDir() const {
     std::string buffer(longestPath, '\0');
     platform_.folders.getWindowsDirectory(buffer.data(), static_cast<std::uint32_t>(buffer.size()));
     return buffer.find('\0') == std::string::npos ? std::string() : withBackslash(cutAtZero(buffer));
 }
 
-std::string Utilities::getSpecialFolder(int id) const {
+std::string FuncMod::getSpecialFolder(int id) const {
     std::string buffer(longestPath, '\0');
     platform_.folders.getSpecialFolderPath(id, buffer.data());
     buffer.resize(255);
@@ -49,7 +49,7 @@ std::string Utilities::getSpecialFolder(int id) const {
     return folder == "\\" ? "C:\\Program Files\\" : withBackslash(folder);
 }
 
-std::string Utilities::findInTree(const std::string& root, const std::string& name) const {
+std::string FuncMod::findInTree(const std::string& root, const std::string& name) const {
     platform_.messages.pump();
     std::string buffer(520, ' ');
     const bool hit = platform_.files.searchTreeForFile(root, name, buffer.data());
@@ -57,7 +57,7 @@ std::string Utilities::findInTree(const std::string& root, const std::string& na
     return hit ? cutAtZero(buffer) : std::string();
 }
 
-std::string Utilities::openFileBox(const std::string& title, const std::string& filter) const {
+std::string FuncMod::openFileBox(const std::string& title, const std::string& filter) const {
     OpenFileRecord record;
     record.filter = filter;
     record.file.assign(257, '\0');
@@ -66,7 +66,7 @@ std::string Utilities::openFileBox(const std::string& title, const std::string& 
     return platform_.dialogs.getOpenFileName(record) ? trim(record.file) : std::string();
 }
 
-std::string Utilities::browseFolder(const std::string& title) const {
+std::string FuncMod::browseFolder(const std::string& title) const {
     constexpr std::uint32_t fileSystemFoldersOnly = 1;
     std::string buffer(longestPath, '\0');
     if (!platform_.dialogs.browseForFolder(title, fileSystemFoldersOnly, buffer.data())) {
