@@ -6,17 +6,6 @@
 
 namespace tarvelon {
 
-BackBuffer::BackBuffer()
-    : dc_(CreateCompatibleDC(nullptr)) {}
-
-BackBuffer::~BackBuffer() {
-    if (bitmap_) {
-        SelectObject(dc_, original_);
-        DeleteObject(bitmap_);
-    }
-    DeleteDC(dc_);
-}
-
 bool BackBuffer::reserve(int width, int height) {
     if (width <= width_ && height <= height_) {
         return true;
@@ -30,17 +19,12 @@ bool BackBuffer::reserve(int width, int height) {
     info.bmiHeader.biPlanes = 1;
     info.bmiHeader.biBitCount = 32;
     void* pixels = nullptr;
-    const HBITMAP bitmap = CreateDIBSection(dc_, &info, DIB_RGB_COLORS, &pixels, nullptr, 0);
+    OwnedBitmap bitmap(CreateDIBSection(dc(), &info, DIB_RGB_COLORS, &pixels, nullptr, 0));
     if (!bitmap) {
         return false;
     }
-    const HGDIOBJ previous = SelectObject(dc_, bitmap);
-    if (bitmap_) {
-        DeleteObject(bitmap_);
-    } else {
-        original_ = previous;
-    }
-    bitmap_ = bitmap;
+    SelectObject(dc(), bitmap.get());
+    bitmap_ = std::move(bitmap);
     pixels_ = static_cast<std::uint32_t*>(pixels);
     width_ = newWidth;
     height_ = newHeight;
@@ -58,6 +42,11 @@ constexpr std::uint32_t mix(std::uint32_t under, std::uint32_t over, std::uint32
     const std::uint32_t a = (under >> shift) & 0xff;
     const std::uint32_t b = (over >> shift) & 0xff;
     return ((a * (256 - weight256) + b * weight256) >> 8) << shift;
+}
+
+std::uint32_t blend(std::uint32_t under, std::uint32_t over, float coverage) {
+    const auto weight = static_cast<std::uint32_t>(coverage * 256);
+    return mix(under, over, weight, 16) | mix(under, over, weight, 8) | mix(under, over, weight, 0);
 }
 
 /// Distance from the edge of a box with round corners, negative inside.
@@ -92,48 +81,40 @@ float polylineDistance(Iterator first, Iterator last, Spot spot) {
     return nearest;
 }
 
-} // namespace
-
-Canvas::Canvas(BackBuffer& buffer, Fonts& fonts, Scale scale, int width, int height)
-    : buffer_(buffer)
-    , fonts_(fonts)
-    , scale_(scale)
-    , width_(width)
-    , height_(height) {}
-
-void Canvas::blend(std::uint32_t& pixel, Color color, float coverage) {
-    const std::uint32_t over = pixelFrom(color);
-    const auto weight = static_cast<std::uint32_t>(coverage * 256);
-    pixel = mix(pixel, over, weight, 16) | mix(pixel, over, weight, 8) | mix(pixel, over, weight, 0);
+UINT prefixFlag(const TextLook& look) {
+    return look.mnemonics ? DT_HIDEPREFIX : DT_NOPREFIX;
 }
 
-template<class Distance>
-void Canvas::shape(const RECT& bounds, Color color, Distance distance) {
+} // namespace
+
+template<class Draw>
+void Canvas::eachRow(const RECT& bounds, Draw draw) {
     GdiFlush();
     RECT visible;
     const RECT whole = area();
-    if (!IntersectRect(&visible, &bounds, &whole)) {
-        return;
-    }
-    for (int y = visible.top; y < visible.bottom; ++y) {
-        std::uint32_t* row = buffer_.row(y);
-        for (int x = visible.left; x < visible.right; ++x) {
-            const Spot middle{static_cast<float>(x) + 0.5F, static_cast<float>(y) + 0.5F};
-            blend(row[x], color, std::clamp(0.5F - distance(middle), 0.0F, 1.0F));
+    if (IntersectRect(&visible, &bounds, &whole)) {
+        for (int y = visible.top; y < visible.bottom; ++y) {
+            draw(y, visible.left, visible.right);
         }
     }
 }
 
+template<class Distance>
+void Canvas::shape(const RECT& bounds, Color color, Distance distance) {
+    const std::uint32_t over = pixelFrom(color);
+    eachRow(bounds, [&](int y, int left, int right) {
+        std::uint32_t* row = buffer_.row(y);
+        for (int x = left; x < right; ++x) {
+            const Spot middle{static_cast<float>(x) + 0.5F, static_cast<float>(y) + 0.5F};
+            row[x] = blend(row[x], over, std::clamp(0.5F - distance(middle), 0.0F, 1.0F));
+        }
+    });
+}
+
 void Canvas::fill(const RECT& rect, Color color) {
-    GdiFlush();
-    RECT visible;
-    const RECT whole = area();
-    if (!IntersectRect(&visible, &rect, &whole)) {
-        return;
-    }
-    for (int y = visible.top; y < visible.bottom; ++y) {
-        std::fill(buffer_.row(y) + visible.left, buffer_.row(y) + visible.right, pixelFrom(color));
-    }
+    eachRow(rect, [&](int y, int left, int right) {
+        std::fill(buffer_.row(y) + left, buffer_.row(y) + right, pixelFrom(color));
+    });
 }
 
 void Canvas::roundedBox(const RECT& rect, int radius, Color color) {
@@ -183,23 +164,16 @@ void Canvas::glow(Spot middle, float radius, float width, Color color) {
     });
 }
 
-int Canvas::textWidth(const std::string& text, const TextLook& look) {
-    SelectObject(dc(), fonts_.get(scale_.letters(look.tenthPoints), look.weight));
-    RECT size{};
+SIZE Canvas::measure(const std::string& text, const TextLook& look, int height, UINT lines, int width) {
+    SelectObject(dc(), fonts_.get(height, look.weight, look.underlined));
+    RECT size{0, 0, width, 0};
     DrawTextA(dc(), text.c_str(), static_cast<int>(text.size()), &size,
-              DT_CALCRECT | DT_SINGLELINE | (look.mnemonics ? 0U : DT_NOPREFIX));
-    return widthOf(size);
+              DT_CALCRECT | lines | prefixFlag(look));
+    return {widthOf(size), heightOf(size)};
 }
 
-Canvas::Fit Canvas::fit(const std::string& text, const RECT& rect, const TextLook& look, int height,
-                        bool severalLines) {
-    SelectObject(dc(), fonts_.get(height, look.weight, look.underlined));
-    RECT size{0, 0, widthOf(rect), 0};
-    const UINT lines = severalLines ? DT_WORDBREAK : DT_SINGLELINE;
-    DrawTextA(dc(), text.c_str(), static_cast<int>(text.size()), &size,
-              DT_CALCRECT | lines | (look.mnemonics ? DT_HIDEPREFIX : DT_NOPREFIX));
-    const bool fits = widthOf(size) <= widthOf(rect) && heightOf(size) <= heightOf(rect);
-    return {fits, lines, heightOf(size)};
+int Canvas::textWidth(const std::string& text, const TextLook& look) {
+    return measure(text, look, scale_.letters(look.tenthPoints), DT_SINGLELINE).cx;
 }
 
 void Canvas::text(const std::string& text, const RECT& rect, const TextLook& look) {
@@ -208,30 +182,33 @@ void Canvas::text(const std::string& text, const RECT& rect, const TextLook& loo
     }
     const bool isPath = text.find('\\') != std::string::npos;
     const int wanted = scale_.letters(look.tenthPoints);
-    Fit chosen = fit(text, rect, look, wanted, false);
-    const bool paragraph = heightOf(rect) >= 3 * chosen.height;
-    const auto shrink = [&](int height, int smallest, bool severalLines) {
-        for (; !chosen.fits && height >= smallest; --height) {
-            chosen = fit(text, rect, look, height, severalLines);
+    UINT lines = DT_SINGLELINE;
+    SIZE size{};
+    const auto fit = [&](int height, UINT by) {
+        lines = by;
+        size = measure(text, look, height, lines, widthOf(rect));
+        return size.cx <= widthOf(rect) && size.cy <= heightOf(rect);
+    };
+    bool fits = fit(wanted, DT_SINGLELINE);
+    const bool paragraph = heightOf(rect) >= 3 * size.cy;
+    const auto shrink = [&](int height, int smallest, UINT by) {
+        for (; !fits && height >= smallest; --height) {
+            fits = fit(height, by);
         }
     };
     if (text.find_first_of("\r\n") != std::string::npos) {
-        chosen.fits = false; // As one line, breaks would be drawn as boxes.
-        shrink(wanted, wanted * 4 / 5, true);
+        fits = false; // As one line, breaks would be drawn as boxes.
+        shrink(wanted, wanted * 4 / 5, DT_WORDBREAK);
     } else if (!isPath) { // The names of files that pass by must not change size one by one.
-        shrink(wanted - 1, wanted * 9 / 10, false);
-        shrink(wanted, wanted * 4 / 5, true);
+        shrink(wanted - 1, wanted * 9 / 10, DT_SINGLELINE);
+        shrink(wanted, wanted * 4 / 5, DT_WORDBREAK);
     }
-    const UINT align = look.align == Align::Center  ? DT_CENTER
-                       : look.align == Align::Right ? DT_RIGHT
-                                                    : DT_LEFT;
     RECT place = rect;
-    place.top += paragraph ? 0 : std::max((heightOf(rect) - chosen.height) / 2, 0);
+    place.top += paragraph ? 0 : std::max<LONG>((heightOf(rect) - size.cy) / 2, 0);
     SetBkMode(dc(), TRANSPARENT);
     SetTextColor(dc(), look.color);
     DrawTextA(dc(), text.c_str(), static_cast<int>(text.size()), &place,
-              chosen.lines | align | (look.mnemonics ? DT_HIDEPREFIX : DT_NOPREFIX) |
-                  (isPath ? DT_PATH_ELLIPSIS : DT_END_ELLIPSIS));
+              lines | look.align | prefixFlag(look) | (isPath ? DT_PATH_ELLIPSIS : DT_END_ELLIPSIS));
 }
 
 } // namespace tarvelon

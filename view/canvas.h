@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/win32/windows_api.h"
+#include "platform/win32/owned.h"
 #include "view/drawings.h"
 #include "view/fonts.h"
 #include "view/scale.h"
@@ -16,32 +16,25 @@ namespace tarvelon {
 /// in one piece.
 class BackBuffer {
 public:
-    BackBuffer();
-    BackBuffer(const BackBuffer&) = delete;
-    ~BackBuffer();
-
     /// False when the system has no memory left for it.
     bool reserve(int width, int height);
 
-    HDC dc() const { return dc_; }
+    HDC dc() const { return dc_.get(); }
     std::uint32_t* row(int y) const { return pixels_ + static_cast<std::ptrdiff_t>(y) * width_; }
 
 private:
-    HDC dc_;
-    HBITMAP bitmap_ = nullptr;
-    HGDIOBJ original_ = nullptr;
+    OwnedBitmap bitmap_; ///< In the DC, so freed after it.
+    OwnedMemoryDc dc_{CreateCompatibleDC(nullptr)};
     std::uint32_t* pixels_ = nullptr;
     int width_ = 0;
     int height_ = 0;
 };
 
-enum class Align { Left, Center, Right };
-
 struct TextLook {
     Color color = colors::black;
     int tenthPoints = textSize::normal;
     int weight = FW_NORMAL;
-    Align align = Align::Left;
+    UINT align = DT_LEFT;
     bool underlined = false;
     bool mnemonics = false; ///< "&&" shows as one "&", as captions of buttons have it.
 };
@@ -49,7 +42,12 @@ struct TextLook {
 /// Draws one control, from its top left corner on, with smooth edges.
 class Canvas {
 public:
-    Canvas(BackBuffer& buffer, Fonts& fonts, Scale scale, int width, int height);
+    Canvas(BackBuffer& buffer, Fonts& fonts, const Scale& scale, int width, int height)
+        : buffer_(buffer)
+        , fonts_(fonts)
+        , scale_(scale)
+        , width_(width)
+        , height_(height) {}
 
     RECT area() const { return {0, 0, width_, height_}; }
     const Scale& scale() const { return scale_; }
@@ -76,21 +74,20 @@ public:
     int textWidth(const std::string& text, const TextLook& look);
 
 private:
-    struct Fit {
-        bool fits;
-        UINT lines; ///< DT_SINGLELINE or DT_WORDBREAK.
-        int height; ///< Of all lines.
-    };
-    /// Chooses the font of that letter height and measures the text in it.
-    Fit fit(const std::string& text, const RECT& rect, const TextLook& look, int height, bool severalLines);
+    /// Chooses the font of that letter height and measures the text in it: in one line (DT_SINGLELINE), or
+    /// broken into lines of that width (DT_WORDBREAK).
+    SIZE measure(const std::string& text, const TextLook& look, int height, UINT lines, int width = 0);
 
-    void blend(std::uint32_t& pixel, Color color, float coverage);
+    /// Draws each row that is seen of the bounds: `draw(y, left, right)`.
+    template<class Draw>
+    void eachRow(const RECT& bounds, Draw draw);
+    /// Fills up to where the distance of a pixel's middle is 0; half-way there the edge is half as strong.
     template<class Distance>
     void shape(const RECT& bounds, Color color, Distance distance);
 
     BackBuffer& buffer_;
     Fonts& fonts_;
-    Scale scale_;
+    const Scale& scale_;
     int width_;
     int height_;
 };

@@ -7,6 +7,23 @@
 
 namespace tarvelon {
 
+namespace {
+
+/// The system's permission to draw what is torn, for as long as it lives.
+struct Painting {
+    explicit Painting(HWND painted)
+        : window(painted) {
+        BeginPaint(window, &job);
+    }
+    Painting(const Painting&) = delete;
+    ~Painting() { EndPaint(window, &job); }
+
+    HWND window;
+    PAINTSTRUCT job{};
+};
+
+} // namespace
+
 ControlWindow* ControlWindow::from(HWND window) {
     const bool ours = window && GetWindowThreadProcessId(window, nullptr) == GetCurrentThreadId() &&
                       reinterpret_cast<WNDPROC>(GetWindowLongPtrA(window, GWLP_WNDPROC)) == procedure;
@@ -14,10 +31,9 @@ ControlWindow* ControlWindow::from(HWND window) {
 }
 
 void ControlWindow::create(HWND parent, int id) {
-    const Kind made = kind();
     const DWORD state = (control_.Visible() ? WS_VISIBLE : 0) | (control_.Enabled() ? 0 : WS_DISABLED);
-    window_ = CreateWindowExA(made.extendedStyle, made.windowClass, control_.captionOrName().c_str(),
-                              WS_CHILD | WS_CLIPSIBLINGS | made.style | state, 0, 0, 0, 0, parent,
+    window_ = CreateWindowExA(kind_.extendedStyle, kind_.windowClass, control_.captionOrName().c_str(),
+                              WS_CHILD | WS_CLIPSIBLINGS | kind_.style | state, 0, 0, 0, 0, parent,
                               reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleA(nullptr),
                               nullptr);
     SetWindowLongPtrA(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
@@ -34,9 +50,17 @@ void ControlWindow::arrange() {
     const RECT place = scale()(control_.place());
     SetWindowPos(window_, nullptr, place.left, place.top, widthOf(place), heightOf(place),
                  SWP_NOZORDER | SWP_NOACTIVATE);
-    const HFONT font = tools().fonts.get(scale().letters(textSize::normal), FW_NORMAL);
-    handleAsClass(WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
+    handleAsClass(WM_SETFONT, reinterpret_cast<WPARAM>(normalFont()), FALSE);
     arranged();
+}
+
+HFONT ControlWindow::normalFont() const {
+    return tools().fonts.get(scale().letters(textSize::normal), FW_NORMAL);
+}
+
+HDC ControlWindow::textDc() const {
+    SelectObject(tools().buffer.dc(), normalFont());
+    return tools().buffer.dc();
 }
 
 void ControlWindow::changed(Aspect aspect) {
@@ -71,11 +95,55 @@ void ControlWindow::changed(Aspect aspect) {
 }
 
 void ControlWindow::refresh() {
-    if (answersCaption()) {
+    if (kind_.textIsCaption) {
         // The system keeps a copy for those who read it without asking; no drawing comes of this.
         DefWindowProcA(window_, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(control_.captionOrName().c_str()));
     }
     RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+}
+
+void ControlWindow::setStyle(LONG style, bool wanted) const {
+    const LONG now = GetWindowLongA(window_, GWL_STYLE);
+    SetWindowLongA(window_, GWL_STYLE, wanted ? now | style : now & ~style);
+}
+
+std::optional<LRESULT> ControlWindow::reflect(UINT message, WPARAM wide, LPARAM low) {
+    switch (message) {
+    case WM_COMMAND:
+        if (ControlWindow* child = from(reinterpret_cast<HWND>(low))) {
+            child->notified(HIWORD(wide));
+            return 0;
+        }
+        break;
+    case WM_NOTIFY: {
+        const auto& header = *reinterpret_cast<const NMHDR*>(low);
+        if (ControlWindow* child = from(header.hwndFrom)) {
+            child->notifiedWith(header);
+            return 0;
+        }
+        break;
+    }
+    case WM_DRAWITEM: {
+        const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(low);
+        if (ControlWindow* child = from(item.hwndItem)) {
+            child->drawRow(item);
+            return TRUE;
+        }
+        break;
+    }
+    case WM_CTLCOLOREDIT:
+    case WM_CTLCOLORSTATIC:
+    case WM_CTLCOLORLISTBOX: {
+        ControlWindow* child = from(reinterpret_cast<HWND>(low));
+        if (HBRUSH brush = child ? child->colorStandardWindow(reinterpret_cast<HDC>(wide)) : nullptr) {
+            return reinterpret_cast<LRESULT>(brush);
+        }
+        break;
+    }
+    default:
+        break;
+    }
+    return std::nullopt;
 }
 
 LRESULT CALLBACK ControlWindow::procedure(HWND window, UINT message, WPARAM wide, LPARAM low) {
@@ -88,40 +156,41 @@ LRESULT ControlWindow::handleAsClass(UINT message, WPARAM wide, LPARAM low) {
 }
 
 LRESULT ControlWindow::handle(UINT message, WPARAM wide, LPARAM low) {
-    switch (message) {
-    case WM_GETTEXT:
-        if (answersCaption()) {
-            return copyCaption(control_.captionOrName(), wide, low);
+    if (kind_.textIsCaption) {
+        if (const auto answer = answerText(control_.captionOrName(), message, wide, low)) {
+            return *answer;
         }
-        break;
-    case WM_GETTEXTLENGTH:
-        if (answersCaption()) {
-            return static_cast<LRESULT>(control_.captionOrName().size());
-        }
-        break;
-    case WM_PAINT:
-        if (paintsItself()) {
-            paintNow();
-            return 0;
-        }
-        break;
-    case WM_ERASEBKGND:
-        if (paintsItself()) {
-            return 1;
-        }
-        break;
-    case WM_MOUSEMOVE:
-        if (control_.onMouseMove && control_.kind() != ControlKind::FlatButton) {
-            control_.screen().dispatch(control_.onMouseMove);
-        }
-        break;
-    default:
-        break;
     }
-    return handleAsClass(message, wide, low);
+    if (message == WM_PAINT && !kind_.drawnByClass) {
+        paintNow();
+        return 0;
+    }
+    if (message == WM_ERASEBKGND && !kind_.drawnByClass) {
+        return 1;
+    }
+    if (message == WM_MOUSEMOVE && control_.onMouseMove && control_.kind() != ControlKind::FlatButton) {
+        control_.screen().dispatch(control_.onMouseMove);
+    }
+    const LRESULT result = handleAsClass(message, wide, low);
+    if (message == WM_NCPAINT && kind_.drawnByClass) {
+        RECT whole;
+        GetWindowRect(window_, &whole);
+        OffsetRect(&whole, -whole.left, -whole.top);
+        const OwnedWindowDc dc(GetWindowDC(window_), {window_});
+        paintEdge(dc.get(), whole, tools().brushes.get(isFocused() ? theme().focus : theme().border));
+    } else if (message == WM_SETFOCUS || message == WM_KILLFOCUS || message == WM_ENABLE) {
+        RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME);
+    }
+    return result;
 }
 
-LRESULT copyCaption(const std::string& caption, WPARAM size, LPARAM buffer) {
+std::optional<LRESULT> answerText(const std::string& caption, UINT message, WPARAM size, LPARAM buffer) {
+    if (message == WM_GETTEXTLENGTH) {
+        return static_cast<LRESULT>(caption.size());
+    }
+    if (message != WM_GETTEXT) {
+        return std::nullopt;
+    }
     if (size == 0) {
         return 0;
     }
@@ -133,44 +202,37 @@ LRESULT copyCaption(const std::string& caption, WPARAM size, LPARAM buffer) {
 }
 
 void ControlWindow::paintNow() {
-    PAINTSTRUCT job;
-    const HDC target = BeginPaint(window_, &job);
+    const Painting painting(window_);
     RECT area;
     GetClientRect(window_, &area);
     if (area.right > 0 && area.bottom > 0 && tools().buffer.reserve(area.right, area.bottom)) {
         Canvas canvas(tools().buffer, tools().fonts, scale(), area.right, area.bottom);
         canvas.fill(area, surface().ground);
         paint(canvas);
-        const RECT& torn = job.rcPaint;
-        BitBlt(target, torn.left, torn.top, widthOf(torn), heightOf(torn), canvas.dc(), torn.left, torn.top,
-               SRCCOPY);
+        const RECT& torn = painting.job.rcPaint;
+        BitBlt(painting.job.hdc, torn.left, torn.top, widthOf(torn), heightOf(torn), canvas.dc(), torn.left,
+               torn.top, SRCCOPY);
     }
-    EndPaint(window_, &job);
+}
+
+void ControlWindow::paintEdge(HDC dc, const RECT& whole, HBRUSH edge) {
+    FrameRect(dc, &whole, edge);
 }
 
 void ControlWindow::paintFocus(Canvas& canvas, const RECT& around, Color color) const {
-    const Scale& scaled = canvas.scale();
-    const int thickness = std::max(scaled(2) * 3 / 4, 1);
-    const auto left = static_cast<float>(around.left) + static_cast<float>(thickness) / 2;
-    const auto top = static_cast<float>(around.top) + static_cast<float>(thickness) / 2;
-    const auto right = static_cast<float>(around.right) - static_cast<float>(thickness) / 2;
-    const auto bottom = static_cast<float>(around.bottom) - static_cast<float>(thickness) / 2;
-    canvas.stroke({{left, top}, {right, top}, {right, bottom}, {left, bottom}, {left, top}},
-                  static_cast<float>(thickness), color);
+    if (!isFocused()) {
+        return;
+    }
+    const int thickness = std::max(canvas.scale()(2) * 3 / 4, 1);
+    const float half = static_cast<float>(thickness) / 2;
+    const float left = static_cast<float>(around.left) + half;
+    const float top = static_cast<float>(around.top) + half;
+    const float right = static_cast<float>(around.right) - half;
+    const float bottom = static_cast<float>(around.bottom) - half;
+    canvas.stroke({{left, top}, {right, top}, {right, bottom}, {left, bottom}, {left, top}}, 2 * half, color);
 }
 
-void ControlWindow::paintThinEdge() const {
-    RECT whole;
-    GetWindowRect(window_, &whole);
-    OffsetRect(&whole, -whole.left, -whole.top);
-    const HDC dc = GetWindowDC(window_);
-    const HBRUSH edge = CreateSolidBrush(isFocused() ? theme().focus : theme().border);
-    FrameRect(dc, &whole, edge);
-    DeleteObject(edge);
-    ReleaseDC(window_, dc);
-}
-
-Scale ControlWindow::scale() const {
+const Scale& ControlWindow::scale() const {
     return form_.scale();
 }
 

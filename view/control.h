@@ -4,7 +4,7 @@
 #include "ui/controls/controls.h"
 #include "view/canvas.h"
 
-#include <memory>
+#include <optional>
 
 namespace tarvelon {
 
@@ -12,6 +12,7 @@ namespace tarvelon {
 struct ViewTools {
     Theme theme = currentTheme();
     Fonts fonts;
+    Brushes brushes;
     BackBuffer buffer;
     ScaleCalls scaling;
 };
@@ -22,9 +23,19 @@ class FormWindow;
 /// changes that are only seen are gathered and shown by `refresh`.
 class ControlWindow {
 public:
-    ControlWindow(FormWindow& form, Control& control)
+    /// How the window is made, and what of its work is left to the class that the system has for it.
+    struct Kind {
+        const char* windowClass;
+        DWORD style = 0; ///< With WS_TABSTOP where the keyboard goes to it.
+        DWORD extendedStyle = 0;
+        bool drawnByClass = false; ///< Its edge apart. Other windows are drawn whole, by `paint`.
+        bool textIsCaption = true; ///< It is the answer when the system asks for the window's text.
+    };
+
+    ControlWindow(FormWindow& form, Control& control, const Kind& kind)
         : form_(form)
-        , control_(control) {}
+        , control_(control)
+        , kind_(kind) {}
     ControlWindow(const ControlWindow&) = delete;
     virtual ~ControlWindow() = default;
 
@@ -40,8 +51,13 @@ public:
 
     HWND window() const { return window_; }
     Control& control() const { return control_; }
+    /// Sets or clears a style of the window.
+    void setStyle(LONG style, bool wanted) const;
 
-    /// Messages that a child window sends to its parent about itself.
+    /// Hands a message that a child window sent to its parent back to the child. Empty when it is none of
+    /// these.
+    static std::optional<LRESULT> reflect(UINT message, WPARAM wide, LPARAM low);
+    /// What the window sends to its parent about itself.
     virtual void notified(int) {}
     virtual void notifiedWith(const NMHDR&) {}
     virtual void drawRow(const DRAWITEMSTRUCT&) {}
@@ -50,30 +66,21 @@ public:
 
     static ControlWindow* from(HWND window);
 
-    bool waitsForRefresh = false;
     bool isFocused() const { return GetFocus() == window_; }
-    /// Labels, bars, charts and frames do not.
-    virtual bool takesKeys() const { return true; }
+    bool takesKeys() const { return (kind_.style & WS_TABSTOP) != 0; }
     /// A list or tree without rows.
     virtual bool isEmpty() const { return false; }
 
-protected:
-    struct Kind {
-        const char* windowClass;
-        DWORD style = 0;
-        DWORD extendedStyle = 0;
-    };
-    virtual Kind kind() const = 0;
+    bool waitsForRefresh = false;
 
+protected:
     virtual LRESULT handle(UINT message, WPARAM wide, LPARAM low);
     /// What the window's class does with the message.
     LRESULT handleAsClass(UINT message, WPARAM wide, LPARAM low);
 
-    /// Draws the whole window. Classes that draw for themselves have `paintsItself` false.
     virtual void paint(Canvas&) {}
-    virtual bool paintsItself() const { return true; }
-    /// What the system is told when it asks for the window's text.
-    virtual bool answersCaption() const { return true; }
+    /// Draws around a standard window's inside.
+    virtual void paintEdge(HDC dc, const RECT& whole, HBRUSH edge);
     /// For windows that keep the caption themselves.
     virtual void applyCaption() {}
     virtual void applyValue() {}
@@ -81,30 +88,52 @@ protected:
     virtual void applyToolTip() {}
     virtual void arranged() {}
 
-    Scale scale() const;
+    const Scale& scale() const;
     ViewTools& tools() const;
     const Theme& theme() const { return tools().theme; }
     const Surface& surface() const;
     FormWindow& form() const { return form_; }
     void repaint() const { InvalidateRect(window_, nullptr, FALSE); }
-    /// Draws over the edge of a window that has WS_BORDER.
-    void paintThinEdge() const;
-    /// The ring around what the keyboard goes to.
+    /// For measuring normal text.
+    HDC textDc() const;
+    /// The ring around what the keyboard goes to, while it does.
     void paintFocus(Canvas& canvas, const RECT& around, Color color) const;
+
+    /// Drawing is put off while it lives: rows come in one piece.
+    class DrawingHeld {
+    public:
+        explicit DrawingHeld(ControlWindow& window)
+            : window_(window)
+            , held_(window.control().Visible()) {
+            set(FALSE);
+        }
+        DrawingHeld(const DrawingHeld&) = delete;
+        ~DrawingHeld() { set(TRUE); }
+
+    private:
+        void set(WPARAM draws) {
+            if (held_) { // On a hidden window the message would bring it to light.
+                window_.handleAsClass(WM_SETREDRAW, draws, 0);
+            }
+        }
+
+        ControlWindow& window_;
+        bool held_;
+    };
 
 private:
     static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wide, LPARAM low);
+    HFONT normalFont() const;
     void paintNow();
 
     FormWindow& form_;
     Control& control_;
+    Kind kind_;
     HWND window_ = nullptr;
     WNDPROC classProcedure_ = nullptr;
 };
 
-/// Answers WM_GETTEXT: the caption, cut to what the buffer holds.
-LRESULT copyCaption(const std::string& caption, WPARAM size, LPARAM buffer);
-
-std::unique_ptr<ControlWindow> makeControlWindow(FormWindow& form, Control& control);
+/// What the system is told that asks for a window's text or its length, cut to what its buffer holds.
+std::optional<LRESULT> answerText(const std::string& caption, UINT message, WPARAM size, LPARAM buffer);
 
 } // namespace tarvelon

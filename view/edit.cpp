@@ -1,100 +1,94 @@
-#include "view/edit.h"
+#include "view/create.h"
 
 #include <algorithm>
 
 namespace tarvelon {
 
-std::string TextBoxWindow::shownText() {
-    std::string text(static_cast<std::size_t>(handleAsClass(WM_GETTEXTLENGTH, 0, 0)) + 1, '\0');
-    const LRESULT copied = handleAsClass(WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()));
-    text.resize(static_cast<std::size_t>(copied));
-    return text;
-}
+namespace {
 
-void TextBoxWindow::notified(int code) {
-    if (code == EN_CHANGE && !setting_) {
-        box_.typed(shownText());
+/// One line to type in. The window's own text is the caption, both ways.
+class TextBoxWindow : public ControlWindow {
+public:
+    TextBoxWindow(FormWindow& form, TextBox& box)
+        : ControlWindow(form, box,
+                        {.windowClass = "EDIT",
+                         .style = ES_AUTOHSCROLL | WS_TABSTOP,
+                         .drawnByClass = true,
+                         .textIsCaption = false})
+        , box_(box) {}
+
+    void notified(int code) override {
+        if (code == EN_CHANGE && !setting_) {
+            box_.typed(shownText());
+        }
     }
-}
 
-void TextBoxWindow::applyCaption() {
-    if (shownText() == box_.Caption()) {
-        return; // It came from the keyboard; setting it again would move the caret.
+    HBRUSH colorStandardWindow(HDC dc) override {
+        SetTextColor(dc, box_.isUsable() ? theme().fieldText : theme().disabledText);
+        SetBkColor(dc, ground());
+        return tools().brushes.get(ground());
     }
-    setting_ = true;
-    handleAsClass(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(box_.Caption().c_str()));
-    setting_ = false;
-}
 
-void TextBoxWindow::arranged() {
-    handleAsClass(EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, MAKELPARAM(scale()(5), scale()(5)));
-    // Has the line centred anew.
-    SetWindowPos(window(), nullptr, 0, 0, 0, 0,
-                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
-}
-
-Color TextBoxWindow::ground() const {
-    return box_.isUsable() ? theme().field : surface().ground;
-}
-
-HBRUSH TextBoxWindow::colorStandardWindow(HDC dc) {
-    SetTextColor(dc, box_.isUsable() ? theme().fieldText : theme().disabledText);
-    SetBkColor(dc, ground());
-    return brush_.of(ground());
-}
-
-LRESULT TextBoxWindow::handle(UINT message, WPARAM wide, LPARAM low) {
-    switch (message) {
-    case WM_NCCALCSIZE: {
+protected:
+    LRESULT handle(UINT message, WPARAM wide, LPARAM low) override {
         const LRESULT result = ControlWindow::handle(message, wide, low);
-        centreLine(*reinterpret_cast<RECT*>(low)); // In both of its forms the message begins with it.
+        if (message == WM_NCCALCSIZE) {
+            auto& area = *reinterpret_cast<RECT*>(low); // In both of its forms the message begins with it.
+            area = lineIn(area);
+        }
         return result;
     }
-    case WM_NCPAINT:
-        paintEdge();
-        return 0;
-    case WM_SETFOCUS:
-    case WM_KILLFOCUS:
-    case WM_ENABLE: {
-        const LRESULT result = ControlWindow::handle(message, wide, low);
-        RedrawWindow(window(), nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME);
-        return result;
-    }
-    default:
-        return ControlWindow::handle(message, wide, low);
-    }
-}
 
-void TextBoxWindow::centreLine(RECT& inside) const {
-    const HDC dc = GetDC(window());
-    const HGDIOBJ previous =
-        SelectObject(dc, tools().fonts.get(scale().letters(textSize::normal), FW_NORMAL));
-    TEXTMETRICA metrics;
-    GetTextMetricsA(dc, &metrics);
-    SelectObject(dc, previous);
-    ReleaseDC(window(), dc);
-    const int spare = std::max((heightOf(inside) - static_cast<int>(metrics.tmHeight)) / 2, 1);
-    inside = inset(inside, scale()(1), std::min(spare, heightOf(inside) / 2));
-}
+    void paintEdge(HDC dc, const RECT& whole, HBRUSH edge) override {
+        const RECT line = lineIn(whole);
+        const RECT withoutEdge = inset(whole, scale()(1), scale()(1));
+        ExcludeClipRect(dc, line.left, line.top, line.right, line.bottom);
+        FillRect(dc, &whole, edge);
+        FillRect(dc, &withoutEdge, tools().brushes.get(ground()));
+    }
 
-void TextBoxWindow::paintEdge() {
-    RECT whole;
-    GetWindowRect(window(), &whole);
-    RECT inside;
-    GetClientRect(window(), &inside);
-    MapWindowPoints(window(), nullptr, reinterpret_cast<POINT*>(&inside), 2);
-    OffsetRect(&inside, -whole.left, -whole.top);
-    OffsetRect(&whole, -whole.left, -whole.top);
-    const HDC dc = GetWindowDC(window());
-    ExcludeClipRect(dc, inside.left, inside.top, inside.right, inside.bottom);
-    const HBRUSH edge = CreateSolidBrush(isFocused() ? theme().focus : theme().border);
-    const HBRUSH field = CreateSolidBrush(ground());
-    const RECT withoutEdge = inset(whole, scale()(1), scale()(1));
-    FillRect(dc, &whole, edge);
-    FillRect(dc, &withoutEdge, field);
-    DeleteObject(field);
-    DeleteObject(edge);
-    ReleaseDC(window(), dc);
+    void applyCaption() override {
+        if (shownText() == box_.Caption()) {
+            return; // It came from the keyboard; setting it again would move the caret.
+        }
+        setting_ = true;
+        handleAsClass(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(box_.Caption().c_str()));
+        setting_ = false;
+    }
+
+    void arranged() override {
+        handleAsClass(EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, MAKELPARAM(scale()(5), scale()(5)));
+        // Has the line centred anew.
+        SetWindowPos(window(), nullptr, 0, 0, 0, 0,
+                     SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+    }
+
+private:
+    std::string shownText() {
+        std::string text(static_cast<std::size_t>(handleAsClass(WM_GETTEXTLENGTH, 0, 0)) + 1, '\0');
+        const LRESULT copied = handleAsClass(WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()));
+        text.resize(static_cast<std::size_t>(copied));
+        return text;
+    }
+
+    Color ground() const { return box_.isUsable() ? theme().field : surface().ground; }
+
+    /// The middle of the area, in the height of a line.
+    RECT lineIn(const RECT& area) const {
+        TEXTMETRICA metrics;
+        GetTextMetricsA(textDc(), &metrics);
+        const int spare = std::max((heightOf(area) - static_cast<int>(metrics.tmHeight)) / 2, 1);
+        return inset(area, scale()(1), std::min(spare, heightOf(area) / 2));
+    }
+
+    TextBox& box_;
+    bool setting_ = false; ///< The text comes from the control, not from the keyboard.
+};
+
+} // namespace
+
+MadeWindow makeWindow(FormWindow& form, TextBox& box) {
+    return std::make_unique<TextBoxWindow>(form, box);
 }
 
 } // namespace tarvelon

@@ -1,7 +1,5 @@
 #include "view/fonts.h"
 
-#include <algorithm>
-
 namespace tarvelon {
 
 namespace {
@@ -20,7 +18,13 @@ bool isInstalled(HDC screen, const char* face) {
     return found;
 }
 
-std::string messageFace() {
+std::string chooseFace() {
+    const OwnedMemoryDc screen(CreateCompatibleDC(nullptr));
+    for (const char* face : {"Segoe UI", "Tahoma"}) {
+        if (isInstalled(screen.get(), face)) {
+            return face;
+        }
+    }
     NONCLIENTMETRICSA metrics{};
     metrics.cbSize = sizeof metrics;
     return SystemParametersInfoA(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0)
@@ -28,28 +32,13 @@ std::string messageFace() {
                : "MS Shell Dlg";
 }
 
-std::string chooseFace() {
-    const HDC screen = GetDC(nullptr);
-    const char* const preferred[] = {"Segoe UI", "Tahoma"};
-    const auto* const chosen = std::find_if(std::begin(preferred), std::end(preferred),
-                                            [screen](const char* face) { return isInstalled(screen, face); });
-    ReleaseDC(nullptr, screen);
-    return chosen == std::end(preferred) ? messageFace() : *chosen;
-}
-
 } // namespace
 
 Fonts::Fonts()
     : face_(chooseFace()) {}
 
-Fonts::~Fonts() {
-    for (const auto& [key, font] : made_) {
-        DeleteObject(font);
-    }
-}
-
 HFONT Fonts::get(int height, int weight, bool underlined) {
-    HFONT& font = made_[{height, weight, underlined}];
+    OwnedFont& font = made_[{height, weight, underlined}];
     if (!font) {
         LOGFONTA description{};
         description.lfHeight = -height;
@@ -57,9 +46,9 @@ HFONT Fonts::get(int height, int weight, bool underlined) {
         description.lfUnderline = underlined ? TRUE : FALSE;
         description.lfCharSet = DEFAULT_CHARSET;
         lstrcpynA(description.lfFaceName, face_.c_str(), LF_FACESIZE);
-        font = CreateFontIndirectA(&description);
+        font.reset(CreateFontIndirectA(&description));
     }
-    return font;
+    return font.get();
 }
 
 } // namespace tarvelon

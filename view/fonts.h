@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/win32/windows_api.h"
+#include "platform/win32/owned.h"
 
 #include <map>
 #include <string>
@@ -19,15 +19,13 @@ constexpr int value = 120;
 class Fonts {
 public:
     Fonts();
-    Fonts(const Fonts&) = delete;
-    ~Fonts();
 
     /// `height` is that of a letter in pixels; `weight` is one of the system's, such as FW_NORMAL.
     HFONT get(int height, int weight, bool underlined = false);
 
 private:
     std::string face_;
-    std::map<std::tuple<int, int, bool>, HFONT> made_;
+    std::map<std::tuple<int, int, bool>, OwnedFont> made_;
 };
 
 } // namespace tarvelon

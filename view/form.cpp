@@ -1,9 +1,11 @@
 #include "view/form.h"
 
 #include "platform/win32/foremost.h"
+#include "view/create.h"
 
 #include <algorithm>
 #include <iterator>
+#include <optional>
 #include <utility>
 
 namespace tarvelon {
@@ -32,23 +34,22 @@ FormWindow::FormWindow(Screen& screen, ViewTools& tools)
 }
 
 FormWindow::~FormWindow() {
-    SetWindowLongPtrA(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(DefWindowProcA));
-    DestroyWindow(window_);
+    SetWindowLongPtrA(window(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(DefWindowProcA));
 }
 
 void FormWindow::createWindow() {
-    window_ = CreateWindowExA(extendedStyle, formWindowClass, screen_.Caption().c_str(), styleOf(screen_),
-                              CW_USEDEFAULT, CW_USEDEFAULT, 0, 0, nullptr, nullptr, GetModuleHandleA(nullptr),
-                              nullptr);
-    SetWindowLongPtrA(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
-    SetWindowLongPtrA(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure));
-    scale_ = Scale(tools_.scaling.dotsPerInch(window_));
+    window_.reset(CreateWindowExA(extendedStyle, formWindowClass, screen_.Caption().c_str(), styleOf(screen_),
+                                  CW_USEDEFAULT, CW_USEDEFAULT, 0, 0, nullptr, nullptr,
+                                  GetModuleHandleA(nullptr), nullptr));
+    SetWindowLongPtrA(window(), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+    SetWindowLongPtrA(window(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure));
+    scale_ = Scale(tools_.scaling.dotsPerInch(window()));
     const SIZE size = outerSize();
     RECT desktop;
     SystemParametersInfoA(SPI_GETWORKAREA, 0, &desktop, 0);
     const int x = desktop.left + std::max((widthOf(desktop) - static_cast<int>(size.cx)) / 2, 0);
     const int y = desktop.top + std::max((heightOf(desktop) - static_cast<int>(size.cy)) / 2, 0);
-    SetWindowPos(window_, nullptr, x, y, size.cx, size.cy, SWP_NOZORDER | SWP_NOACTIVATE);
+    SetWindowPos(window(), nullptr, x, y, size.cx, size.cy, SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 SIZE FormWindow::outerSize() const {
@@ -79,24 +80,22 @@ void FormWindow::createControls() {
         if (control->kind() == ControlKind::Timer) {
             continue;
         }
-        std::unique_ptr<ControlWindow> made = makeControlWindow(*this, *control);
         const ControlWindow* frame = control->frame() ? windowOf(*control->frame()) : nullptr;
-        byControl_[control] = made.get();
-        made->create(frame ? frame->window() : window_, id++);
+        ControlWindow& made = *(controls_[control] = makeControlWindow(*this, *control));
+        made.create(frame ? frame->window() : window(), id++);
         // The arrow keys go round among neighbours of one kind; what takes no keys is a group of its own.
         std::optional<ControlKind>& previous = before[control->frame()];
-        const auto group = made->takesKeys() ? std::optional(control->kind()) : std::nullopt;
+        const auto group = made.takesKeys() ? std::optional(control->kind()) : std::nullopt;
         if (!group || group != previous) {
-            SetWindowLongA(made->window(), GWL_STYLE, GetWindowLongA(made->window(), GWL_STYLE) | WS_GROUP);
+            made.setStyle(WS_GROUP, true);
         }
         previous = group;
-        controls_.push_back(std::move(made));
     }
 }
 
 ControlWindow* FormWindow::windowOf(const Control& control) const {
-    const auto found = byControl_.find(&control);
-    return found == byControl_.end() ? nullptr : found->second;
+    const auto found = controls_.find(&control);
+    return found == controls_.end() ? nullptr : found->second.get();
 }
 
 void FormWindow::changed(Aspect aspect) {
@@ -132,17 +131,17 @@ void FormWindow::changed(Control& control, Aspect aspect) {
 
 void FormWindow::applyVisible() {
     if (!screen_.Visible()) {
-        ShowWindow(window_, SW_HIDE);
+        ShowWindow(window(), SW_HIDE);
         return;
     }
     if (controls_.empty()) {
         createControls();
     }
     if (blocked_) {
-        SetWindowPos(window_, foremostUsable(), 0, 0, 0, 0,
+        SetWindowPos(window(), foremostUsable(), 0, 0, 0, 0,
                      SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW);
     } else if (screen_.Minimized()) {
-        ShowWindow(window_, SW_SHOWMINIMIZED);
+        ShowWindow(window(), SW_SHOWMINIMIZED);
     } else {
         bringToFront();
     }
@@ -150,20 +149,20 @@ void FormWindow::applyVisible() {
 
 void FormWindow::bringToFront() {
     if (!blocked_) {
-        ShowWindow(window_, SW_SHOWNORMAL);
-        SetForegroundWindow(window_);
+        ShowWindow(window(), SW_SHOWNORMAL);
+        SetForegroundWindow(window());
     }
 }
 
 void FormWindow::setBlocked(bool blocked) {
     blocked_ = blocked;
-    EnableWindow(window_, !blocked);
+    EnableWindow(window(), !blocked);
 }
 
 void FormWindow::applyMinimized() {
-    const bool already = (IsIconic(window_) != FALSE) == screen_.Minimized();
+    const bool already = (IsIconic(window()) != FALSE) == screen_.Minimized();
     if (screen_.Visible() && !already) {
-        ShowWindow(window_, screen_.Minimized() ? SW_MINIMIZE : SW_RESTORE);
+        ShowWindow(window(), screen_.Minimized() ? SW_MINIMIZE : SW_RESTORE);
     }
 }
 
@@ -171,15 +170,15 @@ void FormWindow::applyTimer(const Timer& timer) {
     const auto found = std::find(timers_.begin(), timers_.end(), &timer);
     const UINT_PTR id = firstControlTimer + static_cast<UINT_PTR>(std::distance(timers_.begin(), found));
     if (timer.Enabled()) {
-        SetTimer(window_, id, static_cast<UINT>(timer.interval()), nullptr);
+        SetTimer(window(), id, static_cast<UINT>(timer.interval()), nullptr);
     } else {
-        KillTimer(window_, id);
+        KillTimer(window(), id);
     }
 }
 
 void FormWindow::timerFired(UINT_PTR id) {
     if (id == refreshTimer) {
-        KillTimer(window_, refreshTimer);
+        KillTimer(window(), refreshTimer);
         timerRuns_ = false;
         refresh();
     } else if (id >= firstControlTimer && id - firstControlTimer < timers_.size()) {
@@ -202,7 +201,7 @@ void FormWindow::refreshIfDue() {
     if (GetTickCount() - refreshedAt_ >= refreshEvery) {
         refresh();
     } else if (!timerRuns_) {
-        timerRuns_ = SetTimer(window_, refreshTimer, refreshEvery, nullptr) != 0;
+        timerRuns_ = SetTimer(window(), refreshTimer, refreshEvery, nullptr) != 0;
     }
 }
 
@@ -210,7 +209,7 @@ void FormWindow::refresh() {
     refreshedAt_ = GetTickCount();
     if (captionWaits_) {
         captionWaits_ = false;
-        DefWindowProcA(window_, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(screen_.Caption().c_str()));
+        DefWindowProcA(window(), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(screen_.Caption().c_str()));
     }
     for (ControlWindow* window : std::exchange(waiting_, {})) {
         window->waitsForRefresh = false;
@@ -227,21 +226,21 @@ void FormWindow::refresh() {
 }
 
 void FormWindow::arrange() {
-    for (const auto& control : controls_) {
-        control->arrange();
+    for (const auto& [control, window] : controls_) {
+        window->arrange();
     }
 }
 
 void FormWindow::scaleTo(unsigned dotsPerInch, const RECT& place) {
     scale_ = Scale(dotsPerInch);
     const SIZE size = outerSize();
-    SetWindowPos(window_, nullptr, place.left, place.top, size.cx, size.cy, SWP_NOZORDER | SWP_NOACTIVATE);
+    SetWindowPos(window(), nullptr, place.left, place.top, size.cx, size.cy, SWP_NOZORDER | SWP_NOACTIVATE);
     arrange();
     themeChanged();
 }
 
 void FormWindow::themeChanged() {
-    RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
+    RedrawWindow(window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
 }
 
 } // namespace tarvelon

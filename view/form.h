@@ -3,7 +3,6 @@
 #include "view/control.h"
 
 #include <memory>
-#include <optional>
 #include <unordered_map>
 #include <unordered_set>
 #include <vector>
@@ -11,6 +10,7 @@
 namespace tarvelon {
 
 constexpr const char* formWindowClass = "TarvelonForm";
+constexpr const char* frameWindowClass = "TarvelonFrame";
 
 /// The top-level window of one screen, with all its child windows.
 class FormWindow {
@@ -40,7 +40,7 @@ public:
     void setBlocked(bool blocked);
     void themeChanged();
 
-    HWND window() const { return window_; }
+    HWND window() const { return window_.get(); }
     Screen& screen() const { return screen_; }
     ViewTools& tools() const { return tools_; }
     const Scale& scale() const { return scale_; }
@@ -71,21 +71,21 @@ private:
     Screen& screen_;
     ViewTools& tools_;
     Scale scale_{96};
-    HWND window_ = nullptr;
     HWND focusKept_ = nullptr; ///< Had the keyboard when the form was last left.
     bool focusLost_ = false;   ///< What had the keyboard can have it no longer.
     bool blocked_ = false;
     const ControlWindow* emptied_ = nullptr;
     const Control* pageShown_ = nullptr; ///< The frame that came to light last.
     std::unordered_set<const Frame*> navigation_;
-    std::vector<std::unique_ptr<ControlWindow>> controls_;
-    std::unordered_map<const Control*, ControlWindow*> byControl_;
+    std::unordered_map<const Control*, std::unique_ptr<ControlWindow>> controls_;
     std::vector<Timer*> timers_;
 
     std::vector<ControlWindow*> waiting_; ///< To be refreshed.
     bool captionWaits_ = false;
     bool timerRuns_ = false; ///< The one that refreshes when nothing else does.
     DWORD refreshedAt_ = 0;  ///< Milliseconds of the system's tick count.
+
+    OwnedWindow window_; ///< The first to go: its child windows lean on all else.
 };
 
 } // namespace tarvelon

@@ -1,7 +1,6 @@
 #include "view/form.h"
 
 #include "platform/win32/foremost.h"
-#include "view/frame.h"
 
 // What reaches a form from outside: messages, keys, the focus.
 
@@ -19,13 +18,15 @@ LRESULT CALLBACK FormWindow::procedure(HWND window, UINT message, WPARAM wide, L
 }
 
 LRESULT FormWindow::handle(UINT message, WPARAM wide, LPARAM low) {
-    LRESULT result = 0;
-    if (reflectToChild(message, wide, low, result)) {
-        return result;
+    if (const auto answer = ControlWindow::reflect(message, wide, low)) {
+        return *answer;
+    }
+    if (const auto answer = answerText(screen_.Caption(), message, wide, low)) {
+        return *answer;
     }
     switch (message) {
     case WM_CLOSE:
-        if (IsWindowEnabled(window_)) {
+        if (IsWindowEnabled(window())) {
             screen_.close();
         } else {
             SetForegroundWindow(foremostUsable());
@@ -46,24 +47,18 @@ LRESULT FormWindow::handle(UINT message, WPARAM wide, LPARAM low) {
         screen_.Minimized = wide == SIZE_MINIMIZED;
         return 0;
     case WM_ACTIVATE:
-        result = DefWindowProcA(window_, message, wide, low);
+        DefWindowProcA(window(), message, wide, low);
         activated(LOWORD(wide) != WA_INACTIVE);
-        return result;
+        return 0;
     case WM_NEXTDLGCTL:
         moveFocus(wide, low);
         return 0;
     case WM_ERASEBKGND: {
         RECT area;
-        GetClientRect(window_, &area);
-        const HBRUSH ground = CreateSolidBrush(tools_.theme.page.ground);
-        FillRect(reinterpret_cast<HDC>(wide), &area, ground);
-        DeleteObject(ground);
+        GetClientRect(window(), &area);
+        FillRect(reinterpret_cast<HDC>(wide), &area, tools_.brushes.get(tools_.theme.page.ground));
         return 1;
     }
-    case WM_GETTEXT:
-        return copyCaption(screen_.Caption(), wide, low);
-    case WM_GETTEXTLENGTH:
-        return static_cast<LRESULT>(screen_.Caption().size());
     case WM_SETTINGCHANGE:
     case WM_SYSCOLORCHANGE:
         tools_.theme = currentTheme();
@@ -75,7 +70,7 @@ LRESULT FormWindow::handle(UINT message, WPARAM wide, LPARAM low) {
     default:
         break;
     }
-    return DefWindowProcA(window_, message, wide, low);
+    return DefWindowProcA(window(), message, wide, low);
 }
 
 bool FormWindow::takes(MSG& message) {
@@ -92,10 +87,10 @@ bool FormWindow::takes(MSG& message) {
         return true;
     }
     const bool isArrow = key >= VK_LEFT && key <= VK_DOWN;
-    if (down && isArrow && message.hwnd == window_) {
+    if (down && isArrow && message.hwnd == window()) {
         return true; // No control has the keyboard: there is no group to go round in.
     }
-    return IsDialogMessageA(window_, &message) != FALSE;
+    return IsDialogMessageA(window(), &message) != FALSE;
 }
 
 /// What a key going down has hidden or disabled still gets the messages that belong to the same key. There is
@@ -104,10 +99,10 @@ bool FormWindow::canUseKeys(HWND window) const {
     if (!IsWindowVisible(window)) {
         return false;
     }
-    while (window && window != window_ && IsWindowEnabled(window)) {
+    while (window && window != window_.get() && IsWindowEnabled(window)) {
         window = GetParent(window);
     }
-    return window == window_ && IsWindowEnabled(window_);
+    return window == window_.get() && IsWindowEnabled(window_.get());
 }
 
 void FormWindow::activated(bool active) {
@@ -116,8 +111,8 @@ void FormWindow::activated(bool active) {
     } else if (blocked_) {
         // Whatever brought it here, the user has the box in front of it to deal with.
         SetForegroundWindow(foremostUsable());
-    } else if (!IsIconic(window_)) {
-        if (IsChild(window_, focusKept_) && canUseKeys(focusKept_)) {
+    } else if (!IsIconic(window())) {
+        if (IsChild(window(), focusKept_) && canUseKeys(focusKept_)) {
             SetFocus(focusKept_);
         } else {
             giveFocus();
@@ -129,16 +124,16 @@ void FormWindow::followFocus(const ControlWindow& window) {
     const bool usable = window.control().Visible() && window.control().Enabled();
     const HWND focus = GetFocus();
     if (!usable && focus && (focus == window.window() || IsChild(window.window(), focus))) {
-        SetFocus(window_);
+        SetFocus(window_.get());
         focusLost_ = true;
-    } else if (usable && focus == window_) {
+    } else if (usable && focus == window_.get()) {
         focusLost_ = true; // Nothing could take the keyboard so far.
     }
 }
 
 void FormWindow::giveFocus() {
     const HWND now = GetFocus();
-    if (GetActiveWindow() != window_ || (now && now != window_)) {
+    if (GetActiveWindow() != window() || (now && now != window())) {
         return;
     }
     HWND next = nullptr;
@@ -147,7 +142,7 @@ void FormWindow::giveFocus() {
         next = GetNextDlgTabItem(page->window(), nullptr, FALSE);
     }
     if (!next) {
-        next = GetNextDlgTabItem(window_, nullptr, FALSE);
+        next = GetNextDlgTabItem(window(), nullptr, FALSE);
     }
     if (next && canUseKeys(next)) {
         SetFocus(next);
@@ -157,8 +152,8 @@ void FormWindow::giveFocus() {
 void FormWindow::moveFocus(WPARAM wide, LPARAM low) {
     const bool isWindow = LOWORD(low) != 0;
     const HWND now = GetFocus();
-    const HWND from = now != window_ && canUseKeys(now) ? now : nullptr;
-    const HWND next = isWindow ? reinterpret_cast<HWND>(wide) : GetNextDlgTabItem(window_, from, wide != 0);
+    const HWND from = now != window() && canUseKeys(now) ? now : nullptr;
+    const HWND next = isWindow ? reinterpret_cast<HWND>(wide) : GetNextDlgTabItem(window(), from, wide != 0);
     if (next && canUseKeys(next)) {
         SetFocus(next);
     }

@@ -1,10 +1,7 @@
 #include "view/press.h"
 
-#include "view/form.h"
-
 #include <windowsx.h>
 
-#include <algorithm>
 #include <utility>
 
 namespace tarvelon {
@@ -151,71 +148,15 @@ const Color& PressWindow::faceColor(const Face& face) const {
     return isHovered() ? face.hovered : face.normal;
 }
 
-void FlatButtonWindow::hover(POINT where) {
-    // The caption's line is the button's label; what lies above and below is the button's own ground.
-    RECT area;
-    GetClientRect(window(), &area);
-    const int halfLine = scale()(10);
-    const int middle = heightOf(area) / 2;
-    if (where.y < middle - halfLine || where.y > middle + halfLine || !contains(where)) {
-        button_.mouseMove();
-    } else if (button_.onMouseMove) {
-        button_.screen().dispatch(button_.onMouseMove);
-    }
+Color PressWindow::textOn(const Face& face, Color own) const {
+    const Color system = control().isUsable() ? face.border : theme().disabledText;
+    return theme().highContrast ? system : own;
 }
 
-void FlatButtonWindow::paint(Canvas& canvas) {
-    const Scale& scaled = canvas.scale();
-    const bool pressed = button_.Enabled() && button_.foreColor() == colors::white;
-    const Color face = pressed ? theme().button.pressed : faceColor(theme().button);
-    if (theme().highContrast) {
-        canvas.roundedBox(canvas.area(), scaled(4), face, theme().button.border, scaled(pressed ? 2 : 1));
-    } else {
-        canvas.roundedBox(canvas.area(), scaled(4), face);
-    }
-    const Color systemText = button_.isUsable() ? theme().button.border : theme().disabledText;
-    const Color text = theme().highContrast ? systemText : button_.foreColor();
-    canvas.text(button_.Caption(), inset(canvas.area(), scaled(6), scaled(1)),
-                {.color = text, .align = Align::Center, .mnemonics = true});
-    if (isFocused()) {
-        paintFocus(canvas, inset(canvas.area(), scaled(2), scaled(2)),
-                   theme().highContrast ? theme().focus : colors::white);
-    }
-}
-
-void ActionWindow::paint(Canvas& canvas) {
-    if (label_.style() == TextStyle::Link || label_.style() == TextStyle::Step) {
-        paintLink(canvas);
-        return;
-    }
-    const Scale& scaled = canvas.scale();
-    canvas.roundedBox(canvas.area(), scaled(4), faceColor(theme().action), theme().action.border, scaled(1));
-    const Color systemText = label_.isUsable() ? theme().action.border : theme().disabledText;
-    const Color own = label_.isUsable() ? label_.ForeColor() : colors::white;
-    canvas.text(label_.Caption(), inset(canvas.area(), scaled(8), scaled(1)),
-                {.color = theme().highContrast ? systemText : own, .align = Align::Center});
-    if (isFocused()) {
-        paintFocus(canvas, inset(canvas.area(), scaled(3), scaled(3)),
-                   theme().highContrast ? theme().focus : colors::white);
-    }
-}
-
-void ActionWindow::paintLink(Canvas& canvas) {
-    const bool step = label_.style() == TextStyle::Step;
-    TextLook look{.color = step ? surface().text : theme().link, .underlined = !step || label_.Underlined()};
-    if (!label_.isUsable()) {
-        look.color = theme().disabledText;
-    } else if (label_.ForeColor() != colors::black && !theme().highContrast) {
-        look.color = label_.ForeColor();
-    }
-    RECT text = canvas.area();
-    text.left = canvas.scale()(2);
-    canvas.text(label_.Caption(), text, look);
-    if (isFocused()) {
-        text.left = 0;
-        text.right = std::min<LONG>(canvas.textWidth(label_.Caption(), look) + canvas.scale()(5), text.right);
-        paintFocus(canvas, text, theme().focus);
-    }
+void PressWindow::paintFocusOnFace(Canvas& canvas, int margin) const {
+    const int edge = canvas.scale()(margin);
+    paintFocus(canvas, inset(canvas.area(), edge, edge),
+               theme().highContrast ? theme().focus : colors::white);
 }
 
 } // namespace tarvelon

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "view/control.h"
+#include "view/create.h"
 
 namespace tarvelon {
 
@@ -8,7 +8,8 @@ namespace tarvelon {
 /// are the same for all; the kinds differ in what a press means and in their looks.
 class PressWindow : public ControlWindow {
 public:
-    using ControlWindow::ControlWindow;
+    PressWindow(FormWindow& form, Control& control, DWORD style = BS_OWNERDRAW | WS_TABSTOP)
+        : ControlWindow(form, control, {"BUTTON", style}) {}
 
     void notified(int code) override;
 
@@ -31,6 +32,9 @@ protected:
     bool isHeld() const { return held_ != Held::No && overWhileHeld_; }
     bool contains(POINT where) const;
     const Color& faceColor(const Face& face) const;
+    /// A text's colour on the face; `own` where the user's scheme does not decide.
+    Color textOn(const Face& face, Color own) const;
+    void paintFocusOnFace(Canvas& canvas, int margin) const;
 
 private:
     enum class Held { No, ByMouse, ByKey };
@@ -43,44 +47,6 @@ private:
     bool hovered_ = false;
     Held held_ = Held::No;
     bool overWhileHeld_ = false;
-};
-
-class FlatButtonWindow : public PressWindow {
-public:
-    FlatButtonWindow(FormWindow& form, FlatButton& button)
-        : PressWindow(form, button)
-        , button_(button) {}
-
-protected:
-    Kind kind() const override { return {"BUTTON", BS_OWNERDRAW | WS_TABSTOP}; }
-    void click() override { button_.click(); }
-    void down() override { button_.mouseDown(); }
-    void up() override { button_.mouseUp(); }
-    void hover(POINT where) override;
-    void paint(Canvas& canvas) override;
-
-private:
-    FlatButton& button_;
-};
-
-/// A label that is clicked: with a button's face, or as a link.
-class ActionWindow : public PressWindow {
-public:
-    ActionWindow(FormWindow& form, Label& label)
-        : PressWindow(form, label)
-        , label_(label) {}
-
-protected:
-    Kind kind() const override { return {"BUTTON", BS_OWNERDRAW | WS_TABSTOP}; }
-    void click() override { label_.click(); }
-    void down() override { label_.mouseDown(); }
-    void up() override { label_.mouseUp(); }
-    void paint(Canvas& canvas) override;
-
-private:
-    void paintLink(Canvas& canvas);
-
-    Label& label_;
 };
 
 } // namespace tarvelon

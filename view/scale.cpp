@@ -13,9 +13,8 @@ unsigned ScaleCalls::dotsPerInch(HWND window) const {
             return own;
         }
     }
-    const HDC screen = GetDC(nullptr);
-    const int shared = GetDeviceCaps(screen, LOGPIXELSY);
-    ReleaseDC(nullptr, screen);
+    const OwnedMemoryDc screen(CreateCompatibleDC(nullptr));
+    const int shared = GetDeviceCaps(screen.get(), LOGPIXELSY);
     return shared > 0 ? static_cast<unsigned>(shared) : 96;
 }
 

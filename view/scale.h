@@ -1,7 +1,7 @@
 #pragma once
 
+#include "platform/win32/owned.h"
 #include "platform/win32/system_library.h"
-#include "platform/win32/windows_api.h"
 #include "ui/controls/geometry.h"
 
 namespace tarvelon {

@@ -1,7 +1,9 @@
 #pragma once
 
-#include "platform/win32/windows_api.h"
+#include "platform/win32/owned.h"
 #include "ui/controls/geometry.h"
+
+#include <map>
 
 namespace tarvelon {
 
@@ -48,5 +50,20 @@ struct Theme {
 };
 
 Theme currentTheme();
+
+/// The brushes of the colours that were asked for so far.
+class Brushes {
+public:
+    HBRUSH get(Color color) {
+        OwnedBrush& brush = made_[color];
+        if (!brush) {
+            brush.reset(CreateSolidBrush(color));
+        }
+        return brush.get();
+    }
+
+private:
+    std::map<Color, OwnedBrush> made_;
+};
 
 } // namespace tarvelon

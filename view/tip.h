@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/win32/windows_api.h"
+#include "platform/win32/owned.h"
 
 #include <string>
 
@@ -10,10 +10,6 @@ namespace tarvelon {
 /// hidden, it would stand in every list of open windows under the text shown last.
 class ToolTip {
 public:
-    ToolTip() = default;
-    ToolTip(const ToolTip&) = delete;
-    ~ToolTip();
-
     /// An empty text shows nothing. `widestLine` is in pixels.
     void set(const std::string& text, int widestLine);
     /// Has to see all mouse messages of the window, that of leaving included.
@@ -21,11 +17,10 @@ public:
 
 private:
     void open(HWND owner);
-    void close();
 
     std::string text_;
     int widestLine_ = 0;
-    HWND window_ = nullptr;
+    OwnedWindow window_;
 };
 
 } // namespace tarvelon

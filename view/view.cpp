@@ -1,7 +1,6 @@
 #include "view/view.h"
 
 #include "view/form.h"
-#include "view/frame.h"
 
 #include <commctrl.h>
 
