@@ -4,16 +4,9 @@ namespace tarvelon {
 
 namespace {
 
-class FlatButtonWindow : public PressWindow {
+class FlatButtonWindow : public WindowOf<FlatButton, PressWindow> {
 public:
-    FlatButtonWindow(FormWindow& form, FlatButton& button)
-        : PressWindow(form, button)
-        , button_(button) {}
-
-protected:
-    void click() override { button_.click(); }
-    void down() override { button_.mouseDown(); }
-    void up() override { button_.mouseUp(); }
+    using WindowOf::WindowOf;
 
     void hover(POINT where) override {
         // The caption's line is the button's label; what lies above and below is the button's own ground.
@@ -22,15 +15,15 @@ protected:
         const int halfLine = scale()(10);
         const int middle = heightOf(area) / 2;
         if (where.y < middle - halfLine || where.y > middle + halfLine || !contains(where)) {
-            button_.mouseMove();
-        } else if (button_.onMouseMove) {
-            button_.screen().dispatch(button_.onMouseMove);
+            control().mouseMove();
+        } else if (control().onMouseMove) {
+            control().screen().dispatch(control().onMouseMove);
         }
     }
 
     void paint(Canvas& canvas) override {
         const Scale& scaled = canvas.scale();
-        const bool pressed = button_.Enabled() && button_.foreColor() == colors::white;
+        const bool pressed = control().Enabled() && control().foreColor() == colors::white;
         const Color face = pressed ? theme().button.pressed : faceColor(theme().button);
         if (theme().highContrast) {
             canvas.roundedBox(canvas.area(), scaled(4), face, theme().button.border, scaled(pressed ? 2 : 1));
@@ -38,40 +31,31 @@ protected:
             canvas.roundedBox(canvas.area(), scaled(4), face);
         }
         canvas.text(
-            button_.Caption(), inset(canvas.area(), scaled(6), scaled(1)),
-            {.color = textOn(theme().button, button_.foreColor()), .align = DT_CENTER, .mnemonics = true});
+            control().Caption(), inset(canvas.area(), scaled(6), scaled(1)),
+            {.color = textOn(theme().button, control().foreColor()), .align = DT_CENTER, .mnemonics = true});
         paintFocusOnFace(canvas, 2);
     }
-
-private:
-    FlatButton& button_;
 };
 
 /// An entry of the navigation column.
-class NavButtonWindow : public PressWindow {
+class NavButtonWindow : public WindowOf<NavButton, PressWindow> {
 public:
-    NavButtonWindow(FormWindow& form, NavButton& button)
-        : PressWindow(form, button)
-        , button_(button)
-        , drawing_(drawingNamed(button.icon())) {}
-
-protected:
-    void click() override { button_.click(); }
+    using WindowOf::WindowOf;
 
     void paint(Canvas& canvas) override {
         const Scale& scaled = canvas.scale();
         const RECT area = canvas.area();
         Color ground = isHovered() ? theme().navigationHover : theme().navigation.ground;
         Color text = theme().navigation.text;
-        if (button_.Current()) {
+        if (control().Current()) {
             ground = theme().navigationCurrent;
             text = theme().navigationCurrentText;
         }
-        if (!button_.isUsable()) {
+        if (!control().isUsable()) {
             text = theme().disabledText;
         }
         canvas.fill(area, ground);
-        if (button_.Current()) {
+        if (control().Current()) {
             canvas.fill({0, 0, scaled(4), area.bottom}, text);
         }
         const int size = scaled(32);
@@ -81,23 +65,20 @@ protected:
         const int top = (heightOf(area) - size - gap - line) / 2;
         canvas.drawing(drawing_, {left, top, left + size, top + size}, text);
         const RECT caption{scaled(8), top + size + gap, area.right - scaled(8), top + size + gap + line};
-        canvas.text(button_.Caption(), caption, {.color = text, .align = DT_CENTER, .mnemonics = true});
+        canvas.text(control().Caption(), caption, {.color = text, .align = DT_CENTER, .mnemonics = true});
         paintFocus(canvas, inset(area, scaled(2), scaled(2)), theme().navigation.quietText);
     }
-
-private:
-    NavButton& button_;
-    const LineDrawing& drawing_;
+    const LineDrawing& drawing_ = drawingNamed(control().icon());
 };
 
 } // namespace
 
-MadeWindow makeWindow(FormWindow& form, FlatButton& button) {
-    return std::make_unique<FlatButtonWindow>(form, button);
+MadeWindow makeFlatButton(FormWindow& form, Control& control) {
+    return std::make_unique<FlatButtonWindow>(form, control);
 }
 
-MadeWindow makeWindow(FormWindow& form, NavButton& button) {
-    return std::make_unique<NavButtonWindow>(form, button);
+MadeWindow makeNavButton(FormWindow& form, Control& control) {
+    return std::make_unique<NavButtonWindow>(form, control);
 }
 
 } // namespace tarvelon

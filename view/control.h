@@ -96,6 +96,18 @@ protected:
     void repaint() const { InvalidateRect(window_, nullptr, FALSE); }
     /// For measuring normal text.
     HDC textDc() const;
+    /// The square of a check box or the circle of an option button.
+    struct Mark {
+        bool round = false;
+        bool ticked = false;
+        bool usable = true;
+        bool hovered = false;
+
+        /// Width and height at 96 dots an inch.
+        static constexpr int size = 16;
+    };
+    /// Draws the mark with its left edge at `left` pixels, in the middle of the canvas's height.
+    void paintMark(Canvas& canvas, int left, const Mark& mark) const;
     /// The ring around what the keyboard goes to, while it does.
     void paintFocus(Canvas& canvas, const RECT& around, Color color) const;
 
@@ -131,6 +143,14 @@ private:
     Kind kind_;
     HWND window_ = nullptr;
     WNDPROC classProcedure_ = nullptr;
+};
+
+/// A window that knows its control's own type.
+template<class Own, class Base = ControlWindow>
+class WindowOf : public Base {
+public:
+    using Base::Base;
+    Own& control() const { return static_cast<Own&>(Base::control()); }
 };
 
 /// What the system is told that asks for a window's text or its length, cut to what its buffer holds.

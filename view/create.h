@@ -6,28 +6,26 @@
 
 namespace tarvelon {
 
-class BarChart;
-class Tree;
-
 using MadeWindow = std::unique_ptr<ControlWindow>;
 
 /// Null for a timer, which is not seen.
 MadeWindow makeControlWindow(FormWindow& form, Control& control);
 
-MadeWindow makeWindow(FormWindow& form, Frame& frame);
-MadeWindow makeWindow(FormWindow& form, Label& label);
-MadeWindow makeWindow(FormWindow& form, FlatButton& button);
-MadeWindow makeWindow(FormWindow& form, FlatCheck& check);
-MadeWindow makeWindow(FormWindow& form, CheckBox& box);
-MadeWindow makeWindow(FormWindow& form, OptionButton& option);
-MadeWindow makeWindow(FormWindow& form, NavButton& button);
-MadeWindow makeWindow(FormWindow& form, Picture& picture);
-MadeWindow makeWindow(FormWindow& form, TextBox& box);
-MadeWindow makeWindow(FormWindow& form, ListBox& list);
-MadeWindow makeWindow(FormWindow& form, CheckListBox& list);
-MadeWindow makeWindow(FormWindow& form, ComboBox& combo);
-MadeWindow makeWindow(FormWindow& form, ProgressBar& bar);
-MadeWindow makeWindow(FormWindow& form, BarChart& chart);
-MadeWindow makeWindow(FormWindow& form, Tree& tree);
+// The control has to be of the kind.
+MadeWindow makeFrame(FormWindow& form, Control& control);
+MadeWindow makeLabel(FormWindow& form, Control& control);
+MadeWindow makeFlatButton(FormWindow& form, Control& control);
+MadeWindow makeFlatCheck(FormWindow& form, Control& control);
+MadeWindow makeCheckBox(FormWindow& form, Control& control);
+MadeWindow makeOptionButton(FormWindow& form, Control& control);
+MadeWindow makeNavButton(FormWindow& form, Control& control);
+MadeWindow makePicture(FormWindow& form, Control& control);
+MadeWindow makeTextBox(FormWindow& form, Control& control);
+MadeWindow makeListBox(FormWindow& form, Control& control);
+MadeWindow makeCheckList(FormWindow& form, Control& control);
+MadeWindow makeTree(FormWindow& form, Control& control);
+MadeWindow makeComboBox(FormWindow& form, Control& control);
+MadeWindow makeProgressBar(FormWindow& form, Control& control);
+MadeWindow makeBarChart(FormWindow& form, Control& control);
 
 } // namespace tarvelon

@@ -7,29 +7,22 @@ namespace tarvelon {
 namespace {
 
 /// One line to type in. The window's own text is the caption, both ways.
-class TextBoxWindow : public ControlWindow {
+class TextBoxWindow : public WindowOf<TextBox> {
 public:
-    TextBoxWindow(FormWindow& form, TextBox& box)
-        : ControlWindow(form, box,
-                        {.windowClass = "EDIT",
-                         .style = ES_AUTOHSCROLL | WS_TABSTOP,
-                         .drawnByClass = true,
-                         .textIsCaption = false})
-        , box_(box) {}
+    using WindowOf::WindowOf;
 
     void notified(int code) override {
         if (code == EN_CHANGE && !setting_) {
-            box_.typed(shownText());
+            control().typed(shownText());
         }
     }
 
     HBRUSH colorStandardWindow(HDC dc) override {
-        SetTextColor(dc, box_.isUsable() ? theme().fieldText : theme().disabledText);
+        SetTextColor(dc, control().isUsable() ? theme().fieldText : theme().disabledText);
         SetBkColor(dc, ground());
         return tools().brushes.get(ground());
     }
 
-protected:
     LRESULT handle(UINT message, WPARAM wide, LPARAM low) override {
         const LRESULT result = ControlWindow::handle(message, wide, low);
         if (message == WM_NCCALCSIZE) {
@@ -48,11 +41,11 @@ protected:
     }
 
     void applyCaption() override {
-        if (shownText() == box_.Caption()) {
+        if (shownText() == control().Caption()) {
             return; // It came from the keyboard; setting it again would move the caret.
         }
         setting_ = true;
-        handleAsClass(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(box_.Caption().c_str()));
+        handleAsClass(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(control().Caption().c_str()));
         setting_ = false;
     }
 
@@ -71,7 +64,7 @@ private:
         return text;
     }
 
-    Color ground() const { return box_.isUsable() ? theme().field : surface().ground; }
+    Color ground() const { return control().isUsable() ? theme().field : surface().ground; }
 
     /// The middle of the area, in the height of a line.
     RECT lineIn(const RECT& area) const {
@@ -80,15 +73,17 @@ private:
         const int spare = std::max((heightOf(area) - static_cast<int>(metrics.tmHeight)) / 2, 1);
         return inset(area, scale()(1), std::min(spare, heightOf(area) / 2));
     }
-
-    TextBox& box_;
     bool setting_ = false; ///< The text comes from the control, not from the keyboard.
 };
 
 } // namespace
 
-MadeWindow makeWindow(FormWindow& form, TextBox& box) {
-    return std::make_unique<TextBoxWindow>(form, box);
+MadeWindow makeTextBox(FormWindow& form, Control& control) {
+    return std::make_unique<TextBoxWindow>(form, control,
+                                           ControlWindow::Kind{.windowClass = "EDIT",
+                                                               .style = ES_AUTOHSCROLL | WS_TABSTOP,
+                                                               .drawnByClass = true,
+                                                               .textIsCaption = false});
 }
 
 } // namespace tarvelon

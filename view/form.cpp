@@ -4,7 +4,6 @@
 #include "view/create.h"
 
 #include <algorithm>
-#include <iterator>
 #include <optional>
 #include <utility>
 
@@ -29,7 +28,11 @@ FormWindow::FormWindow(Screen& screen, ViewTools& tools)
     : screen_(screen)
     , tools_(tools) {
     createWindow();
-    startTimers();
+    for (const Control* control : screen_.controls()) {
+        if (control->kind() == ControlKind::Timer) {
+            applyTimer(*control);
+        }
+    }
     applyVisible();
 }
 
@@ -58,22 +61,8 @@ SIZE FormWindow::outerSize() const {
     return {widthOf(frame), heightOf(frame)};
 }
 
-void FormWindow::startTimers() {
-    for (Control* control : screen_.controls()) {
-        if (control->kind() == ControlKind::Timer) {
-            timers_.push_back(static_cast<Timer*>(control));
-            applyTimer(*timers_.back());
-        }
-    }
-}
-
 /// Called when the form first comes to light: a run that never shows it does not pay for its windows.
 void FormWindow::createControls() {
-    for (const Control* control : screen_.controls()) {
-        if (control->kind() == ControlKind::NavButton && control->frame()) {
-            navigation_.insert(control->frame());
-        }
-    }
     int id = firstControlId;
     std::unordered_map<const Frame*, std::optional<ControlKind>> before;
     for (Control* control : screen_.controls()) {
@@ -96,6 +85,12 @@ void FormWindow::createControls() {
 ControlWindow* FormWindow::windowOf(const Control& control) const {
     const auto found = controls_.find(&control);
     return found == controls_.end() ? nullptr : found->second.get();
+}
+
+bool FormWindow::isNavigation(const Frame& frame) const {
+    return std::ranges::any_of(screen_.controls(), [&](const Control* control) {
+        return control->kind() == ControlKind::NavButton && control->frame() == &frame;
+    });
 }
 
 void FormWindow::changed(Aspect aspect) {
@@ -123,7 +118,7 @@ void FormWindow::changed(Control& control, Aspect aspect) {
         pageShown_ = &control;
     }
     if (control.kind() == ControlKind::Timer) {
-        applyTimer(static_cast<const Timer&>(control));
+        applyTimer(control);
     } else if (ControlWindow* window = windowOf(control)) {
         window->changed(aspect);
     }
@@ -166,23 +161,26 @@ void FormWindow::applyMinimized() {
     }
 }
 
-void FormWindow::applyTimer(const Timer& timer) {
-    const auto found = std::find(timers_.begin(), timers_.end(), &timer);
-    const UINT_PTR id = firstControlTimer + static_cast<UINT_PTR>(std::distance(timers_.begin(), found));
+/// A timer's number is its place among the controls.
+void FormWindow::applyTimer(const Control& timer) {
+    const auto place = std::ranges::find(screen_.controls(), &timer) - screen_.controls().begin();
+    const UINT_PTR id = firstControlTimer + static_cast<UINT_PTR>(place);
     if (timer.Enabled()) {
-        SetTimer(window(), id, static_cast<UINT>(timer.interval()), nullptr);
+        SetTimer(window(), id, static_cast<UINT>(static_cast<const Timer&>(timer).interval()), nullptr);
     } else {
         KillTimer(window(), id);
     }
 }
 
 void FormWindow::timerFired(UINT_PTR id) {
+    const auto& controls = screen_.controls();
+    const UINT_PTR place = id - firstControlTimer;
     if (id == refreshTimer) {
         KillTimer(window(), refreshTimer);
         timerRuns_ = false;
         refresh();
-    } else if (id >= firstControlTimer && id - firstControlTimer < timers_.size()) {
-        timers_[id - firstControlTimer]->tick();
+    } else if (place < controls.size() && controls[place]->kind() == ControlKind::Timer) {
+        static_cast<Timer*>(controls[place])->tick();
     }
 }
 
@@ -225,17 +223,13 @@ void FormWindow::refresh() {
     }
 }
 
-void FormWindow::arrange() {
-    for (const auto& [control, window] : controls_) {
-        window->arrange();
-    }
-}
-
 void FormWindow::scaleTo(unsigned dotsPerInch, const RECT& place) {
     scale_ = Scale(dotsPerInch);
     const SIZE size = outerSize();
     SetWindowPos(window(), nullptr, place.left, place.top, size.cx, size.cy, SWP_NOZORDER | SWP_NOACTIVATE);
-    arrange();
+    for (const auto& [control, window] : controls_) {
+        window->arrange();
+    }
     themeChanged();
 }
 

@@ -4,7 +4,6 @@
 
 #include <memory>
 #include <unordered_map>
-#include <unordered_set>
 #include <vector>
 
 namespace tarvelon {
@@ -45,7 +44,7 @@ public:
     ViewTools& tools() const { return tools_; }
     const Scale& scale() const { return scale_; }
     /// A frame with navigation buttons in it is the navigation column.
-    bool isNavigation(const Frame& frame) const { return navigation_.contains(&frame); }
+    bool isNavigation(const Frame& frame) const;
     ControlWindow* windowOf(const Control& control) const;
 
 private:
@@ -53,14 +52,12 @@ private:
     LRESULT handle(UINT message, WPARAM wide, LPARAM low);
 
     void createWindow();
-    void startTimers();
     void createControls();
-    void arrange();
     void applyVisible();
     void applyMinimized();
     void bringToFront();
     bool canUseKeys(HWND window) const;
-    void applyTimer(const Timer& timer);
+    void applyTimer(const Control& timer);
     void scaleTo(unsigned dotsPerInch, const RECT& place);
     SIZE outerSize() const;
     void timerFired(UINT_PTR id);
@@ -76,9 +73,7 @@ private:
     bool blocked_ = false;
     const ControlWindow* emptied_ = nullptr;
     const Control* pageShown_ = nullptr; ///< The frame that came to light last.
-    std::unordered_set<const Frame*> navigation_;
     std::unordered_map<const Control*, std::unique_ptr<ControlWindow>> controls_;
-    std::vector<Timer*> timers_;
 
     std::vector<ControlWindow*> waiting_; ///< To be refreshed.
     bool captionWaits_ = false;

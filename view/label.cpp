@@ -16,20 +16,17 @@ int percentFrom(const std::string& text) {
 }
 
 /// Text, a figure, or a percentage drawn as a bar.
-class LabelWindow : public ControlWindow {
+class LabelWindow : public WindowOf<Label> {
 public:
-    LabelWindow(FormWindow& form, Label& label)
-        : ControlWindow(form, label, {"STATIC"})
-        , label_(label) {}
+    using WindowOf::WindowOf;
 
-protected:
     LRESULT handle(UINT message, WPARAM wide, LPARAM low) override {
         switch (message) {
         case WM_NCHITTEST:
             // A label that nothing is bound to lets the mouse through to what stands under it.
-            return label_.onClick || label_.onMouseMove ? HTCLIENT : HTTRANSPARENT;
+            return control().onClick || control().onMouseMove ? HTCLIENT : HTTRANSPARENT;
         case WM_LBUTTONUP:
-            label_.click();
+            control().click();
             return 0;
         default:
             return ControlWindow::handle(message, wide, low);
@@ -38,7 +35,7 @@ protected:
 
     void paint(Canvas& canvas) override {
         TextLook look{.color = textColor()};
-        switch (label_.style()) {
+        switch (control().style()) {
         case TextStyle::Heading:
             look.tenthPoints = textSize::heading;
             look.weight = FW_SEMIBOLD;
@@ -58,24 +55,24 @@ protected:
         default:
             break;
         }
-        canvas.text(label_.Caption(), canvas.area(), look);
+        canvas.text(control().Caption(), canvas.area(), look);
     }
 
 private:
     Color textColor() const {
-        if (!label_.isUsable()) {
+        if (!control().isUsable()) {
             return theme().disabledText;
         }
-        const bool plain = label_.ForeColor() == colors::black;
+        const bool plain = control().ForeColor() == colors::black;
         if (theme().highContrast || plain) {
-            return label_.style() == TextStyle::Hint ? surface().quietText : surface().text;
+            return control().style() == TextStyle::Hint ? surface().quietText : surface().text;
         }
-        return label_.ForeColor();
+        return control().ForeColor();
     }
 
     void paintGauge(Canvas& canvas, const TextLook& look) const {
         const Scale& scaled = canvas.scale();
-        const int percent = percentFrom(label_.Caption());
+        const int percent = percentFrom(control().Caption());
         const int height = scaled(6);
         const int top = (heightOf(canvas.area()) - height) / 2;
         const int width = widthOf(canvas.area()) - canvas.textWidth("100%", look) - scaled(8);
@@ -88,67 +85,57 @@ private:
             canvas.roundedBox({0, top, done, top + height}, height / 2, theme().bar);
         }
     }
-
-    Label& label_;
 };
 
 /// A label that is clicked: with a button's face, or as a link.
-class ActionWindow : public PressWindow {
+class ActionWindow : public WindowOf<Label, PressWindow> {
 public:
-    ActionWindow(FormWindow& form, Label& label)
-        : PressWindow(form, label)
-        , label_(label) {}
-
-protected:
-    void click() override { label_.click(); }
-    void down() override { label_.mouseDown(); }
-    void up() override { label_.mouseUp(); }
+    using WindowOf::WindowOf;
 
     void paint(Canvas& canvas) override {
-        if (label_.style() != TextStyle::Action) {
+        if (control().style() != TextStyle::Action) {
             paintLink(canvas);
             return;
         }
         const Scale& scaled = canvas.scale();
         canvas.roundedBox(canvas.area(), scaled(4), faceColor(theme().action), theme().action.border,
                           scaled(1));
-        const Color own = label_.isUsable() ? label_.ForeColor() : colors::white;
-        canvas.text(label_.Caption(), inset(canvas.area(), scaled(8), scaled(1)),
+        const Color own = control().isUsable() ? control().ForeColor() : colors::white;
+        canvas.text(control().Caption(), inset(canvas.area(), scaled(8), scaled(1)),
                     {.color = textOn(theme().action, own), .align = DT_CENTER});
         paintFocusOnFace(canvas, 3);
     }
 
 private:
     void paintLink(Canvas& canvas) const {
-        const bool step = label_.style() == TextStyle::Step;
+        const bool step = control().style() == TextStyle::Step;
         TextLook look{.color = step ? surface().text : theme().link,
-                      .underlined = !step || label_.Underlined()};
-        if (!label_.isUsable()) {
+                      .underlined = !step || control().Underlined()};
+        if (!control().isUsable()) {
             look.color = theme().disabledText;
-        } else if (label_.ForeColor() != colors::black && !theme().highContrast) {
-            look.color = label_.ForeColor();
+        } else if (control().ForeColor() != colors::black && !theme().highContrast) {
+            look.color = control().ForeColor();
         }
         RECT text = canvas.area();
         text.left = canvas.scale()(2);
-        canvas.text(label_.Caption(), text, look);
+        canvas.text(control().Caption(), text, look);
         text.left = 0;
-        text.right = std::min<LONG>(canvas.textWidth(label_.Caption(), look) + canvas.scale()(5), text.right);
+        text.right =
+            std::min<LONG>(canvas.textWidth(control().Caption(), look) + canvas.scale()(5), text.right);
         paintFocus(canvas, text, theme().focus);
     }
-
-    Label& label_;
 };
 
 } // namespace
 
-MadeWindow makeWindow(FormWindow& form, Label& label) {
-    switch (label.style()) {
+MadeWindow makeLabel(FormWindow& form, Control& control) {
+    switch (static_cast<const Label&>(control).style()) {
     case TextStyle::Action:
     case TextStyle::Link:
     case TextStyle::Step:
-        return std::make_unique<ActionWindow>(form, label);
+        return std::make_unique<ActionWindow>(form, control);
     default:
-        return std::make_unique<LabelWindow>(form, label);
+        return std::make_unique<LabelWindow>(form, control, ControlWindow::Kind{"STATIC"});
     }
 }
 

@@ -1,6 +1,5 @@
 #include "view/create.h"
 #include "view/form.h"
-#include "view/mark.h"
 #include "view/tip.h"
 
 #include <algorithm>
@@ -33,16 +32,15 @@ constexpr ItemMessages comboMessages{
 };
 
 /// Rows of text. The window's rows follow the control's when they are next drawn or asked for, many at once.
-class ItemsWindow : public ControlWindow {
+class ItemsWindow : public WindowOf<ItemControl> {
 public:
-    ItemsWindow(FormWindow& form, ItemControl& items, const Kind& kind, const ItemMessages& messages)
-        : ControlWindow(form, items, kind)
-        , items_(items)
+    ItemsWindow(FormWindow& form, Control& items, const Kind& kind, const ItemMessages& messages)
+        : WindowOf(form, items, kind)
         , messages_(messages) {}
 
     void notified(int code) override {
         if (code == messages_.selectionChanged) {
-            items_.select(static_cast<int>(handleAsClass(messages_.getSelected, 0, 0)));
+            control().select(static_cast<int>(handleAsClass(messages_.getSelected, 0, 0)));
         }
     }
 
@@ -60,19 +58,19 @@ public:
             return;
         }
         const bool selected = (item.itemState & ODS_SELECTED) != 0;
-        const Color plain = items_.isUsable() ? theme().fieldText : theme().disabledText;
+        const Color plain = control().isUsable() ? theme().fieldText : theme().disabledText;
         Canvas canvas(tools().buffer, tools().fonts, scale(), width, height);
         canvas.fill(canvas.area(), selected ? theme().selected : theme().field);
         RECT text = inset(canvas.area(), scale()(6), 0);
         paintRowStart(canvas, row);
         text.left += rowStartWidth();
-        canvas.text(items_.item(row), text, {.color = selected ? theme().selectedText : plain});
+        canvas.text(control().item(row), text, {.color = selected ? theme().selectedText : plain});
         BitBlt(item.hDC, item.rcItem.left, item.rcItem.top, width, height, canvas.dc(), 0, 0, SRCCOPY);
     }
 
     /// The ground below the last row, also that of an open drop-down list.
     HBRUSH colorStandardWindow(HDC) override { return tools().brushes.get(theme().field); }
-    bool isEmpty() const override { return items_.count() == 0; }
+    bool isEmpty() const override { return control().count() == 0; }
 
 protected:
     LRESULT handle(UINT message, WPARAM wide, LPARAM low) override {
@@ -84,7 +82,7 @@ protected:
 
     void applyValue() override {
         followRows();
-        handleAsClass(messages_.setSelected, static_cast<WPARAM>(items_.listIndex()), 0);
+        handleAsClass(messages_.setSelected, static_cast<WPARAM>(control().listIndex()), 0);
     }
 
     void applyItems(Aspect aspect) override {
@@ -103,7 +101,6 @@ protected:
     /// Pixels of the longest row with all that is around it, where rows can be scrolled sideways.
     virtual int rowWidth() const { return 0; }
     int rowHeight() const { return scale()(20); }
-    ItemControl& items() const { return items_; }
 
     /// Rows from `first` on are now in the window.
     virtual void rowsAdded(int) {}
@@ -121,19 +118,19 @@ private:
             rows_ = 0;
         }
         const int first = rows_;
-        for (; rows_ < items_.count(); ++rows_) {
-            handleAsClass(messages_.add, 0,
-                          reinterpret_cast<LPARAM>(items_.items()[static_cast<std::size_t>(rows_)].c_str()));
+        for (; rows_ < control().count(); ++rows_) {
+            handleAsClass(
+                messages_.add, 0,
+                reinterpret_cast<LPARAM>(control().items()[static_cast<std::size_t>(rows_)].c_str()));
         }
-        handleAsClass(messages_.setSelected, static_cast<WPARAM>(items_.listIndex()), 0);
-        if (topRow > 0 && topRow < items_.count()) {
+        handleAsClass(messages_.setSelected, static_cast<WPARAM>(control().listIndex()), 0);
+        if (topRow > 0 && topRow < control().count()) {
             // Rows that change their text do not move.
             handleAsClass(messages_.setTop, static_cast<WPARAM>(topRow), 0);
         }
         rowsAdded(first);
     }
 
-    ItemControl& items_;
     const ItemMessages& messages_;
     int rows_ = 0; ///< Rows the window has.
     bool stale_ = true;
@@ -141,7 +138,7 @@ private:
 
 class ListBoxWindow : public ItemsWindow {
 public:
-    ListBoxWindow(FormWindow& form, ItemControl& list)
+    ListBoxWindow(FormWindow& form, Control& list)
         : ItemsWindow(form, list,
                       {.windowClass = "LISTBOX",
                        .style = LBS_NOTIFY | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS | LBS_NOINTEGRALHEIGHT |
@@ -151,7 +148,7 @@ public:
 
     void drawRow(const DRAWITEMSTRUCT& item) override {
         ItemsWindow::drawRow(item);
-        if ((item.itemState & ODS_FOCUS) != 0 && items().count() > 0) {
+        if ((item.itemState & ODS_FOCUS) != 0 && control().count() > 0) {
             DrawFocusRect(item.hDC, &item.rcItem);
         }
     }
@@ -170,8 +167,8 @@ protected:
     void rowsAdded(int first) override {
         const HDC dc = textDc();
         longestText_ = first == 0 ? 0 : longestText_;
-        for (int row = first; row < items().count(); ++row) {
-            const std::string& text = items().items()[static_cast<std::size_t>(row)];
+        for (int row = first; row < control().count(); ++row) {
+            const std::string& text = control().items()[static_cast<std::size_t>(row)];
             SIZE size{};
             GetTextExtentPoint32A(dc, text.c_str(), static_cast<int>(text.size()), &size);
             longestText_ = std::max(longestText_, static_cast<int>(size.cx));
@@ -180,7 +177,7 @@ protected:
     }
 
     int rowWidth() const override { return rowStartWidth() + longestText_ + scale()(12); }
-    void applyToolTip() override { toolTip_.set(items().ToolTip(), scale()(480)); }
+    void applyToolTip() override { toolTip_.set(control().ToolTip(), scale()(480)); }
 
 private:
     ToolTip toolTip_;
@@ -188,49 +185,43 @@ private:
 };
 
 /// A list with a mark before each row. Other programs read a row's tick as its item data.
-class CheckListWindow : public ListBoxWindow {
+class CheckListWindow : public WindowOf<CheckListBox, ListBoxWindow> {
 public:
-    CheckListWindow(FormWindow& form, CheckListBox& list)
-        : ListBoxWindow(form, list)
-        , list_(list) {}
+    using WindowOf::WindowOf;
 
     void notified(int code) override {
         if (code == LBN_SELCHANGE) {
             // By the arrow keys. A click and Space come as messages of their own, and flip the tick.
-            list_.setListIndex(static_cast<int>(handleAsClass(LB_GETCURSEL, 0, 0)));
+            control().setListIndex(static_cast<int>(handleAsClass(LB_GETCURSEL, 0, 0)));
         }
     }
 
-protected:
     LRESULT handle(UINT message, WPARAM wide, LPARAM low) override {
         if (message == LB_GETITEMDATA) {
-            return list_.ticked(static_cast<int>(wide)) ? 1 : 0;
+            return control().ticked(static_cast<int>(wide)) ? 1 : 0;
         }
         const LRESULT result = ListBoxWindow::handle(message, wide, low);
         if (message == WM_LBUTTONDOWN || message == WM_LBUTTONDBLCLK) {
             const LRESULT hit = handleAsClass(LB_ITEMFROMPOINT, 0, low);
             if (HIWORD(hit) == 0) {
-                list_.toggle(LOWORD(hit));
+                control().toggle(LOWORD(hit));
             }
-        } else if (message == WM_KEYDOWN && wide == VK_SPACE && list_.listIndex() >= 0) {
-            list_.toggle(list_.listIndex());
+        } else if (message == WM_KEYDOWN && wide == VK_SPACE && control().listIndex() >= 0) {
+            control().toggle(control().listIndex());
         }
         return result;
     }
 
     void paintRowStart(Canvas& canvas, int row) override {
-        paintMark(canvas, theme(), canvas.scale()(6),
-                  {.ticked = list_.ticked(row), .usable = list_.isUsable()});
+        paintMark(canvas, canvas.scale()(6),
+                  {.ticked = control().ticked(row), .usable = control().isUsable()});
     }
     int rowStartWidth() const override { return scale()(Mark::size + 6); }
-
-private:
-    CheckListBox& list_;
 };
 
 class ComboBoxWindow : public ItemsWindow {
 public:
-    ComboBoxWindow(FormWindow& form, ComboBox& combo)
+    ComboBoxWindow(FormWindow& form, Control& combo)
         : ItemsWindow(
               form, combo,
               {.windowClass = "COMBOBOX",
@@ -246,7 +237,6 @@ public:
         }
     }
 
-protected:
     LRESULT handle(UINT message, WPARAM wide, LPARAM low) override {
         if (message == WM_CTLCOLORLISTBOX) {
             return reinterpret_cast<LRESULT>(colorStandardWindow(nullptr));
@@ -257,12 +247,12 @@ protected:
     void paint(Canvas& canvas) override {
         const Scale& scaled = canvas.scale();
         const RECT area = canvas.area();
-        const bool usable = items().isUsable();
+        const bool usable = control().isUsable();
         canvas.roundedBox(area, scaled(4), usable ? theme().field : surface().ground,
                           isFocused() ? theme().focus : theme().border, scaled(1));
         const Color color = usable ? theme().fieldText : theme().disabledText;
         const RECT text{scaled(7), 1, area.right - scaled(26), area.bottom - 1};
-        canvas.text(items().text(), text, {.color = color});
+        canvas.text(control().text(), text, {.color = color});
         const float half = static_cast<float>(scaled(8)) / 2;
         const float x = static_cast<float>(area.right - scaled(14));
         const float y = static_cast<float>(area.bottom) / 2;
@@ -283,16 +273,16 @@ protected:
 
 } // namespace
 
-MadeWindow makeWindow(FormWindow& form, ListBox& list) {
-    return std::make_unique<ListBoxWindow>(form, list);
+MadeWindow makeListBox(FormWindow& form, Control& control) {
+    return std::make_unique<ListBoxWindow>(form, control);
 }
 
-MadeWindow makeWindow(FormWindow& form, CheckListBox& list) {
-    return std::make_unique<CheckListWindow>(form, list);
+MadeWindow makeCheckList(FormWindow& form, Control& control) {
+    return std::make_unique<CheckListWindow>(form, control);
 }
 
-MadeWindow makeWindow(FormWindow& form, ComboBox& combo) {
-    return std::make_unique<ComboBoxWindow>(form, combo);
+MadeWindow makeComboBox(FormWindow& form, Control& control) {
+    return std::make_unique<ComboBoxWindow>(form, control);
 }
 
 } // namespace tarvelon

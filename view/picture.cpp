@@ -31,19 +31,12 @@ Spot middleOf(const RECT& rect) {
 
 /// A large round button with a drawing on it. "-lit" behind the picture's name stands for the same button
 /// with light around it: it lies over the plain one and leaves the keyboard to that.
-class PictureWindow : public PressWindow {
+class PictureWindow : public WindowOf<Picture, PressWindow> {
 public:
-    PictureWindow(FormWindow& form, Picture& picture)
-        : PressWindow(form, picture,
-                      picture.image().ends_with(litEnding) ? BS_OWNERDRAW : BS_OWNERDRAW | WS_TABSTOP)
-        , picture_(picture)
-        , name_(plainName(picture.image()))
-        , drawing_(drawingNamed(name_)) {}
+    using WindowOf::WindowOf;
 
-protected:
-    void click() override { picture_.click(); }
-    void keyPress() override { picture_.keyPress(); }
-    void keyClick() override { picture_.keyClick(); }
+    void keyPress() override { control().keyPress(); }
+    void keyClick() override { control().keyClick(); }
 
     LRESULT handle(UINT message, WPARAM wide, LPARAM low) override {
         if (message == WM_NCHITTEST) {
@@ -54,7 +47,7 @@ protected:
         if (message == WM_KILLFOCUS) {
             focusMoved();
             if (!isSamePlace(reinterpret_cast<HWND>(wide))) {
-                picture_.loseFocus();
+                control().loseFocus();
             }
         } else if (message == WM_SETFOCUS) {
             if (const HWND plain = isLit() ? plainBelow() : nullptr) {
@@ -62,7 +55,7 @@ protected:
                 return result;
             }
             focusMoved();
-            picture_.focus();
+            control().focus();
         }
         return result;
     }
@@ -80,7 +73,7 @@ protected:
         }
         Color ground = isLit() ? face().hovered : face().normal;
         Color lines = contrast ? face().border : colors::white;
-        if (!picture_.isUsable()) {
+        if (!control().isUsable()) {
             ground = face().disabled;
         } else if (isHeld()) {
             ground = face().pressed;
@@ -120,7 +113,7 @@ private:
     bool isSamePlace(HWND other) const {
         const ControlWindow* found = ControlWindow::from(other);
         return found && found->control().kind() == ControlKind::Picture &&
-               found->control().frame() == picture_.frame() && found->control().place() == picture_.place();
+               found->control().frame() == control().frame() && found->control().place() == control().place();
     }
 
     HWND plainBelow() const {
@@ -133,19 +126,20 @@ private:
 
     void focusMoved() const {
         // The ring shows on whichever of the windows in this place lies on top.
-        const RECT place = scale()(picture_.place());
+        const RECT place = scale()(control().place());
         RedrawWindow(GetParent(window()), &place, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
     }
 
-    Picture& picture_;
-    std::string name_; ///< Without the ending.
-    const LineDrawing& drawing_;
+    std::string name_ = plainName(control().image());
+    const LineDrawing& drawing_ = drawingNamed(name_);
 };
 
 } // namespace
 
-MadeWindow makeWindow(FormWindow& form, Picture& picture) {
-    return std::make_unique<PictureWindow>(form, picture);
+MadeWindow makePicture(FormWindow& form, Control& control) {
+    const bool lit = static_cast<const Picture&>(control).image().ends_with(litEnding);
+    const DWORD style = BS_OWNERDRAW | (lit ? 0 : WS_TABSTOP);
+    return std::make_unique<PictureWindow>(form, control, style);
 }
 
 } // namespace tarvelon

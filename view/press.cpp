@@ -6,12 +6,6 @@
 
 namespace tarvelon {
 
-void PressWindow::notified(int code) {
-    if (code == BN_CLICKED) {
-        click();
-    }
-}
-
 LRESULT PressWindow::handle(UINT message, WPARAM wide, LPARAM low) {
     switch (message) {
     case WM_LBUTTONDOWN:
@@ -79,7 +73,7 @@ void PressWindow::press(Held by) {
     if (by == Held::ByKey) {
         keyPress();
     }
-    down();
+    control().mouseDown();
     repaint();
 }
 
@@ -91,10 +85,10 @@ void PressWindow::release(bool counts) {
     if (GetCapture() == window()) {
         ReleaseCapture();
     }
-    up();
+    control().mouseUp();
     repaint();
     if (counts) {
-        by == Held::ByKey ? keyClick() : click();
+        by == Held::ByKey ? keyClick() : control().click();
     }
 }
 
@@ -114,7 +108,7 @@ void PressWindow::mouseMoved(POINT where) {
     }
     if (held_ == Held::ByMouse && inside != overWhileHeld_) {
         overWhileHeld_ = inside;
-        inside ? down() : up();
+        inside ? control().mouseDown() : control().mouseUp();
         repaint();
     }
     hover(where);

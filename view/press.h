@@ -11,17 +11,18 @@ public:
     PressWindow(FormWindow& form, Control& control, DWORD style = BS_OWNERDRAW | WS_TABSTOP)
         : ControlWindow(form, control, {"BUTTON", style}) {}
 
-    void notified(int code) override;
+    void notified(int code) override {
+        if (code == BN_CLICKED) {
+            control().click();
+        }
+    }
 
 protected:
     LRESULT handle(UINT message, WPARAM wide, LPARAM low) override;
 
-    virtual void click() = 0;
     /// Space or Enter goes down on the window, and what comes of it.
     virtual void keyPress() {}
-    virtual void keyClick() { click(); }
-    virtual void down() {}
-    virtual void up() {}
+    virtual void keyClick() { control().click(); }
     /// The mouse moves over the window, in its own pixels.
     virtual void hover(POINT) {}
     virtual void leave() {}

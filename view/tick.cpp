@@ -1,5 +1,4 @@
 #include "view/form.h"
-#include "view/mark.h"
 #include "view/press.h"
 
 #include <algorithm>
@@ -12,7 +11,7 @@ namespace {
 /// A square or round mark with its text behind it: check boxes and option buttons.
 class TickWindow : public PressWindow {
 public:
-    TickWindow(FormWindow& form, Control& control, DWORD style = BS_AUTOCHECKBOX)
+    TickWindow(FormWindow& form, Control& control, DWORD style)
         : PressWindow(form, control, style | WS_TABSTOP)
         , isRound_(style == BS_AUTORADIOBUTTON) {}
 
@@ -20,7 +19,7 @@ protected:
     void paint(Canvas& canvas) override {
         const Scale& scaled = canvas.scale();
         const std::string& caption = control().Caption();
-        paintMark(canvas, theme(), scaled(1),
+        paintMark(canvas, scaled(1),
                   {.round = isRound_,
                    .ticked = isTicked(),
                    .usable = control().isUsable(),
@@ -57,73 +56,55 @@ private:
     bool isRound_;
 };
 
-class FlatCheckWindow : public TickWindow {
+class FlatCheckWindow : public WindowOf<FlatCheck, TickWindow> {
 public:
-    FlatCheckWindow(FormWindow& form, FlatCheck& check)
-        : TickWindow(form, check)
-        , check_(check) {}
+    using WindowOf::WindowOf;
 
-protected:
-    void click() override { check_.click(); }
-    void leave() override { check_.mouseMoveBox(); }
-    bool isTicked() const override { return check_.value() != 0; }
-    bool isLink() const override { return check_.hovered(); }
+    void leave() override { control().mouseMoveBox(); }
+    bool isTicked() const override { return control().value() != 0; }
+    bool isLink() const override { return control().hovered(); }
 
     void hover(POINT where) override {
         if (isHovered() && where.x >= textLeft()) {
-            check_.mouseMoveLabel();
+            control().mouseMoveLabel();
         } else {
-            check_.mouseMoveBox();
+            control().mouseMoveBox();
         }
     }
-
-private:
-    FlatCheck& check_;
 };
 
-class CheckBoxWindow : public TickWindow {
+class CheckBoxWindow : public WindowOf<CheckBox, TickWindow> {
 public:
-    CheckBoxWindow(FormWindow& form, CheckBox& box)
-        : TickWindow(form, box)
-        , box_(box) {}
+    using WindowOf::WindowOf;
 
-protected:
-    void click() override { box_.click(); }
-    bool isTicked() const override { return box_.value() != 0; }
+    bool isTicked() const override { return control().value() != 0; }
 
     Color textColor() const override {
-        const bool plain = box_.ForeColor() == colors::black && !box_.BackColor();
-        return plain || theme().highContrast ? surface().text : box_.ForeColor();
+        const bool plain = control().ForeColor() == colors::black && !control().BackColor();
+        return plain || theme().highContrast ? surface().text : control().ForeColor();
     }
 
     void paint(Canvas& canvas) override {
-        if (box_.BackColor() && !theme().highContrast) {
-            canvas.roundedBox(canvas.area(), canvas.scale()(4), *box_.BackColor());
+        if (control().BackColor() && !theme().highContrast) {
+            canvas.roundedBox(canvas.area(), canvas.scale()(4), *control().BackColor());
         }
         TickWindow::paint(canvas);
     }
-
-private:
-    CheckBox& box_;
 };
 
-class OptionButtonWindow : public TickWindow {
+class OptionButtonWindow : public WindowOf<OptionButton, TickWindow> {
 public:
-    OptionButtonWindow(FormWindow& form, OptionButton& option)
-        : TickWindow(form, option, BS_AUTORADIOBUTTON)
-        , option_(option) {}
+    using WindowOf::WindowOf;
 
-protected:
-    void click() override { option_.click(); }
     UINT dialogCode() const override { return DLGC_BUTTON | DLGC_RADIOBUTTON; }
-    bool isTicked() const override { return option_.value(); }
+    bool isTicked() const override { return control().value(); }
 
     void applyValue() override {
         // Tab goes to the choice that is made, the arrow keys go to the others.
         std::vector<const OptionButton*> neighbours;
-        for (const Control* control : option_.screen().controls()) {
-            if (control->kind() == ControlKind::OptionButton && control->frame() == option_.frame()) {
-                neighbours.push_back(static_cast<const OptionButton*>(control));
+        for (const Control* other : control().screen().controls()) {
+            if (other->kind() == ControlKind::OptionButton && other->frame() == control().frame()) {
+                neighbours.push_back(static_cast<const OptionButton*>(other));
             }
         }
         const bool someChosen = std::ranges::any_of(neighbours, &OptionButton::value);
@@ -133,23 +114,20 @@ protected:
             }
         }
     }
-
-private:
-    OptionButton& option_;
 };
 
 } // namespace
 
-MadeWindow makeWindow(FormWindow& form, FlatCheck& check) {
-    return std::make_unique<FlatCheckWindow>(form, check);
+MadeWindow makeFlatCheck(FormWindow& form, Control& control) {
+    return std::make_unique<FlatCheckWindow>(form, control, BS_AUTOCHECKBOX);
 }
 
-MadeWindow makeWindow(FormWindow& form, CheckBox& box) {
-    return std::make_unique<CheckBoxWindow>(form, box);
+MadeWindow makeCheckBox(FormWindow& form, Control& control) {
+    return std::make_unique<CheckBoxWindow>(form, control, BS_AUTOCHECKBOX);
 }
 
-MadeWindow makeWindow(FormWindow& form, OptionButton& option) {
-    return std::make_unique<OptionButtonWindow>(form, option);
+MadeWindow makeOptionButton(FormWindow& form, Control& control) {
+    return std::make_unique<OptionButtonWindow>(form, control, BS_AUTORADIOBUTTON);
 }
 
 } // namespace tarvelon

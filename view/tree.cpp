@@ -16,15 +16,9 @@ namespace {
 /// The tree in the system's tree window, whose items follow the nodes when they are next drawn or asked for.
 /// An item is known by its node's key, so that the selection, the open nodes and the place in the list
 /// outlive a tree that is filled anew.
-class TreeWindow : public ControlWindow {
+class TreeWindow : public WindowOf<Tree> {
 public:
-    TreeWindow(FormWindow& form, Tree& tree)
-        : ControlWindow(form, tree,
-                        {.windowClass = WC_TREEVIEWA,
-                         .style = TVS_HASBUTTONS | TVS_HASLINES | TVS_LINESATROOT | TVS_SHOWSELALWAYS |
-                                  WS_BORDER | WS_TABSTOP,
-                         .drawnByClass = true})
-        , tree_(tree) {}
+    using WindowOf::WindowOf;
 
     void notifiedWith(const NMHDR& header) override {
         if (following_) {
@@ -44,7 +38,6 @@ public:
         ControlWindow::refresh();
     }
 
-protected:
     LRESULT handle(UINT message, WPARAM wide, LPARAM low) override {
         constexpr UINT lastTreeMessage = TV_FIRST + 0xff;
         const bool asked = message >= TV_FIRST && message <= lastTreeMessage;
@@ -118,7 +111,7 @@ private:
     }
 
     void addMissing() {
-        const auto& nodes = tree_.nodes();
+        const auto& nodes = control().nodes();
         for (std::size_t index = items_.size(); index < nodes.size(); ++index) {
             const Tree::Node& node = nodes[index];
             std::string text = node.text; // Seen up to its first zero.
@@ -140,7 +133,7 @@ private:
         }
         if (const HTREEITEM selected = itemOf(stand.selected)) {
             select(TVGN_CARET, selected);
-            tree_.reselect(*tree_.find(stand.selected));
+            control().reselect(*control().find(stand.selected));
         }
         if (const HTREEITEM first = itemOf(stand.first)) {
             select(TVGN_FIRSTVISIBLE, first);
@@ -152,21 +145,21 @@ private:
         case TVN_SELCHANGEDA:
         case TVN_SELCHANGEDW:
             if (const auto* node = nodeOf(reinterpret_cast<const NMTREEVIEWA&>(header).itemNew.hItem)) {
-                tree_.clickNode(*node);
+                control().clickNode(*node);
             }
             break;
         case NM_CLICK:
             clickedAgain();
             break;
         case NM_DBLCLK:
-            tree_.doubleClick();
+            control().doubleClick();
             break;
         case TVN_ITEMEXPANDEDA:
         case TVN_ITEMEXPANDEDW:
-            tree_.expandOrCollapse();
+            control().expandOrCollapse();
             break;
         case TVN_KEYDOWN:
-            tree_.keyDown(reinterpret_cast<const NMTVKEYDOWN&>(header).wVKey);
+            control().keyDown(reinterpret_cast<const NMTVKEYDOWN&>(header).wVKey);
             break;
         default:
             break;
@@ -181,8 +174,8 @@ private:
         ScreenToClient(window(), &hit.pt);
         handleAsClass(TVM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit));
         const Tree::Node* node = (hit.flags & TVHT_ONITEM) != 0 ? nodeOf(hit.hItem) : nullptr;
-        if (node && node == tree_.selected()) {
-            tree_.clickNode(*node);
+        if (node && node == control().selected()) {
+            control().clickNode(*node);
         }
     }
 
@@ -210,14 +203,12 @@ private:
         return key ? *key : std::string();
     }
 
-    const Tree::Node* nodeOf(HTREEITEM item) { return tree_.find(keyOf(item)); }
+    const Tree::Node* nodeOf(HTREEITEM item) { return control().find(keyOf(item)); }
 
     HTREEITEM itemOf(const std::string& key) const {
         const auto found = items_.find(key);
         return found == items_.end() ? nullptr : found->second;
     }
-
-    Tree& tree_;
     std::unordered_map<std::string, HTREEITEM> items_; ///< The window's items point at the keys.
     bool stale_ = true;
     bool anew_ = false; ///< Nothing of what the window has is left.
@@ -229,8 +220,13 @@ private:
 
 } // namespace
 
-MadeWindow makeWindow(FormWindow& form, Tree& tree) {
-    return std::make_unique<TreeWindow>(form, tree);
+MadeWindow makeTree(FormWindow& form, Control& control) {
+    return std::make_unique<TreeWindow>(form, control,
+                                        ControlWindow::Kind{.windowClass = WC_TREEVIEWA,
+                                                            .style = TVS_HASBUTTONS | TVS_HASLINES |
+                                                                     TVS_LINESATROOT | TVS_SHOWSELALWAYS |
+                                                                     WS_BORDER | WS_TABSTOP,
+                                                            .drawnByClass = true});
 }
 
 } // namespace tarvelon

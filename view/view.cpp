@@ -49,8 +49,7 @@ void Win32View::loaded(Screen& screen) {
 }
 
 FormWindow* Win32View::formOf(const Screen& screen) const {
-    const auto found = std::find_if(forms_.begin(), forms_.end(),
-                                    [&](const auto& form) { return &form->screen() == &screen; });
+    const auto found = std::ranges::find(forms_, &screen, [](const auto& form) { return &form->screen(); });
     return found == forms_.end() ? nullptr : found->get();
 }
 
@@ -68,8 +67,7 @@ void Win32View::changed(Control& control, Aspect aspect) {
 
 void Win32View::handle(MSG& message) {
     const HWND root = GetAncestor(message.hwnd, GA_ROOT);
-    const auto found =
-        std::find_if(forms_.begin(), forms_.end(), [&](const auto& form) { return form->window() == root; });
+    const auto found = std::ranges::find(forms_, root, [](const auto& form) { return form->window(); });
     if (found != forms_.end() && (*found)->takes(message)) {
         return;
     }

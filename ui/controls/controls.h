@@ -65,6 +65,10 @@ public:
     const std::string& captionOrName() const { return Caption().empty() ? name : Caption(); }
 
     Screen::Handler onMouseMove;
+    /// The left button of the mouse, or what stands for it.
+    virtual void mouseDown() {}
+    virtual void mouseUp() {}
+    virtual void click() {}
 
     void changed(Aspect aspect);
 
@@ -120,9 +124,9 @@ public:
     /// The mouse button is up again, in front of the click.
     Screen::Handler onMouseUp;
     Screen::Handler onClick;
-    void mouseDown() { raise(onMouseDown); }
-    void mouseUp() { raise(onMouseUp); }
-    void click();
+    void mouseDown() override { raise(onMouseDown); }
+    void mouseUp() override { raise(onMouseUp); }
+    void click() override;
 
 private:
     TextStyle style_;
@@ -139,12 +143,12 @@ public:
 
     Screen::Handler onClick;
 
-    void mouseDown();
-    void mouseUp();
+    void mouseDown() override;
+    void mouseUp() override;
     /// The mouse moves over the button's own ground.
     void mouseMove();
     /// Nothing happens on a disabled button.
-    void click();
+    void click() override;
 
 private:
     void press(bool pressed);
@@ -172,7 +176,7 @@ public:
     void mouseMoveLabel();
     void mouseMoveBox() { downStatus(1); }
     /// The box flips; on the label and on the box alike.
-    void click();
+    void click() override;
 
 private:
     int value_ = 0;
@@ -194,7 +198,7 @@ public:
     void setValue(bool ticked);
 
     Screen::Handler onClick;
-    void click();
+    void click() override;
 
 private:
     int value_ = 0;
@@ -210,7 +214,7 @@ public:
     void setValue(bool selected);
 
     Screen::Handler onClick;
-    void click();
+    void click() override;
 
 private:
     bool value_ = false;
@@ -228,7 +232,7 @@ public:
     Property<bool, Control, Aspect::Value> Current{*this, false};
 
     Screen::Handler onClick;
-    void click();
+    void click() override;
 
 private:
     std::string icon_;
@@ -251,7 +255,7 @@ public:
     /// The keyboard has come to the picture, or gone from it.
     Screen::Handler onFocus;
     Screen::Handler onFocusLost;
-    void click();
+    void click() override;
     void keyPress();
     void keyClick();
     void focus() { raise(onFocus); }
