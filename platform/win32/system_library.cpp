@@ -20,14 +20,8 @@ HMODULE loadFromSystemDirectory(const char* fileName) {
 SystemLibrary::SystemLibrary(const char* fileName)
     : module_(loadFromSystemDirectory(fileName)) {}
 
-SystemLibrary::~SystemLibrary() {
-    if (module_) {
-        FreeLibrary(module_);
-    }
-}
-
 FARPROC SystemLibrary::address(const char* name) const {
-    return module_ ? GetProcAddress(module_, name) : nullptr;
+    return module_ ? GetProcAddress(module_.get(), name) : nullptr;
 }
 
 } // namespace tarvelon

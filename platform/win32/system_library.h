@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/win32/windows_api.h"
+#include "platform/win32/owned.h"
 
 namespace tarvelon {
 
@@ -9,8 +9,6 @@ namespace tarvelon {
 class SystemLibrary {
 public:
     explicit SystemLibrary(const char* fileName);
-    SystemLibrary(const SystemLibrary&) = delete;
-    ~SystemLibrary();
 
     /// The exported function, or null where this system does not have it.
     template<class Function>
@@ -22,7 +20,7 @@ public:
 private:
     FARPROC address(const char* name) const;
 
-    HMODULE module_;
+    OwnedLibrary module_;
 };
 
 } // namespace tarvelon

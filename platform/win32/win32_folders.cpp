@@ -1,24 +1,35 @@
-#include "platform/win32/win32_folders.h"
+#include "platform/win32/parts.h"
 
 #include "platform/win32/shell_items.h"
 #include "platform/win32/windows_api.h"
 
 namespace tarvelon {
 
-std::uint32_t Win32SystemFolders::getSystemDirectory(char* buffer, std::uint32_t size) {
-    return GetSystemDirectoryA(buffer, size);
-}
+namespace {
 
-std::uint32_t Win32SystemFolders::getWindowsDirectory(char* buffer, std::uint32_t size) {
-    return GetWindowsDirectoryA(buffer, size);
-}
-
-bool Win32SystemFolders::getSpecialFolderPath(int csidl, char* buffer) {
-    LPITEMIDLIST items = nullptr;
-    if (FAILED(SHGetSpecialFolderLocation(nullptr, csidl, &items))) {
-        return false;
+class Win32SystemFolders : public SystemFolders {
+public:
+    std::uint32_t getSystemDirectory(char* buffer, std::uint32_t size) override {
+        return GetSystemDirectoryA(buffer, size);
     }
-    return pathFromItems(items, buffer);
+
+    std::uint32_t getWindowsDirectory(char* buffer, std::uint32_t size) override {
+        return GetWindowsDirectoryA(buffer, size);
+    }
+
+    bool getSpecialFolderPath(int csidl, char* buffer) override {
+        LPITEMIDLIST items = nullptr;
+        if (FAILED(SHGetSpecialFolderLocation(nullptr, csidl, &items))) {
+            return false;
+        }
+        return pathFromItems(items, buffer);
+    }
+};
+
+} // namespace
+
+std::unique_ptr<SystemFolders> makeSystemFolders() {
+    return std::make_unique<Win32SystemFolders>();
 }
 
 } // namespace tarvelon

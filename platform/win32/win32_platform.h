@@ -1,19 +1,10 @@
 #pragma once
 
 #include "platform/platform.h"
-#include "platform/win32/win32_clock.h"
-#include "platform/win32/win32_codepage.h"
-#include "platform/win32/win32_crypto.h"
-#include "platform/win32/win32_desktop.h"
+#include "platform/win32/parts.h"
 #include "platform/win32/win32_dialogs.h"
 #include "platform/win32/win32_files.h"
-#include "platform/win32/win32_folders.h"
 #include "platform/win32/win32_messages.h"
-#include "platform/win32/win32_power.h"
-#include "platform/win32/win32_processes.h"
-#include "platform/win32/win32_registry.h"
-#include "platform/win32/win32_shell.h"
-#include "platform/win32/win32_shortcuts.h"
 
 namespace tarvelon {
 
@@ -32,18 +23,18 @@ public:
     int runMessageLoop() { return messages_.run(); }
 
 private:
-    Win32CodePage codePage_;
+    std::unique_ptr<CodePage> codePage_ = makeCodePage();
     Win32Files files_;
-    Win32SystemFolders folders_;
-    Win32CryptoService crypto_;
+    std::unique_ptr<SystemFolders> folders_ = makeSystemFolders();
+    std::unique_ptr<CryptoService> crypto_ = makeCryptoService();
     Win32Dialogs dialogs_;
-    Win32Processes processes_;
-    Win32Registry registry_;
-    Win32Clock clock_;
-    Win32Shell shell_;
-    Win32Shortcuts shortcuts_;
-    Win32Power power_;
-    Win32Desktop desktop_;
+    std::unique_ptr<Processes> processes_ = makeProcesses();
+    std::unique_ptr<Registry> registry_ = makeRegistry();
+    std::unique_ptr<Clock> clock_ = makeClock();
+    std::unique_ptr<Shell> shell_ = makeShell();
+    std::unique_ptr<Shortcuts> shortcuts_ = makeShortcuts();
+    std::unique_ptr<Power> power_ = makePower();
+    std::unique_ptr<Desktop> desktop_ = makeDesktop();
     Win32MessageQueue messages_;
 };
 

@@ -1,49 +1,59 @@
-#include "platform/win32/win32_power.h"
+#include "platform/win32/parts.h"
 
-#include "platform/win32/windows_api.h"
+#include "platform/win32/owned.h"
 
 namespace tarvelon {
 
-SystemVersion Win32Power::version() {
-    OSVERSIONINFOA version{};
-    version.dwOSVersionInfoSize = sizeof version;
-    GetVersionExA(&version);
-    return {.platformId = version.dwPlatformId, .major = version.dwMajorVersion};
-}
+namespace {
 
-void Win32Power::adjustPrivilege(const std::string& name, std::uint32_t attributes) {
-    HANDLE token = nullptr;
-    if (!OpenProcessToken(GetCurrentProcess(), TOKEN_ADJUST_PRIVILEGES, &token)) {
-        return;
+class Win32Power : public Power {
+public:
+    SystemVersion version() override {
+        OSVERSIONINFOA version{};
+        version.dwOSVersionInfoSize = sizeof version;
+        GetVersionExA(&version);
+        return {.platformId = version.dwPlatformId, .major = version.dwMajorVersion};
     }
-    TOKEN_PRIVILEGES privileges{};
-    privileges.PrivilegeCount = 1;
-    privileges.Privileges[0].Attributes = attributes;
-    if (LookupPrivilegeValueA(nullptr, name.c_str(), &privileges.Privileges[0].Luid)) {
-        AdjustTokenPrivileges(token, FALSE, &privileges, 0, nullptr, nullptr);
+
+    void adjustPrivilege(const std::string& name, std::uint32_t attributes) override {
+        HANDLE opened = nullptr;
+        if (!OpenProcessToken(GetCurrentProcess(), TOKEN_ADJUST_PRIVILEGES, &opened)) {
+            return;
+        }
+        const OwnedHandle token(opened);
+        TOKEN_PRIVILEGES privileges{};
+        privileges.PrivilegeCount = 1;
+        privileges.Privileges[0].Attributes = attributes;
+        if (LookupPrivilegeValueA(nullptr, name.c_str(), &privileges.Privileges[0].Luid)) {
+            AdjustTokenPrivileges(token.get(), FALSE, &privileges, 0, nullptr, nullptr);
+        }
     }
-    CloseHandle(token);
-}
 
-bool Win32Power::setSystemPowerState(bool suspend, bool force) {
-    return SetSystemPowerState(suspend, force) != 0;
-}
-
-bool Win32Power::exitWindows(std::uint32_t flags, std::uint32_t reason) {
-    return ExitWindowsEx(flags, reason) != 0;
-}
-
-std::uint32_t Win32Power::desktopProcess() {
-    DWORD process = 0;
-    GetWindowThreadProcessId(GetDesktopWindow(), &process);
-    return process;
-}
-
-void Win32Power::terminateProcess(std::uint32_t process, std::uint32_t access, std::uint32_t exitCode) {
-    if (const HANDLE opened = OpenProcess(access, FALSE, process)) {
-        TerminateProcess(opened, exitCode);
-        CloseHandle(opened);
+    bool setSystemPowerState(bool suspend, bool force) override {
+        return SetSystemPowerState(suspend, force) != 0;
     }
+
+    bool exitWindows(std::uint32_t flags, std::uint32_t reason) override {
+        return ExitWindowsEx(flags, reason) != 0;
+    }
+
+    std::uint32_t desktopProcess() override {
+        DWORD process = 0;
+        GetWindowThreadProcessId(GetDesktopWindow(), &process);
+        return process;
+    }
+
+    void terminateProcess(std::uint32_t process, std::uint32_t access, std::uint32_t exitCode) override {
+        if (const OwnedHandle opened{OpenProcess(access, FALSE, process)}) {
+            TerminateProcess(opened.get(), exitCode);
+        }
+    }
+};
+
+} // namespace
+
+std::unique_ptr<Power> makePower() {
+    return std::make_unique<Win32Power>();
 }
 
 } // namespace tarvelon

@@ -1,7 +1,7 @@
-#include "platform/win32/win32_processes.h"
+#include "platform/win32/parts.h"
 
 #include "platform/command_line.h"
-#include "platform/win32/windows_api.h"
+#include "platform/win32/owned.h"
 
 #include <shellapi.h>
 
@@ -48,84 +48,88 @@ std::string asFirstArgument(const std::string& program) {
     return parts ? "\"" + program + "\"" : program;
 }
 
+class Win32Processes : public Processes {
+public:
+    Win32Processes() {
+        // The mark of an instance that runs elevated or for another user is there, but may not be opened.
+        const DWORD error = GetLastError();
+        anotherInstance_ = error == ERROR_ALREADY_EXISTS || (!instanceMark_ && error == ERROR_ACCESS_DENIED);
+    }
+
+    std::string programFile() override {
+        std::string path(MAX_PATH, '\0');
+        for (;;) {
+            const DWORD size = static_cast<DWORD>(path.size());
+            const DWORD length = GetModuleFileNameA(nullptr, path.data(), size);
+            if (length < size) {
+                path.resize(length);
+                return path;
+            }
+            path.resize(path.size() * 2);
+        }
+    }
+
+    std::string commandLine() override { return std::string(behindProgramName(GetCommandLineA())); }
+
+    std::array<int, 3> programVersion() override {
+        const HRSRC found = FindResourceA(nullptr, MAKEINTRESOURCEA(VS_VERSION_INFO), RT_VERSION);
+        const HGLOBAL loaded = found ? LoadResource(nullptr, found) : nullptr;
+        const void* record = loaded ? LockResource(loaded) : nullptr;
+        if (!record || SizeofResource(nullptr, found) < sizeof(VersionRecord)) {
+            return {};
+        }
+        VersionRecord version;
+        std::memcpy(&version, record, sizeof version);
+        if (version.fixed.dwSignature != VS_FFI_SIGNATURE) {
+            return {};
+        }
+        return {HIWORD(version.fixed.dwFileVersionMS), LOWORD(version.fixed.dwFileVersionMS),
+                HIWORD(version.fixed.dwFileVersionLS)};
+    }
+
+    bool start(const std::string& program, const std::string& arguments, WindowStyle style) override {
+        // A bare name is looked for in the current folder too, and what is started looks there for its
+        // libraries: it must not be a folder that the user has last opened or that a link has chosen.
+        const std::string own = programFile();
+        SetCurrentDirectoryA(own.substr(0, own.rfind('\\') + 1).c_str());
+        const std::string file = fileOf(program);
+        if (file.empty() || program.size() + 1 + arguments.size() > longestCommandLine) {
+            return false;
+        }
+        std::string line = asFirstArgument(program);
+        line += arguments.empty() ? "" : " " + arguments;
+        STARTUPINFOA startup{};
+        startup.cb = sizeof startup;
+        startup.dwFlags = STARTF_USESHOWWINDOW;
+        startup.wShowWindow = style == WindowStyle::MinimizedFocus ? SW_SHOWMINIMIZED : SW_SHOWNORMAL;
+        PROCESS_INFORMATION started{};
+        if (!CreateProcessA(file.c_str(), line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
+                            &started)) {
+            // The shell asks the user for the rights that the program wants.
+            return GetLastError() == elevationRequired &&
+                   reinterpret_cast<INT_PTR>(ShellExecuteA(nullptr, nullptr, file.c_str(), arguments.c_str(),
+                                                           nullptr, startup.wShowWindow)) > lastShellFailure;
+        }
+        const OwnedHandle process(started.hProcess);
+        const OwnedHandle thread(started.hThread);
+        return true;
+    }
+
+    bool anotherInstance() override { return anotherInstance_; }
+
+protected:
+    [[noreturn]] void endNow() override { ExitProcess(0); }
+
+private:
+    /// A mutex that nobody waits for, there while the process is. Null if refused.
+    OwnedHandle instanceMark_{CreateMutexA(nullptr, FALSE, "TarvelonLow")};
+    bool anotherInstance_ = false;
+};
+
 } // namespace
 
-Win32Processes::Win32Processes()
-    : instanceMark_(CreateMutexA(nullptr, FALSE, "TarvelonLow")) {
-    // The mark of an instance that runs elevated or for another user is there, but may not be opened.
-    const DWORD error = GetLastError();
-    anotherInstance_ = error == ERROR_ALREADY_EXISTS || (!instanceMark_ && error == ERROR_ACCESS_DENIED);
-}
-
-Win32Processes::~Win32Processes() {
-    if (instanceMark_) {
-        CloseHandle(instanceMark_);
-    }
-}
-
-std::string Win32Processes::programFile() {
-    std::string path(MAX_PATH, '\0');
-    for (;;) {
-        const DWORD size = static_cast<DWORD>(path.size());
-        const DWORD length = GetModuleFileNameA(nullptr, path.data(), size);
-        if (length < size) {
-            path.resize(length);
-            return path;
-        }
-        path.resize(path.size() * 2);
-    }
-}
-
-std::string Win32Processes::commandLine() {
-    return std::string(behindProgramName(GetCommandLineA()));
-}
-
-std::array<int, 3> Win32Processes::programVersion() {
-    const HRSRC found = FindResourceA(nullptr, MAKEINTRESOURCEA(VS_VERSION_INFO), RT_VERSION);
-    const HGLOBAL loaded = found ? LoadResource(nullptr, found) : nullptr;
-    const void* record = loaded ? LockResource(loaded) : nullptr;
-    if (!record || SizeofResource(nullptr, found) < sizeof(VersionRecord)) {
-        return {};
-    }
-    VersionRecord version;
-    std::memcpy(&version, record, sizeof version);
-    if (version.fixed.dwSignature != VS_FFI_SIGNATURE) {
-        return {};
-    }
-    return {HIWORD(version.fixed.dwFileVersionMS), LOWORD(version.fixed.dwFileVersionMS),
-            HIWORD(version.fixed.dwFileVersionLS)};
-}
-
-bool Win32Processes::start(const std::string& program, const std::string& arguments, WindowStyle style) {
-    // A bare name is looked for in the current folder too, and what is started looks there for its libraries:
-    // it must not be a folder that the user has last opened or that a link has chosen.
-    const std::string own = programFile();
-    SetCurrentDirectoryA(own.substr(0, own.rfind('\\') + 1).c_str());
-    const std::string file = fileOf(program);
-    if (file.empty() || program.size() + 1 + arguments.size() > longestCommandLine) {
-        return false;
-    }
-    std::string line = asFirstArgument(program);
-    line += arguments.empty() ? "" : " " + arguments;
-    STARTUPINFOA startup{};
-    startup.cb = sizeof startup;
-    startup.dwFlags = STARTF_USESHOWWINDOW;
-    startup.wShowWindow = style == WindowStyle::MinimizedFocus ? SW_SHOWMINIMIZED : SW_SHOWNORMAL;
-    PROCESS_INFORMATION started;
-    if (!CreateProcessA(file.c_str(), line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
-                        &started)) {
-        // The shell asks the user for the rights that the program wants.
-        return GetLastError() == elevationRequired &&
-               reinterpret_cast<INT_PTR>(ShellExecuteA(nullptr, nullptr, file.c_str(), arguments.c_str(),
-                                                       nullptr, startup.wShowWindow)) > lastShellFailure;
-    }
-    CloseHandle(started.hThread);
-    CloseHandle(started.hProcess);
-    return true;
-}
-
-void Win32Processes::endNow() {
-    ExitProcess(0);
+std::unique_ptr<Processes> makeProcesses() {
+    return std::make_unique<Win32Processes>();
 }
 
 } // namespace tarvelon

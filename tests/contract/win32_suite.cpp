@@ -23,10 +23,10 @@ TEST_F(Contract, AMoveOutlastsAProgramThatHoldsTheOtherFileForAMoment) {
 
 TEST(Win32Processes, AnotherInstanceIsSeenEvenIfItMayNotBeOpened) {
     {
-        Win32Processes first;
-        EXPECT_FALSE(first.anotherInstance());
-        EXPECT_TRUE(Win32Processes().anotherInstance());
-        EXPECT_FALSE(first.start("missing", "", WindowStyle::NormalFocus));
+        const auto first = makeProcesses();
+        EXPECT_FALSE(first->anotherInstance());
+        EXPECT_TRUE(makeProcesses()->anotherInstance());
+        EXPECT_FALSE(first->start("missing", "", WindowStyle::NormalFocus));
     }
     ACL nobody;
     SECURITY_DESCRIPTOR rights;
@@ -35,7 +35,7 @@ TEST(Win32Processes, AnotherInstanceIsSeenEvenIfItMayNotBeOpened) {
                 SetSecurityDescriptorDacl(&rights, TRUE, &nobody, FALSE));
     SECURITY_ATTRIBUTES attributes{sizeof attributes, &rights, FALSE};
     const HANDLE mark = CreateMutexA(&attributes, FALSE, "TarvelonLow");
-    EXPECT_TRUE(Win32Processes().anotherInstance());
+    EXPECT_TRUE(makeProcesses()->anotherInstance());
     CloseHandle(mark);
 }
 
@@ -45,7 +45,7 @@ TEST(Win32Power, TheRightToShutDownIsTaken) {
     ASSERT_TRUE(LookupPrivilegeValueA(nullptr, SE_SHUTDOWN_NAME, &wanted.Privilege[0].Luid) &&
                 OpenProcessToken(GetCurrentProcess(), TOKEN_QUERY, &token));
     for (const bool taken : {false, true}) {
-        Win32Power().adjustPrivilege(taken ? SE_SHUTDOWN_NAME : "NoSuchPrivilege", SE_PRIVILEGE_ENABLED);
+        makePower()->adjustPrivilege(taken ? SE_SHUTDOWN_NAME : "NoSuchPrivilege", SE_PRIVILEGE_ENABLED);
         BOOL held = FALSE;
         EXPECT_TRUE(PrivilegeCheck(token, &wanted, &held) && held == taken);
     }
