@@ -64,21 +64,21 @@ struct IntCheckScreen : Screen {
     // Results.
     Frame Frame2{*this, at(0, 48, 600, 352), false};
     Label Label1{Frame2, "Total Files Scanned:", at(32, 24, 168, 32)};
-    Label Label6{Frame2, "1000", at(208, 24, 104, 32), TextStyle::Value};
+    Label Label6{Frame2, "1000", at(208, 24, 104, 32), TextStyle::Value}; ///< files done
     Label Label3{Frame2, "New Files:", at(32, 72, 168, 32)};
-    Label Label8{Frame2, "1000", at(208, 72, 104, 32), TextStyle::Value};
+    Label Label8{Frame2, "1000", at(208, 72, 104, 32), TextStyle::Value}; ///< new
     Label Label4{Frame2, "Failed Files:", at(32, 120, 168, 32)};
-    Label Label9{Frame2, "1000", at(208, 120, 104, 32), TextStyle::Value};
+    Label Label9{Frame2, "1000", at(208, 120, 104, 32), TextStyle::Value}; ///< failed
     Label Label5{Frame2, "Passing Files:", at(32, 168, 168, 32)};
-    Label Label7{Frame2, "1000", at(208, 168, 104, 32), TextStyle::Value};
+    Label Label7{Frame2, "1000", at(208, 168, 104, 32), TextStyle::Value}; ///< passing
     Label Label14{Frame2, "Scan Complete. No new or modified files were found.", at(32, 232, 536, 24),
-                  TextStyle::Heading, false};
+                  TextStyle::Heading, false}; ///< shown for a clean result
     Label Label2{Frame2, "Repair and Update Failed Files...", at(32, 280, 280, 36), TextStyle::Action};
 
     // Failed files.
     Frame Frame3{*this, at(0, 48, 600, 352), false};
     Label Label10{Frame3, "New and Failed Files:", at(16, 8, 568, 20)};
-    ListBox List1{Frame3, at(16, 32, 568, 262)};
+    ListBox List1{Frame3, at(16, 32, 568, 262)}; ///< rows: path, and " *NEW*" behind a new one
     Label Label12{Frame3, "Scan Failing Files...", at(16, 312, 280, 36), TextStyle::Action};
 
     // Under every view, so that the results can be left as well.
