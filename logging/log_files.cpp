@@ -30,7 +30,6 @@ void LogFiles::writeLog(const std::string& listText, bool force) {
     const CaseRules& cases = globals.cases;
     std::string names = trim(std::string_view(listText).substr(headingLength));
     names = cases.replaceAll(names, "\" \"", ",");
-    names = cases.replaceAll(names, "\" \"", ",");
     names = cases.replaceAll(names, "\"", "");
     names = cases.replaceAll(names, ", ", ",");
     names = cases.replaceAll(names, " ", ",");

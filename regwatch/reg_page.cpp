@@ -109,6 +109,7 @@ void RegPage::selectNode() {
 }
 
 void RegPage::selectPending() {
+    // No row has these words: the list's heading reads otherwise, and is taken like any row.
     const bool selected = screen_.List6.listIndex() >= 0;
     if (selected &&
         screen_.List6.text() != "The Following Files are to be Deleted or Overwritten on the next Reboot.") {
