@@ -15,21 +15,18 @@ std::string ProfileFiles::read(const std::string& path, const std::string& secti
 
 bool ProfileFiles::write(const std::string& path, const std::string& section, const std::string& key,
                          const std::string& value) {
-    {
-        const auto file = files_.open(path, OpenMode::ReadOrCreate);
-        if (!file || !refresh(path, *file)) {
-            return false;
-        }
-        const std::size_t oldLength = image_.size();
-        const std::size_t changed = image_.write(section, key, value);
-        if (!writeFrom(*file, changed, oldLength)) {
-            putBack(*file, changed);
-            return false;
-        }
+    const auto file = files_.open(path, OpenMode::ReadOrCreate);
+    if (!file || !refresh(path, *file)) {
+        return false;
     }
-    // The time of the last write is only sure once the file has been closed.
-    const auto file = files_.open(path, OpenMode::Read);
-    stamp_ = file ? stampOf(*file) : std::nullopt;
+    const std::size_t oldLength = image_.text().size();
+    const ProfileImage::Change change = image_.write(section, key, value);
+    if (!writeFrom(*file, change.position, oldLength)) {
+        putBack(*file, change);
+        return false;
+    }
+    const auto written = file->touch();
+    stamp_ = written ? std::optional(Stamp{image_.text().size(), *written}) : std::nullopt;
     return true;
 }
 
@@ -60,28 +57,30 @@ bool ProfileFiles::refresh(const std::string& path, OpenFile& file) {
 }
 
 bool ProfileFiles::writeFrom(OpenFile& file, std::size_t position, std::size_t oldLength) {
-    if (image_.size() >= oldLength) {
-        return file.writeAt(position, image_.from(position));
+    const std::string_view changed = std::string_view(image_.text()).substr(position);
+    const std::size_t oldPart = oldLength - position;
+    if (changed.size() >= oldPart) {
+        return file.writeAt(position, changed);
     }
     // Line ends fill a shorter text up to the old length: before they are cut off, and should that fail, they
     // are empty lines, and no piece of the old text stands behind the new one.
-    std::string filled(image_.from(position));
-    filled.resize(oldLength - position, '\n');
+    std::string filled(changed);
+    filled.resize(oldPart, '\n');
     if (!file.writeAt(position, filled)) {
         return false;
     }
-    if (!file.setLength(image_.size())) {
+    if (!file.setLength(image_.text().size())) {
         path_.clear();
     }
     return true;
 }
 
 /// The disk has room for the old bytes, since they had their place on it.
-void ProfileFiles::putBack(OpenFile& file, std::size_t position) {
-    image_.undo();
+void ProfileFiles::putBack(OpenFile& file, const ProfileImage::Change& change) {
     path_.clear();
-    file.writeAt(position, image_.from(position));
-    file.setLength(image_.size());
+    const std::string old = change.taken + image_.text().substr(change.position + change.length);
+    file.writeAt(change.position, old);
+    file.setLength(change.position + old.size());
 }
 
 } // namespace tarvelon

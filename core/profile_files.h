@@ -42,7 +42,7 @@ private:
     static std::optional<Stamp> stampOf(OpenFile& file);
     bool refresh(const std::string& path, OpenFile& file);
     bool writeFrom(OpenFile& file, std::size_t position, std::size_t oldLength);
-    void putBack(OpenFile& file, std::size_t position);
+    void putBack(OpenFile& file, const ProfileImage::Change& change);
 
     Files& files_;
     ProfileImage image_;

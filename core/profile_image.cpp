@@ -52,14 +52,14 @@ bool isOneLine(std::string_view line) {
 
 /// What a line is to be ended with before another follows; a file that was torn within a line end has half of
 /// it.
-std::string_view missingLineEnd(std::string_view lastCharacter) {
-    return lastCharacter == "\n" ? "" : lastCharacter == "\r" ? "\n" : lineEnd;
+std::string_view missingLineEnd(std::string_view text) {
+    return text.empty() || text.ends_with('\n') ? "" : text.ends_with('\r') ? "\n" : lineEnd;
 }
 
 } // namespace
 
 void ProfileImage::setText(std::string text) {
-    text_.set(std::move(text));
+    text_ = std::move(text);
     parsed_ = false;
 }
 
@@ -69,143 +69,123 @@ std::optional<std::string> ProfileImage::read(std::string_view section, std::str
     if (found == keys_.end()) {
         return std::nullopt;
     }
-    const std::string_view line =
-        withoutLineEnd(text_.piece(lineStart(found->second), lineLength(found->second)));
+    goTo(found->second);
+    const std::string_view line = withoutLineEnd(lineText());
     return std::string(withoutQuotes(trimBlanks(line.substr(line.find('=') + 1))));
 }
 
-std::size_t ProfileImage::write(std::string_view section, std::string_view key, std::string_view value) {
+ProfileImage::Change ProfileImage::write(std::string_view section, std::string_view key,
+                                         std::string_view value) {
     parse();
     const auto found = keys_.find(lookupName(section, key));
     if (found != keys_.end()) {
-        const std::size_t start = lineStart(found->second);
-        replaceValue(found->second, start, value);
-        return start;
+        return replaceValue(found->second, value);
     }
 
     const std::string entry = std::string(key).append("=").append(value).append(lineEnd);
     const std::string prefix = lookupName(section, {});
     const auto home = sections_.find(prefix);
     if (home != sections_.end()) {
-        const std::size_t part = home->second;
-        const std::size_t position = partLengths_.before(part) + parts_[part].lines.total();
-        insertEntry(part, prefix, position, entry);
-        return position;
+        return insertEntry(prefix, home->second, entry);
     }
-    const std::size_t position = text_.size();
-    text_.replace(position, 0,
-                  std::string(position > 0 ? missingLineEnd(from(position - 1)) : "")
-                      .append("[")
-                      .append(trimBlanks(section))
-                      .append("]")
-                      .append(lineEnd)
-                      .append(entry));
     parsed_ = false;
-    return position;
+    return replace(text_.size(), 0,
+                   std::string(missingLineEnd(text_))
+                       .append("[")
+                       .append(trimBlanks(section))
+                       .append("]")
+                       .append(lineEnd)
+                       .append(entry));
 }
 
-void ProfileImage::undo() {
-    text_.undo();
-    parsed_ = false;
-}
-
-void ProfileImage::replaceValue(Place place, std::size_t start, std::string_view value) {
-    const std::string_view old = text_.piece(start, lineLength(place));
-    const std::size_t oldLength = old.size();
+ProfileImage::Change ProfileImage::replaceValue(std::size_t line, std::string_view value) {
+    goTo(line);
+    const std::string_view old = lineText();
     const std::string_view body = withoutLineEnd(old);
     const std::string_view ending = old.ends_with('\n') ? old.substr(body.size()) : lineEnd;
-    const std::string line =
+    const std::string text =
         std::string(body.substr(0, body.find('='))).append("=").append(value).append(ending);
-    text_.replace(start, oldLength, line);
-    parts_[place.part].lines.add(place.line, line.size() - oldLength);
-    partLengths_.add(place.part, line.size() - oldLength);
-    parsed_ = isOneLine(line);
+    parsed_ = isOneLine(text);
+    lengths_[line] = text.size();
+    return replace(start_, old.size(), text);
 }
 
-/// Puts a new line behind a part's last one, and a line end first where that one lacks it.
-void ProfileImage::insertEntry(std::size_t part, const std::string& prefix, std::size_t position,
-                               const std::string& entry) {
-    const std::string_view missing = missingLineEnd(text_.piece(position - 1, 1));
-    text_.replace(position, 0, std::string(missing).append(entry));
-    if (!missing.empty() || !isOneLine(entry)) {
-        parsed_ = false;
-        return;
+/// Puts a new line in front of another, and a line end first where the line before it lacks one.
+ProfileImage::Change ProfileImage::insertEntry(const std::string& prefix, std::size_t line,
+                                               const std::string& entry) {
+    goTo(line);
+    const std::string_view missing = missingLineEnd(std::string_view(text_).substr(0, start_));
+    parsed_ = missing.empty() && isOneLine(entry);
+    if (parsed_) {
+        for (auto* numbers : {&keys_, &sections_}) {
+            for (auto& [name, number] : *numbers) {
+                number += number >= line ? 1 : 0;
+            }
+        }
+        lengths_.insert(lengths_.begin() + static_cast<std::ptrdiff_t>(line), entry.size());
+        noteKey(prefix, entry, line);
     }
-    PrefixSums& lines = parts_[part].lines;
-    noteKey(prefix, entry, {part, lines.count()});
-    lines.append(entry.size());
-    partLengths_.add(part, entry.size());
+    return replace(start_, 0, std::string(missing).append(entry));
 }
 
-/// Splits the text into parts and lines and notes the first line of each key. Of two sections with one name
-/// the first counts.
+ProfileImage::Change ProfileImage::replace(std::size_t position, std::size_t length, std::string_view with) {
+    Change change{position, with.size(), text_.substr(position, length)};
+    text_.replace(position, length, with);
+    return change;
+}
+
+/// Notes the lines, and the first of each key. Of two sections with one name the first counts.
 void ProfileImage::parse() {
     if (parsed_) {
         return;
     }
-    parts_.clear();
-    partLengths_ = {};
+    lengths_.clear();
     keys_.clear();
     sections_.clear();
-    beginPart();
-    bool counts = false;
+    line_ = 0;
+    start_ = 0;
     std::string prefix;
-    const std::string_view text = from(0);
-    for (std::size_t start = 0; start < text.size();) {
-        const std::size_t feed = text.find('\n', start);
-        const std::size_t end = feed == std::string_view::npos ? text.size() : feed + 1;
-        const std::size_t length = end - start;
-        const std::string_view line = trimBlanks(withoutLineEnd(text.substr(start, length)));
-        start = end;
-
+    std::size_t* sectionEnd = nullptr;
+    for (std::size_t start = 0; start < text_.size(); start += lengths_.back()) {
+        const std::size_t feed = text_.find('\n', start);
+        const std::size_t end = feed == std::string::npos ? text_.size() : feed + 1;
+        lengths_.push_back(end - start);
+        const std::string_view line =
+            trimBlanks(withoutLineEnd(std::string_view(text_).substr(start, end - start)));
         if (const auto head = sectionHead(line)) {
-            beginPart();
             prefix = lookupName(*head, {});
-            counts = sections_.try_emplace(prefix, parts_.size() - 1).second;
-        } else if (line.empty()) {
-            parts_.back().blankEnd += length;
-            partLengths_.add(parts_.size() - 1, length);
-            continue;
+            const auto [section, isNew] = sections_.try_emplace(prefix);
+            sectionEnd = isNew ? &section->second : nullptr;
         }
-        appendLine(length);
-        if (counts && isEntry(line)) {
-            noteKey(prefix, line, {parts_.size() - 1, parts_.back().lines.count() - 1});
+        if (sectionEnd && !line.empty()) {
+            *sectionEnd = lengths_.size();
+            if (isEntry(line)) {
+                noteKey(prefix, line, lengths_.size() - 1);
+            }
         }
     }
     parsed_ = true;
 }
 
-void ProfileImage::beginPart() {
-    parts_.emplace_back();
-    partLengths_.append(0);
-}
-
-/// Blank lines in front of another line count as one with them all.
-void ProfileImage::appendLine(std::size_t length) {
-    Part& part = parts_.back();
-    if (part.blankEnd > 0) {
-        part.lines.append(part.blankEnd);
-        part.blankEnd = 0;
-    }
-    part.lines.append(length);
-    partLengths_.add(parts_.size() - 1, length);
-}
-
-void ProfileImage::noteKey(const std::string& prefix, std::string_view line, Place place) {
-    keys_.try_emplace(prefix + cases_->upper(trimBlanks(line.substr(0, line.find('=')))), place);
+void ProfileImage::noteKey(const std::string& prefix, std::string_view text, std::size_t line) {
+    keys_.try_emplace(prefix + cases_->upper(trimBlanks(text.substr(0, text.find('=')))), line);
 }
 
 std::string ProfileImage::lookupName(std::string_view section, std::string_view key) const {
     return cases_->upper(trimBlanks(section)).append("\n").append(cases_->upper(trimBlanks(key)));
 }
 
-std::size_t ProfileImage::lineStart(Place place) const {
-    return partLengths_.before(place.part) + parts_[place.part].lines.before(place.line);
+void ProfileImage::goTo(std::size_t line) {
+    while (line_ < line) {
+        start_ += lengths_[line_++];
+    }
+    while (line_ > line) {
+        start_ -= lengths_[--line_];
+    }
 }
 
-std::size_t ProfileImage::lineLength(Place place) const {
-    const PrefixSums& lines = parts_[place.part].lines;
-    return lines.before(place.line + 1) - lines.before(place.line);
+std::string_view ProfileImage::lineText() const {
+    return std::string_view(text_).substr(start_, lengths_[line_]);
 }
 
 } // namespace tarvelon

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "core/gap_text.h"
-#include "core/prefix_sums.h"
 #include "core/text.h"
 
 #include <cstddef>
@@ -22,53 +20,44 @@ public:
     explicit ProfileImage(const CaseRules& cases)
         : cases_(&cases) {}
 
-    std::string text() const { return text_.whole(); }
+    const std::string& text() const { return text_; }
     void setText(std::string text);
-
-    std::size_t size() const { return text_.size(); }
-    /// The text from `position` on. Good until the next call.
-    std::string_view from(std::size_t position) { return text_.piece(position, text_.size()); }
 
     /// Empty without such a key.
     std::optional<std::string> read(std::string_view section, std::string_view key);
 
+    /// What a write did: `length` characters stand now at `position` in place of those that were taken.
+    struct Change {
+        std::size_t position;
+        std::size_t length;
+        std::string taken;
+    };
+
     /// Replaces the key's line where it stands, or adds one behind the last line of its section that is not
-    /// blank, or adds section and key at the end. Gives the position of the first byte that may have changed;
-    /// everything behind it may have moved.
-    std::size_t write(std::string_view section, std::string_view key, std::string_view value);
-    /// Takes the last `write` back, byte for byte.
-    void undo();
+    /// blank, or adds section and key at the end.
+    Change write(std::string_view section, std::string_view key, std::string_view value);
 
 private:
-    /// A section head and what stands behind it up to the next one; what stands in front of the first head is
-    /// a part as well. Keys are added behind `lines`, so no line's number ever changes.
-    struct Part {
-        PrefixSums lines; ///< Lengths, line ends included, up to the last line that is not blank.
-        std::size_t blankEnd = 0;
-    };
-    struct Place {
-        std::size_t part;
-        std::size_t line;
-    };
+    Change replaceValue(std::size_t line, std::string_view value);
+    Change insertEntry(const std::string& prefix, std::size_t line, const std::string& entry);
+    Change replace(std::size_t position, std::size_t length, std::string_view with);
 
     void parse();
-    void beginPart();
-    void appendLine(std::size_t length);
-    void noteKey(const std::string& prefix, std::string_view line, Place place);
-    void replaceValue(Place place, std::size_t start, std::string_view value);
-    void insertEntry(std::size_t part, const std::string& prefix, std::size_t position,
-                     const std::string& entry);
+    void noteKey(const std::string& prefix, std::string_view text, std::size_t line);
     std::string lookupName(std::string_view section, std::string_view key) const;
-    std::size_t lineStart(Place place) const;
-    std::size_t lineLength(Place place) const;
+    void goTo(std::size_t line);
+    std::string_view lineText() const;
 
     const CaseRules* cases_;
-    GapText text_;
+    std::string text_;
     bool parsed_ = false;
-    std::vector<Part> parts_;
-    PrefixSums partLengths_;
-    std::unordered_map<std::string, Place> keys_;
-    std::unordered_map<std::string, std::size_t> sections_; ///< Numbers of the parts that count.
+    std::vector<std::size_t> lengths_;                  ///< Of the lines, line ends included.
+    std::unordered_map<std::string, std::size_t> keys_; ///< Numbers of their lines, from 0.
+    /// Numbers of the lines behind their last one that is not blank.
+    std::unordered_map<std::string, std::size_t> sections_;
+    /// The line looked at last, and where it begins: thousands of writes go from line to line.
+    std::size_t line_ = 0;
+    std::size_t start_ = 0;
 };
 
 } // namespace tarvelon

@@ -30,6 +30,10 @@ public:
     /// Time of the last write in the system's own unit; only good for comparing. Empty on failure.
     virtual std::optional<std::uint64_t> lastWrite() = 0;
 
+    /// Makes the present time that of the last write, and gives it. Of a file that was written the time is
+    /// else only sure once it has been closed.
+    virtual std::optional<std::uint64_t> touch() = 0;
+
     /// Reads up to `count` bytes; gives how many came, fewer only at the end of the file. Empty on failure.
     virtual std::optional<std::size_t> readAt(std::uint64_t position, void* buffer, std::size_t count) = 0;
 

@@ -30,8 +30,16 @@ std::optional<std::uint64_t> HostFile::lastWrite() {
     if (faults_.strikes(Operation::LastWrite) || ::fstat(descriptor_, &status) != 0) {
         return std::nullopt;
     }
-    return static_cast<std::uint64_t>(status.st_mtim.tv_sec) * 1'000'000'000 +
-           static_cast<std::uint64_t>(status.st_mtim.tv_nsec);
+    const timespec time = oldTime_.value_or(status.st_mtim);
+    return static_cast<std::uint64_t>(time.tv_sec) * 1'000'000'000 + static_cast<std::uint64_t>(time.tv_nsec);
+}
+
+std::optional<std::uint64_t> HostFile::touch() {
+    if (::futimens(descriptor_, nullptr) != 0) {
+        return std::nullopt;
+    }
+    oldTime_.reset();
+    return lastWrite();
 }
 
 std::optional<std::size_t> HostFile::readAt(std::uint64_t position, void* buffer, std::size_t count) {
@@ -58,6 +66,7 @@ bool HostFile::writeAt(std::uint64_t position, std::string_view bytes) {
         return false;
     }
     unflushed_.insert(status().st_ino);
+    oldTime_ = oldTime_.value_or(status().st_mtim);
     const std::uint64_t end = hostLength();
     const std::uint64_t growth = position + bytes.size() > end ? position + bytes.size() - end : 0;
     std::size_t fitting = bytes.size() - static_cast<std::size_t>(growth - faults_.roomFor(growth));

@@ -19,6 +19,7 @@ public:
 
     std::optional<std::uint64_t> length() override;
     std::optional<std::uint64_t> lastWrite() override;
+    std::optional<std::uint64_t> touch() override;
     std::optional<std::size_t> readAt(std::uint64_t position, void* buffer, std::size_t count) override;
     bool writeAt(std::uint64_t position, std::string_view bytes) override;
     bool setLength(std::uint64_t length) override;
@@ -34,6 +35,7 @@ private:
     int descriptor_;
     Faults& faults_;
     std::set<ino_t>& unflushed_;
+    std::optional<timespec> oldTime_; ///< Of a file that was written, as long as it is open.
 };
 
 } // namespace tarvelon

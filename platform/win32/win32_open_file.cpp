@@ -68,6 +68,14 @@ std::optional<std::uint64_t> Win32OpenFile::lastWrite() {
     return (std::uint64_t{time.dwHighDateTime} << 32) | time.dwLowDateTime;
 }
 
+/// A time that was set stays as it is when the file is closed. It is read again since some disks keep it in
+/// steps of seconds.
+std::optional<std::uint64_t> Win32OpenFile::touch() {
+    FILETIME now;
+    GetSystemTimeAsFileTime(&now);
+    return SetFileTime(file_, nullptr, nullptr, &now) ? lastWrite() : std::nullopt;
+}
+
 bool Win32OpenFile::moveTo(std::uint64_t position) {
     if (position == position_) {
         return true;

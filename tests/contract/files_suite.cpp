@@ -52,7 +52,7 @@ TEST_F(Contract, OpenModesMakeAndKeepWhatTheySay) {
 }
 
 TEST_F(Contract, PositionsAndLengths) {
-    const auto file = files.open(folder + "f", OpenMode::Create);
+    auto file = files.open(folder + "f", OpenMode::Create);
     ASSERT_TRUE(file && file->writeAt(0, "0123456789"));
     const auto reader = files.open(folder + "f", OpenMode::Read);
     ASSERT_TRUE(reader);
@@ -69,7 +69,9 @@ TEST_F(Contract, PositionsAndLengths) {
     EXPECT_TRUE(file->writeAt(7, "end"));
     EXPECT_EQ(get("f"), "01xxy\0\0end"s) << "The gap is zeros";
     EXPECT_EQ(files.length(folder + "f"), 10u);
-    const auto written = file->lastWrite();
+    const auto written = file->touch();
+    file.reset();
+    EXPECT_TRUE(written && files.open(folder + "f", OpenMode::Read)->lastWrite() == written) << "Also closed";
     do {
         ASSERT_TRUE(put("f", "until the clock moves on"));
     } while (files.open(folder + "f", OpenMode::Read)->lastWrite() == written);

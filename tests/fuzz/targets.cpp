@@ -75,11 +75,11 @@ void profile(string_view input) {
         const string &section = parts[i], &key = parts[i + 1], &value = parts[i + 2], before = kept.text();
         const auto old = searched(before, section, key), other = kept.read(parts[1], parts[2]);
         demand(kept.read(section, key) == old, "a look-up gives what a fresh image gives");
-        const std::size_t start = kept.write(section, key, value);
+        const auto change = kept.write(section, key, value);
         demand(kept.read(section, key) == searched(kept.text(), section, key), "and after a write");
-        const string rest = before.substr(old ? std::min(before.find('\n', start), before.size()) : start);
-        const string& text = kept.text();
-        demand(text.starts_with(before.substr(0, start)) && text.ends_with(rest), "only one line changes");
+        string undone = kept.text();
+        undone.replace(change.position, change.length, change.taken);
+        demand(undone == before && change.taken.find('\n') >= change.taken.size() - 1, "one line changes");
         const string all = section + key;
         const bool entry = without(all, "=]") == all && without(value) == value;
         const bool same = searched("[" + parts[1] + "]\n" + parts[2] + "=", section, key).has_value();
