@@ -1,12 +1,14 @@
 #include "core/entry_block.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace tarvelon {
 
 namespace {
 
 constexpr std::string_view endMark = "*E\r\n";
+constexpr std::string_view lastLine = "\r\nNULL*E\r\n";
 
 // FNV-1a, 32 bits, over upper-cased characters (by Fowler, Noll and Vo).
 constexpr std::uint32_t hashStart = 2166136261u;
@@ -17,14 +19,111 @@ std::uint32_t hashStep(std::uint32_t hash, char upperCased) {
 
 } // namespace
 
+const std::string& EntryBlock::text() const {
+    if (!gathered_.lines.empty()) {
+        for (const std::string& line : gathered_.lines) {
+            text_.append(line).append(lineEnd);
+        }
+        text_.append(lastLine.substr(lineEnd.size()));
+        gathered_ = {};
+    }
+    return text_;
+}
+
 void EntryBlock::setText(std::string text) {
     text_ = std::move(text);
+    gathered_ = {};
     indexed_ = false;
     slots_.clear();
     endMarks_.clear();
 }
 
+void EntryBlock::put(const CaseRules& cases, const std::string& key, const std::string& value) {
+    const bool oneLine = (key + value).find_first_of(lineEnd) == std::string::npos;
+    if (!oneLine || !gather(cases) || !putIntoLines(cases, key, value)) {
+        putIntoText(cases, key, value);
+    }
+}
+
+/// Cuts the text into lines. False when it does not end with its only "NULL*E" line.
+bool EntryBlock::gather(const CaseRules& cases) {
+    if (!gathered_.lines.empty()) {
+        return true;
+    }
+    if (!text_.ends_with(lastLine) || cases.find(text_, lastLine) + lastLine.size() != text_.size()) {
+        return false;
+    }
+    const std::string text = std::exchange(text_, {});
+    setText({});
+    const std::size_t stop = text.size() - lastLine.size() + lineEnd.size();
+    for (std::size_t start = 0; start < stop;) {
+        const std::size_t end = text.find(lineEnd, start);
+        addLine(cases, text.substr(start, end - start));
+        start = end + lineEnd.size();
+    }
+    return true;
+}
+
+void EntryBlock::addLine(const CaseRules& cases, std::string line) {
+    if (!gathered_.lines.empty()) {
+        gathered_.inCapitals.emplace(cases.upper(line), gathered_.lines.size());
+    }
+    gathered_.lines.push_back(std::move(line));
+}
+
+/// Does what `putIntoText` would do. False when the value to replace does not end with its line.
+bool EntryBlock::putIntoLines(const CaseRules& cases, const std::string& key, const std::string& value) {
+    auto& [lines, inCapitals] = gathered_;
+    const std::string name = cases.upper(key);
+    bool known = lastLine.substr(lineEnd.size()).starts_with(key);
+    std::vector<decltype(inCapitals.begin())> named;
+    for (auto it = inCapitals.lower_bound(name); it != inCapitals.end() && it->first.starts_with(name);
+         ++it) {
+        known = known || lines[it->second].starts_with(key);
+        if (it->first[name.size()] == '=') {
+            named.push_back(it);
+        }
+    }
+    std::string entry = key + "=" + value;
+    if (!known) {
+        addLine(cases, std::move(entry));
+        return true;
+    }
+    if (named.empty()) {
+        return true;
+    }
+    std::sort(named.begin(), named.end(), [](auto a, auto b) { return a->second < b->second; });
+    const std::string old = named.front()->first;
+    if (!old.ends_with("*E")) {
+        return false;
+    }
+    std::size_t next = 0;
+    for (const auto it : named) {
+        const std::size_t number = it->second;
+        if (it->first == old && number >= next) {
+            auto node = inCapitals.extract(it);
+            node.key() = cases.upper(entry);
+            inCapitals.insert(std::move(node));
+            lines[number] = entry;
+            next = number + 2; // Two hits in a row would share a line end: the second one stays.
+        }
+    }
+    return true;
+}
+
+void EntryBlock::putIntoText(const CaseRules& cases, const std::string& key, const std::string& value) {
+    const std::string line = std::string(lineEnd) + key;
+    const bool known = text().find(line) != std::string::npos;
+    std::string old(lastLine);
+    if (known) {
+        old = line + "=" + getBetween(cases, text_, 1, line + "=", endMark) + std::string(endMark);
+    }
+    const std::string_view behind = known ? lineEnd : lastLine;
+    setText(cases.replaceAll(text_, old, line + "=" + value + std::string(behind)));
+}
+
 std::string EntryBlock::find(const CaseRules& cases, std::string_view key) const {
+    text();
     if (key.find_first_of(lineEnd) != std::string_view::npos) {
         // Such a key may reach over a line end, where the index does not look.
         return getBetween(cases, text_, 1, std::string(lineEnd).append(key).append("="), endMark);

@@ -152,23 +152,7 @@ void SettingsFile::writeToMemory(const std::string& key, const std::string& valu
     if (!number) {
         throw Failure("The baseline has no section \"" + section + "\".");
     }
-    EntryBlock& block = blocks[*number - 1];
-    const CaseRules& cases = globals_.cases;
-
-    const std::string lineStart = std::string(lineEnd) + key;
-    const std::string entry = lineStart + "=" + value + "\r\n";
-    // The test is exact and does not look for the "=", so a longer name that begins like this one passes it
-    // too; the replacement then finds nothing and the block stays as it was.
-    const std::size_t similar = cases.find(block.text(), lineStart);
-    if (similar == std::string::npos || block.text().find(lineStart, similar) == std::string::npos) {
-        block.setText(cases.replaceAll(block.text(), "\r\nNULL*E\r\n", entry + "NULL*E\r\n"));
-        return;
-    }
-    // Nothing like the line stands in front of that place.
-    const std::string_view text = block.text();
-    const std::string old = getBetween(cases, text, similar + 1, lineStart + "=", "*E\r\n");
-    block.setText(std::string(text.substr(0, similar)) +
-                  cases.replaceAll(text.substr(similar), lineStart + "=" + old + "*E\r\n", entry));
+    blocks[*number - 1].put(globals_.cases, key, value);
 }
 
 std::optional<std::size_t> SettingsFile::findSection(const std::string& name) const {

@@ -16,7 +16,9 @@
 #include "platform/platform.h"
 #include "platform/processes.h"
 
+#include <algorithm>
 #include <optional>
+#include <string_view>
 #include <utility>
 
 namespace tarvelon {
@@ -262,18 +264,17 @@ void ResultAction::queueForCustom(const SearchIndex& copy, const std::string& it
 }
 
 void ResultAction::SpecialSave(int slot) {
-    std::string pending = std::exchange(passFolderList[static_cast<std::size_t>(slot - 1)], {});
+    const std::string list = std::exchange(passFolderList[static_cast<std::size_t>(slot - 1)], {});
     if (settings.ofSlot(slot, "path") == "NULL") {
         return; // The folder was removed after its scan.
     }
     const std::string file = checksum_.getCustomDat(slot);
     dataFile_.loadCustomDat(file);
     globals.scan.customFolder = "!"; // Any text: entries now go to the custom baseline.
-    while (!pending.empty()) {
-        const std::string path = pending.substr(0, pending.find('('));
+    for (std::string_view pending = list; !pending.empty();) {
+        const std::string path(pending.substr(0, pending.find('(')));
         const std::string value = getBetween(globals.cases, pending, 1, ") ", ",");
-        const std::size_t comma = pending.find(',');
-        pending.erase(0, comma == std::string::npos ? comma : comma + 1);
+        pending.remove_prefix(std::min(pending.find(','), pending.size() - 1) + 1);
         const std::string section = globals.cases.upper(lastCharacters(path, 3));
         passOver([&] { settings.writeEntry(file, bareName(path), value + "*E", section); });
         platform.messages.pump();

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
+
 namespace tarvelon {
 namespace {
 
@@ -120,6 +122,31 @@ TEST_F(SettingsTest, BaselineEntriesGoToMemory) {
                           "Kernel32.dll=CC*E\r\nNULL*E\r\n");
     EXPECT_EQ(dll.find(globals.cases, "kernel32.dll"), "AA") << "The first line of a name counts";
     EXPECT_EQ(dll.find(globals.cases, "user32.dll=CC*E\r\nNEW.DLL"), "CC") << "A name may hold a line end";
+}
+
+TEST(EntryBlock, ManyEntriesComeOutAsOneAfterAnother) {
+    const CaseRules cases;
+    std::mt19937 random(20061122);
+    const auto oneOf = [&](const std::vector<std::string>& texts) { return texts[random() % texts.size()]; };
+    for (int round = 0; round < 3000; ++round) {
+        std::string plain = "[DLL]\r\n";
+        for (auto lines = random() % 6; lines > 0; --lines) {
+            plain += oneOf({"a=1*E", "A=1*E", "a=2*E", "ab=2*E", "a=b=1*E", "b=3", "Null*E"}) + "\r\n";
+        }
+        plain += oneOf({"NULL*E\r\n", "NULL*E\r\n", "null*E\r\n", "NULL*E"});
+        EntryBlock block;
+        block.setText(plain);
+        for (int count = 0; count < 9; ++count) {
+            const std::string name = oneOf({"a", "A", "ab", "a=b", "b", "B", "NULL", "", "b=3\r\na"});
+            const std::string value = oneOf({"1*E", "2*E", "b=1*E", "odd"}), line = "\r\n" + name;
+            block.put(cases, name, value);
+            const bool known = plain.find(line) != std::string::npos;
+            const std::string old = getBetween(cases, plain, 1, line + "=", "*E\r\n"), end = "\r\nNULL*E\r\n";
+            plain = cases.replaceAll(plain, known ? line + "=" + old + "*E\r\n" : end,
+                                     line + "=" + value + (known ? "\r\n" : end));
+        }
+        ASSERT_EQ(block.text(), plain) << "round " << round;
+    }
 }
 
 } // namespace
