@@ -110,42 +110,31 @@ TEST_F(SettingsTest, AFailedWriteLosesNothing) {
     EXPECT_EQ(read("k") + read("long"), "10123456789");
 }
 
-TEST_F(SettingsTest, BaselineEntriesGoToMemory) {
+TEST_F(SettingsTest, EntriesOfABaselineAreGatheredAsIfEachReplacedItsLineInTheText) {
+    const CaseRules& cases = globals.cases;
     EntryBlock& dll = globals.baselines.sectionText[0];
     globals.baselines.sectionName[0] = "DLL";
-    dll.setText("[DLL]\r\nKERNEL32.DLL=AA*E\r\nuser32.dll=BB*E\r\nNULL*E\r\n");
-    // The beginning of a longer name changes nothing; another case makes a second line.
-    for (const char* name : {"new.dll", "user32.dll", "user32", "Kernel32.dll"}) {
-        EXPECT_EQ(settings.writeEntry(R"(C:\X\Data\Integrity.dat)", name, "CC*E", "dll"), std::nullopt);
-    }
-    EXPECT_EQ(dll.text(), "[DLL]\r\nKERNEL32.DLL=AA*E\r\nuser32.dll=CC*E\r\nnew.dll=CC*E\r\n"
-                          "Kernel32.dll=CC*E\r\nNULL*E\r\n");
-    EXPECT_EQ(dll.find(globals.cases, "kernel32.dll"), "AA") << "The first line of a name counts";
-    EXPECT_EQ(dll.find(globals.cases, "user32.dll=CC*E\r\nNEW.DLL"), "CC") << "A name may hold a line end";
-}
-
-TEST(EntryBlock, ManyEntriesComeOutAsOneAfterAnother) {
-    const CaseRules cases;
     std::mt19937 random(20061122);
     const auto oneOf = [&](const std::vector<std::string>& texts) { return texts[random() % texts.size()]; };
+    const std::string end = "\r\nNULL*E\r\n", mark = "*E\r\n";
     for (int round = 0; round < 3000; ++round) {
-        std::string plain = "[DLL]\r\n";
+        std::string text = "[DLL]\r\n";
         for (auto lines = random() % 6; lines > 0; --lines) {
-            plain += oneOf({"a=1*E", "A=1*E", "a=2*E", "ab=2*E", "a=b=1*E", "b=3", "Null*E"}) + "\r\n";
+            text += oneOf({"a=1*E", "A=1*e", "ab=2*E", "a=b=1*E", "b=3", "a*E\r", "Null*E"}) + "\r\n";
         }
-        plain += oneOf({"NULL*E\r\n", "NULL*E\r\n", "null*E\r\n", "NULL*E"});
-        EntryBlock block;
-        block.setText(plain);
+        dll.setText(text += oneOf({"NULL*E\r\n", "NULL*E\r\n", "null*E\r\n", "NULL*E"}));
         for (int count = 0; count < 9; ++count) {
             const std::string name = oneOf({"a", "A", "ab", "a=b", "b", "B", "NULL", "", "b=3\r\na"});
-            const std::string value = oneOf({"1*E", "2*E", "b=1*E", "odd"}), line = "\r\n" + name;
-            block.put(cases, name, value);
-            const bool known = plain.find(line) != std::string::npos;
-            const std::string old = getBetween(cases, plain, 1, line + "=", "*E\r\n"), end = "\r\nNULL*E\r\n";
-            plain = cases.replaceAll(plain, known ? line + "=" + old + "*E\r\n" : end,
-                                     line + "=" + value + (known ? "\r\n" : end));
+            const std::string head = "\r\n" + name + "=", value = oneOf({"1*E", "2*E", "b=1*E", "odd"});
+            EXPECT_EQ(settings.writeEntry(R"(C:\X\Data\Integrity.dat)", name, value, "dll"), std::nullopt);
+            const std::string old = head + getBetween(cases, text, 1, head, mark) + mark;
+            text = text.find("\r\n" + name) == std::string::npos
+                       ? cases.replaceAll(text, end, head + value + end)
+                       : cases.replaceAll(text, old, head + value + "\r\n");
         }
-        ASSERT_EQ(block.text(), plain) << "round " << round;
+        const std::string name = oneOf({"a", "A=B", "b=3\r\na"});
+        ASSERT_EQ(dll.find(cases, name), getBetween(cases, text, 1, "\r\n" + name + "=", mark));
+        ASSERT_EQ(dll.text(), text);
     }
 }
 
