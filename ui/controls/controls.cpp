@@ -30,6 +30,12 @@ bool Control::isUsable() const {
     return Enabled() && (!frame_ || frame_->isUsable());
 }
 
+void Control::raiseIfUsable(const Screen::Handler& handler) const {
+    if (isUsable()) {
+        raise(handler);
+    }
+}
+
 void Control::changed(Aspect aspect) {
     if (screen_.listener) {
         screen_.listener->changed(*this, aspect);
@@ -52,12 +58,6 @@ Label::Label(ControlParent parent, std::string caption, Rect place, TextStyle st
     Visible = visible;
 }
 
-void Label::click() {
-    if (isUsable()) {
-        raise(onClick);
-    }
-}
-
 FlatButton::FlatButton(ControlParent parent, std::string caption, Rect place)
     : Control(ControlKind::FlatButton, parent, std::move(caption), place) {}
 
@@ -78,12 +78,6 @@ void FlatButton::mouseMove() {
     raise(onMouseMove);
 }
 
-void FlatButton::click() {
-    if (isUsable()) {
-        raise(onClick);
-    }
-}
-
 void FlatButton::press(bool pressed) {
     if (pressed_ != pressed) {
         pressed_ = pressed;
@@ -92,15 +86,7 @@ void FlatButton::press(bool pressed) {
 }
 
 FlatCheck::FlatCheck(ControlParent parent, std::string caption, Rect place)
-    : Control(ControlKind::FlatCheck, parent, std::move(caption), place) {}
-
-void FlatCheck::setValue(bool ticked) {
-    const int value = ticked ? 1 : 0;
-    if (value_ != value) {
-        value_ = value;
-        changed(Aspect::Value);
-    }
-}
+    : TickBox(ControlKind::FlatCheck, parent, std::move(caption), place) {}
 
 void FlatCheck::downStatus(int) {
     if (hovered_) {
@@ -116,17 +102,10 @@ void FlatCheck::mouseMoveLabel() {
     }
 }
 
-void FlatCheck::click() {
-    if (isUsable()) {
-        setValue(value_ == 0);
-        raise(onClick);
-    }
-}
-
 CheckBox::CheckBox(ControlParent parent, std::string caption, Rect place)
-    : Control(ControlKind::CheckBox, parent, std::move(caption), place) {}
+    : TickBox(ControlKind::CheckBox, parent, std::move(caption), place) {}
 
-void CheckBox::setValue(bool ticked) {
+void TickBox::setValue(bool ticked) {
     const int value = ticked ? 1 : 0;
     if (value_ != value) {
         value_ = value;
@@ -134,7 +113,7 @@ void CheckBox::setValue(bool ticked) {
     }
 }
 
-void CheckBox::click() {
+void TickBox::click() {
     if (isUsable()) {
         setValue(value_ == 0);
         raise(onClick);
@@ -171,33 +150,9 @@ NavButton::NavButton(ControlParent parent, std::string caption, Rect place, std:
     : Control(ControlKind::NavButton, parent, std::move(caption), place)
     , icon_(std::move(icon)) {}
 
-void NavButton::click() {
-    if (isUsable()) {
-        raise(onClick);
-    }
-}
-
 Picture::Picture(ControlParent parent, Rect place, std::string image, std::string caption)
     : Control(ControlKind::Picture, parent, std::move(caption), place)
     , image_(std::move(image)) {}
-
-void Picture::click() {
-    if (isUsable()) {
-        raise(onClick);
-    }
-}
-
-void Picture::keyPress() {
-    if (isUsable()) {
-        raise(onKeyPress);
-    }
-}
-
-void Picture::keyClick() {
-    if (isUsable()) {
-        raise(onKeyClick);
-    }
-}
 
 TextBox::TextBox(ControlParent parent, Rect place, bool visible)
     : Control(ControlKind::TextBox, parent, "", place) {

@@ -76,6 +76,8 @@ protected:
     Control(ControlKind kind, ControlParent parent, std::string caption, Rect place);
 
     void raise(const Screen::Handler& handler) const { screen_.dispatch(handler); }
+    /// What a user does to a disabled control is nothing.
+    void raiseIfUsable(const Screen::Handler& handler) const;
 
 private:
     ControlKind kind_;
@@ -126,7 +128,7 @@ public:
     Screen::Handler onClick;
     void mouseDown() override { raise(onMouseDown); }
     void mouseUp() override { raise(onMouseUp); }
-    void click() override;
+    void click() override { raiseIfUsable(onClick); }
 
 private:
     TextStyle style_;
@@ -148,7 +150,7 @@ public:
     /// The mouse moves over the button's own ground.
     void mouseMove();
     /// Nothing happens on a disabled button.
-    void click() override;
+    void click() override { raiseIfUsable(onClick); }
 
 private:
     void press(bool pressed);
@@ -156,52 +158,50 @@ private:
     bool pressed_ = false;
 };
 
-/// `check`: the flat check box. The label turns blue and underlined under the mouse.
-class FlatCheck : public Control {
+/// What both kinds of check boxes share.
+class TickBox : public Control {
 public:
-    FlatCheck(ControlParent parent, std::string caption, Rect place);
-
     /// 0 or 1.
     int value() const { return value_; }
-    /// Any true value ticks the box.
+    /// Any true value ticks the box. No click is raised.
     void setValue(bool ticked);
+
+    Screen::Handler onClick;
+    /// The box flips; on the label and on the box alike.
+    void click() override;
+
+protected:
+    using Control::Control;
+
+private:
+    int value_ = 0;
+};
+
+/// `check`: the flat check box. The label turns blue and underlined under the mouse.
+class FlatCheck : public TickBox {
+public:
+    FlatCheck(ControlParent parent, std::string caption, Rect place);
 
     /// Takes the hover look away, whatever the value.
     void downStatus(int value);
 
     bool hovered() const { return hovered_; }
 
-    Screen::Handler onClick;
-
     void mouseMoveLabel();
     void mouseMoveBox() { downStatus(1); }
-    /// The box flips; on the label and on the box alike.
-    void click() override;
 
 private:
-    int value_ = 0;
     bool hovered_ = false;
 };
 
 /// A plain check box of the system.
-class CheckBox : public Control {
+class CheckBox : public TickBox {
 public:
     CheckBox(ControlParent parent, std::string caption, Rect place);
 
     Property<Color, Control, Aspect::TextColor> ForeColor{*this, colors::black};
     /// Empty: the ground it stands on.
     Property<std::optional<Color>, Control, Aspect::TextColor> BackColor{*this, std::nullopt};
-
-    /// 0 or 1.
-    int value() const { return value_; }
-    /// Ticked by code: no click is raised.
-    void setValue(bool ticked);
-
-    Screen::Handler onClick;
-    void click() override;
-
-private:
-    int value_ = 0;
 };
 
 /// One choice out of those in the same frame.
@@ -232,7 +232,7 @@ public:
     Property<bool, Control, Aspect::Value> Current{*this, false};
 
     Screen::Handler onClick;
-    void click() override;
+    void click() override { raiseIfUsable(onClick); }
 
 private:
     std::string icon_;
@@ -255,9 +255,9 @@ public:
     /// The keyboard has come to the picture, or gone from it.
     Screen::Handler onFocus;
     Screen::Handler onFocusLost;
-    void click() override;
-    void keyPress();
-    void keyClick();
+    void click() override { raiseIfUsable(onClick); }
+    void keyPress() { raiseIfUsable(onKeyPress); }
+    void keyClick() { raiseIfUsable(onKeyClick); }
     void focus() { raise(onFocus); }
     void loseFocus() { raise(onFocusLost); }
 
