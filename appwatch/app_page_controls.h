@@ -19,9 +19,9 @@ struct AppPageControls {
     Label lblProcessID{appF, "Process ID: Please select an Entry first", at(32, 352, 536, 20)};
     Label lblClassName{appF, "Click on an Entry in the list to retrieve additional Information",
                        at(32, 376, 536, 56)};
-    FlatButton act{appF, "Activate Window", at(32, 440, 168, 32)};
-    FlatButton cl{appF, "Close Window", at(208, 440, 168, 32)};
-    FlatButton ref{appF, "Refresh", at(400, 440, 168, 32)};
+    cButton act{appF, "Activate Window", at(32, 440, 168, 32)};
+    cButton cl{appF, "Close Window", at(208, 440, 168, 32)};
+    cButton ref{appF, "Refresh", at(400, 440, 168, 32)};
 };
 
 } // namespace tarvelon

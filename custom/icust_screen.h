@@ -19,8 +19,8 @@ struct ICustScreen : Screen {
     // The lists show whole rows: 20 units each, and a unit of edge above and below.
     Label Label2{*this, "Custom Folder List:", at(16, 14, 688, 26), TextStyle::Heading};
     ListBox List1{*this, at(16, 48, 688, 162)}; ///< the slots, a row for each
-    FlatButton cButton2{*this, "Add Folder...", at(16, 218, 136, 32)};
-    FlatButton Command2{*this, "Remove Folder", at(160, 218, 136, 32)};
+    cButton cButton2{*this, "Add Folder...", at(16, 218, 136, 32)};
+    cButton Command2{*this, "Remove Folder", at(160, 218, 136, 32)};
 
     Label Label3{*this, "Click on a Folder, then Edit its properties below", at(16, 266, 688, 18),
                  TextStyle::Hint};
@@ -29,7 +29,7 @@ struct ICustScreen : Screen {
     CheckListBox List2{*this, at(16, 340, 336, 122)}; ///< types at start-up
     CheckBox Check2{*this, "Scan this folder at Secure Shut Down", at(368, 312, 336, 24)};
     CheckListBox List4{*this, at(368, 340, 336, 122)}; ///< types at shut-down
-    FlatButton Command3{*this, "Save and Exit", at(568, 472, 136, 32)};
+    cButton Command3{*this, "Save and Exit", at(568, 472, 136, 32)};
 
     // What the slots' settings are now; never shown.
     ListBox List3{*this, at(0, 0, 8, 8)}; ///< "args" of each slot

@@ -21,23 +21,23 @@ struct FolderScanControls {
     Frame intF;
     Label folderHeading{intF, "Folder:", at(32, 24, 536, 20)};
     ComboBox Combo1{intF, at(32, 48, 400, 24)};
-    FlatButton addRem{intF, "Add/Remove Custom Folders...", at(32, 80, 232, 32)};
-    std::array<FlatCheck, 6> check{
-        {FlatCheck{intF, "", at(32, 136, 24, 32)}, FlatCheck{intF, "", at(32, 176, 24, 32)},
-         FlatCheck{intF, "", at(32, 216, 24, 32)}, FlatCheck{intF, "", at(32, 256, 24, 32)},
-         FlatCheck{intF, "", at(32, 296, 24, 32)}, FlatCheck{intF, "", at(32, 336, 24, 32)}}};
-    FlatButton bDLL{intF, "Dynamic Linked Library (DLL)", at(64, 136, 264, 32)};
-    FlatButton bDRV{intF, "Driver Files (DRV)", at(64, 176, 264, 32)};
-    FlatButton bSYS{intF, "System Files (SYS, 386)", at(64, 216, 264, 32)};
-    FlatButton bOCX{intF, "ActiveX Files (OCX)", at(64, 256, 264, 32)};
-    FlatButton bEXE{intF, "Executable Files (EXE, COM)", at(64, 296, 264, 32)};
-    FlatButton bEXE2{intF, "Exploited File Types (PIF, SCR)", at(64, 336, 264, 32)};
-    FlatButton bFULL{intF, "Select All", at(352, 136, 152, 32)};
-    FlatButton bCLEAR{intF, "Clear Selections", at(352, 176, 152, 32)};
-    FlatButton bSCAN{intF, "Scan Folder Now", at(32, 400, 296, 40)};
+    cButton addRem{intF, "Add/Remove Custom Folders...", at(32, 80, 232, 32)};
+    std::array<tarvelon::check, 6> check{
+        {tarvelon::check{intF, "", at(32, 136, 24, 32)}, tarvelon::check{intF, "", at(32, 176, 24, 32)},
+         tarvelon::check{intF, "", at(32, 216, 24, 32)}, tarvelon::check{intF, "", at(32, 256, 24, 32)},
+         tarvelon::check{intF, "", at(32, 296, 24, 32)}, tarvelon::check{intF, "", at(32, 336, 24, 32)}}};
+    cButton bDLL{intF, "Dynamic Linked Library (DLL)", at(64, 136, 264, 32)};
+    cButton bDRV{intF, "Driver Files (DRV)", at(64, 176, 264, 32)};
+    cButton bSYS{intF, "System Files (SYS, 386)", at(64, 216, 264, 32)};
+    cButton bOCX{intF, "ActiveX Files (OCX)", at(64, 256, 264, 32)};
+    cButton bEXE{intF, "Executable Files (EXE, COM)", at(64, 296, 264, 32)};
+    cButton bEXE2{intF, "Exploited File Types (PIF, SCR)", at(64, 336, 264, 32)};
+    cButton bFULL{intF, "Select All", at(352, 136, 152, 32)};
+    cButton bCLEAR{intF, "Clear Selections", at(352, 176, 152, 32)};
+    cButton bSCAN{intF, "Scan Folder Now", at(32, 400, 296, 40)};
 
     /// What flips the six type boxes, in their order.
-    std::array<FlatButton*, 6> typeButtons{&bDLL, &bDRV, &bSYS, &bOCX, &bEXE, &bEXE2};
+    std::array<cButton*, 6> typeButtons{&bDLL, &bDRV, &bSYS, &bOCX, &bEXE, &bEXE2};
 };
 
 } // namespace tarvelon

@@ -43,7 +43,7 @@ void FolderScanPage::bind() {
 }
 
 void FolderScanPage::tickAll(bool ticked) {
-    for (FlatCheck& box : screen_.check) {
+    for (check& box : screen_.check) {
         box.setValue(ticked);
     }
 }

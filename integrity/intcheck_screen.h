@@ -58,7 +58,7 @@ struct IntCheckScreen : Screen {
     Label l_cust{Frame1, "", at(32, 290, 552, 18), TextStyle::Hint};
     Label l_scust{Frame1, "0%", at(384, 272, 200, 18), TextStyle::Gauge};
 
-    FlatButton Image9{Frame1, "Pause", at(464, 316, 120, 32)};
+    cButton Image9{Frame1, "Pause", at(464, 316, 120, 32)};
     Label Label11{Frame1, "Resume", at(336, 316, 120, 32), TextStyle::Action, false};
 
     // Results.
@@ -82,7 +82,7 @@ struct IntCheckScreen : Screen {
     Label Label12{Frame3, "Scan Failing Files...", at(16, 312, 280, 36), TextStyle::Action};
 
     // Under every view, so that the results can be left as well.
-    FlatButton Image11{*this, "Cancel", at(464, 404, 120, 32)};
+    cButton Image11{*this, "Cancel", at(464, 404, 120, 32)};
 
     // The scanners' programs and arguments; never shown.
     TextBox Text1{*this, at(0, 0, 8, 8), false};
@@ -91,7 +91,7 @@ struct IntCheckScreen : Screen {
     TextBox textav2{*this, at(0, 0, 8, 8), false};
     const ScannerFields first{Text1, Text2};
     const ScannerFields second{textav1, textav2};
-    FlatButton Command1{*this, "", at(0, 0, 8, 8)};
+    cButton Command1{*this, "", at(0, 0, 8, 8)};
 
     // Progress figures, read back as texts.
     Label pb1max{*this, "0", at(0, 0, 8, 8)}; ///< Files planned for the pass about to run.

@@ -16,9 +16,9 @@ struct LogControls {
     }
 
     Frame& optionsPage;
-    FlatButton cReports{optionsPage, "Load Logs", at(32, 200, 200, 32)};
-    FlatButton cViewReport{optionsPage, "View Log", at(32, 240, 200, 32)};
-    FlatButton cButton3{optionsPage, "Delete All Logs", at(32, 280, 200, 32)};
+    cButton cReports{optionsPage, "Load Logs", at(32, 200, 200, 32)};
+    cButton cViewReport{optionsPage, "View Log", at(32, 240, 200, 32)};
+    cButton cButton3{optionsPage, "Delete All Logs", at(32, 280, 200, 32)};
     Tree TreeView2{optionsPage, at(248, 200, 336, 200)}; ///< dates, and times of reports below them
     Label Label27{optionsPage,
                   "Tip: Use the Delete key to delete log entries, or log groupings directly from the list",
@@ -31,9 +31,9 @@ struct LogControls {
         repF, "The following files either failed an Integrity Check, or were New/Modified Registry Entries:",
         at(16, 16, 568, 36)};
     ListBox List4{repF, at(16, 56, 568, 368)}; ///< the names in one report
-    FlatButton cScnLog{repF, "Scan Files For Viruses", at(16, 440, 176, 32)};
-    FlatButton cDelLog{repF, "Delete this Report", at(200, 440, 160, 32)};
-    FlatButton cX{repF, "Close", at(464, 440, 120, 32)};
+    cButton cScnLog{repF, "Scan Files For Viruses", at(16, 440, 176, 32)};
+    cButton cDelLog{repF, "Delete this Report", at(200, 440, 160, 32)};
+    cButton cX{repF, "Close", at(464, 440, 120, 32)};
 };
 
 } // namespace tarvelon

@@ -6,12 +6,12 @@
 
 namespace tarvelon {
 
-class FlatCheck;
+class check;
 
 /// Writes the reports about files that were handed to the scanners.
 class LogFiles : Services {
 public:
-    LogFiles(const FlatCheck& autoLogging, const Services& services)
+    LogFiles(const check& autoLogging, const Services& services)
         : Services(services)
         , autoLogging_(autoLogging) {}
 
@@ -28,7 +28,7 @@ public:
 private:
     bool passesGate(const std::string& listText);
 
-    const FlatCheck& autoLogging_;
+    const check& autoLogging_;
 };
 
 } // namespace tarvelon

@@ -14,7 +14,7 @@ struct SProgScreen : Screen {
     Label Label2{*this, "Status: ", at(16, 16, 448, 20)};
     Label Label1{*this, "Current Task Progress:", at(16, 48, 448, 20)};
     ProgressBar ProgressBar1{*this, at(16, 72, 448, 20)};
-    FlatButton Command1{*this, "ShutDown Now", at(320, 104, 144, 32)};
+    cButton Command1{*this, "ShutDown Now", at(320, 104, 144, 32)};
 };
 
 } // namespace tarvelon

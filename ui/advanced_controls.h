@@ -48,16 +48,16 @@ struct AdvancedControls {
     CheckBox avfocus{advF, "Give anti-virus program Focus (Fixes GUI Errors with AVAST 4)",
                      at(16, 204, 568, 24)};
     Label Label30{advF, "Micellaneous:", at(16, 232, 96, 24)};
-    FlatCheck wsh{advF, "Use Windows Scripting Host (If Auto-Load won't create shortcut/save)",
-                  at(112, 232, 472, 24)};
+    check wsh{advF, "Use Windows Scripting Host (If Auto-Load won't create shortcut/save)",
+              at(112, 232, 472, 24)};
 
     // Compare Speeds: the report, and one of its three tests as a chart.
     ListBox List1{advF, at(16, 264, 468, 162)};
     Label chartHeading{advF, "Time by buffer:", at(490, 262, 102, 18), TextStyle::Hint};
     BarChart speedChart{advF, "", 4, at(490, 280, 94, 146)};
-    FlatButton cSave2{advF, "Save", at(16, 440, 136, 32)};
-    FlatButton cButton1{advF, "Cancel", at(160, 440, 136, 32)};
-    FlatButton cSpeeds{advF, "Compare Speeds", at(408, 440, 176, 32)};
+    cButton cSave2{advF, "Save", at(16, 440, 136, 32)};
+    cButton cButton1{advF, "Cancel", at(160, 440, 136, 32)};
+    cButton cSpeeds{advF, "Compare Speeds", at(408, 440, 176, 32)};
 
     /// The controls behind the positions of a stored list.
     std::array<CheckBox*, 3> shellChecks{&Check10, &Check11, &avfocus};

@@ -82,7 +82,7 @@ void MForm1::bindHover() {
 void MForm1::norms() {
     for (Control* control : screen_.controls()) {
         if (control->kind() == ControlKind::FlatCheck) {
-            static_cast<FlatCheck*>(control)->downStatus(1);
+            static_cast<check*>(control)->downStatus(1);
         }
     }
 }

@@ -20,9 +20,9 @@ struct NavigationControls {
     NavButton Image7{navigation, "RegWatch", at(0, 80, 160, 72), "regwatch"};
     NavButton Image9{navigation, "AppWatch", at(0, 152, 160, 72), "appwatch"};
     NavButton Image11{navigation, "Options", at(0, 224, 160, 72), "options"};
-    FlatButton cButton6{navigation, "Help", at(16, 360, 128, 32)};
-    FlatButton cButton7{navigation, "About", at(16, 400, 128, 32)};
-    FlatButton cButton9{navigation, "Exit", at(16, 440, 128, 32)};
+    cButton cButton6{navigation, "Help", at(16, 360, 128, 32)};
+    cButton cButton7{navigation, "About", at(16, 400, 128, 32)};
+    cButton cButton9{navigation, "Exit", at(16, 440, 128, 32)};
 };
 
 /// The ways from the page of options to the others.
@@ -31,14 +31,14 @@ struct OptionControls {
         : setFq(screen, at(160, 0, 600, 488), false) {}
 
     Frame setFq; ///< Holds the tree of reports too.
-    FlatButton cSettings{setFq, "Edit Settings", at(32, 24, 200, 32)};
+    cButton cSettings{setFq, "Edit Settings", at(32, 24, 200, 32)};
     Label Label6{setFq, "Please Remember to Save these Settings", at(248, 24, 336, 32), TextStyle::Hint};
-    FlatButton cButton2{setFq, "Advanced Settings", at(32, 64, 200, 32)};
+    cButton cButton2{setFq, "Advanced Settings", at(32, 64, 200, 32)};
     Label Label16{setFq, "Only Intended for Advanced Users", at(248, 64, 336, 32), TextStyle::Hint};
-    FlatButton cSetW{setFq, "Settings Wizard", at(32, 104, 200, 32)};
+    cButton cSetW{setFq, "Settings Wizard", at(32, 104, 200, 32)};
     Label Label15{setFq, "First-time Tarvelon Users are Recommended to use the Settings Wizard",
                   at(248, 104, 312, 32), TextStyle::Hint}; // Two lines: one would have to be set very small.
-    FlatButton cCreateSS{setFq, "Shutdown/Scan Shortcut", at(32, 144, 200, 32)};
+    cButton cCreateSS{setFq, "Shutdown/Scan Shortcut", at(32, 144, 200, 32)};
     Label Label23{setFq,
                   "Click to Create a Shutdown/Scan shortcut. For more information about this feature, please "
                   "look at the Help Files.",
@@ -68,8 +68,8 @@ struct MForm1Screen : Screen,
         , SettingsControls(static_cast<Screen&>(*this))
         , AdvancedControls(settF) {}
 
-    FlatButton cUpdates{setFq, "Check for Updates", at(32, 400, 200, 32)};
-    FlatButton cAbout{setFq, "About", at(32, 440, 200, 32)};
+    cButton cUpdates{setFq, "Check for Updates", at(32, 400, 200, 32)};
+    cButton cAbout{setFq, "About", at(32, 440, 200, 32)};
 
     // About; the page that shows when the window opens.
     Frame Frame2{*this, at(160, 0, 600, 488)};
@@ -77,8 +77,8 @@ struct MForm1Screen : Screen,
     Label Label33{Frame2, "Version: 2.0", at(32, 72, 536, 20)};
     Label Label36{Frame2, "Programmer:", at(32, 112, 96, 20)};
     Label Label37{Frame2, "Quillfen Support", at(136, 112, 200, 20), TextStyle::Link};
-    FlatButton cButton4{Frame2, "View Help Files", at(32, 160, 200, 32)};
-    FlatButton cButton5{Frame2, "Visit Quillfen Online", at(32, 200, 200, 32)};
+    cButton cButton4{Frame2, "View Help Files", at(32, 160, 200, 32)};
+    cButton cButton5{Frame2, "Visit Quillfen Online", at(32, 200, 200, 32)};
 };
 
 } // namespace tarvelon

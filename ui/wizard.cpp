@@ -97,8 +97,8 @@ void Wizard::LoadUp() {
 }
 
 void Wizard::norms() {
-    for (FlatCheck* check : screen_.settingChecks) {
-        check->Visible = false;
+    for (check* box : screen_.settingChecks) {
+        box->Visible = false;
     }
     for (Control* control : std::initializer_list<Control*>{
              &screen_.Label4, &screen_.helpme, &screen_.locate, &screen_.aload, &screen_.vpath, &screen_.varg,

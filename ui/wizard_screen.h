@@ -19,35 +19,35 @@ struct WizardScreen : Screen {
 
     // Anti-virus.
     TextBox vpath{*this, at(32, 216, 432, 24)};
-    FlatButton locate{*this, "Locate...", at(472, 212, 136, 32)};
+    cButton locate{*this, "Locate...", at(472, 212, 136, 32)};
     Label Label4{*this, "Extra Arguments", at(32, 256, 144, 24)};
     TextBox varg{*this, at(184, 256, 280, 24)};
     const ScannerFields scanner{vpath, varg};
-    FlatButton helpme{*this, "Help Me!", at(472, 252, 136, 32)};
-    FlatButton Command1{*this, "Test It!", at(32, 216, 136, 32)};
+    cButton helpme{*this, "Help Me!", at(472, 252, 136, 32)};
+    cButton Command1{*this, "Test It!", at(32, 216, 136, 32)};
 
     // Main settings.
-    FlatCheck aload{*this, "Enable Auto-Load (Highly Recommended)", at(32, 216, 576, 24)};
-    FlatCheck Check1{*this, "Check DLL (Dynamic Linked Libraries)", at(32, 216, 264, 24)};
-    FlatCheck Check2{*this, "Check DRV (Drivers)", at(32, 248, 264, 24)};
-    FlatCheck Check3{*this, "Check SYS (System files)", at(32, 280, 264, 24)};
-    FlatCheck Check4{*this, "Check OCX (ActiveX)", at(304, 216, 304, 24)};
-    FlatCheck Check5{*this, "Check EXE (Executables)", at(304, 248, 304, 24)};
-    FlatCheck Check8{*this, "Check SCR,PIF (Commonly Exploited File Types)", at(304, 280, 304, 24)};
-    FlatCheck Check6{*this, "Enable Auto-Scan", at(32, 216, 576, 24)};
+    check aload{*this, "Enable Auto-Load (Highly Recommended)", at(32, 216, 576, 24)};
+    check Check1{*this, "Check DLL (Dynamic Linked Libraries)", at(32, 216, 264, 24)};
+    check Check2{*this, "Check DRV (Drivers)", at(32, 248, 264, 24)};
+    check Check3{*this, "Check SYS (System files)", at(32, 280, 264, 24)};
+    check Check4{*this, "Check OCX (ActiveX)", at(304, 216, 304, 24)};
+    check Check5{*this, "Check EXE (Executables)", at(304, 248, 304, 24)};
+    check Check8{*this, "Check SCR,PIF (Commonly Exploited File Types)", at(304, 280, 304, 24)};
+    check Check6{*this, "Enable Auto-Scan", at(32, 216, 576, 24)};
 
     // Other settings.
-    FlatCheck Check7{*this, "Enable Logging Feature", at(32, 216, 576, 24)};
-    FlatButton cButton1{*this, "Create Shutdown/Scan shortcut", at(32, 216, 264, 32)};
-    FlatButton Command2{*this, "Save", at(32, 216, 136, 32)};
+    check Check7{*this, "Enable Logging Feature", at(32, 216, 576, 24)};
+    cButton cButton1{*this, "Create Shutdown/Scan shortcut", at(32, 216, 264, 32)};
+    cButton Command2{*this, "Save", at(32, 216, 136, 32)};
 
     Label Label2{*this, "<<< Back", at(32, 368, 96, 24), TextStyle::Step};
     Label Label1{*this, "Next >>>", at(144, 368, 96, 24), TextStyle::Step};
     Label Label3{*this, "Cancel", at(560, 368, 48, 24), TextStyle::Step};
 
     /// The boxes behind the positions of the stored list.
-    std::array<FlatCheck*, 8> settingChecks{&Check1, &Check2, &Check3, &Check4,
-                                            &Check5, &Check8, &Check6, &Check7};
+    std::array<check*, 8> settingChecks{&Check1, &Check2, &Check3, &Check4,
+                                        &Check5, &Check8, &Check6, &Check7};
 };
 
 } // namespace tarvelon

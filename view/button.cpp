@@ -4,7 +4,7 @@ namespace tarvelon {
 
 namespace {
 
-class FlatButtonWindow : public WindowOf<FlatButton, PressWindow> {
+class FlatButtonWindow : public WindowOf<cButton, PressWindow> {
 public:
     using WindowOf::WindowOf;
 

@@ -56,7 +56,7 @@ private:
     bool isRound_;
 };
 
-class FlatCheckWindow : public WindowOf<FlatCheck, TickWindow> {
+class FlatCheckWindow : public WindowOf<check, TickWindow> {
 public:
     using WindowOf::WindowOf;
 

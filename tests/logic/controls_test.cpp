@@ -22,8 +22,8 @@ struct Controls : testing::Test, Screen {
     int before = 0;
     Frame page{*this, at(0, 0, 400, 300)};
     OptionButton option{page, "Option", {}};
-    FlatButton button{page, "Button", {}};
-    FlatCheck check{page, "Check", {}};
+    cButton button{page, "Button", {}};
+    tarvelon::check check{page, "Check", {}};
     CheckBox plain{page, "Plain", {}};
     Picture picture{page, {}, "standby", ""};
     Label label{page, "Label", {}};
@@ -93,7 +93,7 @@ TEST_F(Controls, NothingIsClickedInADisabledFrame) {
 }
 
 TEST_F(Controls, FlatOnesShowThePressAndTheMouse) {
-    for (const auto leave : {&FlatButton::mouseMove, &FlatButton::mouseUp}) {
+    for (const auto leave : {&cButton::mouseMove, &cButton::mouseUp}) {
         button.mouseDown();
         EXPECT_EQ(button.foreColor(), colors::white);
         (button.*leave)();

@@ -41,9 +41,9 @@ struct SampleScreen : Screen {
     Frame page{*this, "", at(0, 0, 400, 260)};
     Label step{page, "Step", at(8, 8, 120, 16), TextStyle::Step};
     Label gauge{page, "50%", at(200, 8, 192, 16), TextStyle::Gauge};
-    FlatButton button{page, "A && B", at(8, 32, 120, 32)};
+    cButton button{page, "A && B", at(8, 32, 120, 32)};
     Label action{page, "An action", at(136, 32, 120, 32), TextStyle::Action};
-    FlatCheck check{page, "A check", at(8, 72, 120, 24)};
+    tarvelon::check check{page, "A check", at(8, 72, 120, 24)};
     OptionButton first{page, "First", at(8, 104, 120, 24)};
     OptionButton second{page, "Second", at(136, 104, 120, 24)};
     TextBox text{page, at(8, 136, 120, 24)};

@@ -25,7 +25,7 @@ protected:
                form().Text2.Caption();
     }
 
-    void choose(FlatButton& button, const std::optional<std::string>& path) {
+    void choose(cButton& button, const std::optional<std::string>& path) {
         pc.dialogs.expectOpenFile({.title = "Choose Anti-Virus Executable File", .choice = path});
         if (path) {
             tells("Don't forget to Save!");

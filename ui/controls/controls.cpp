@@ -58,44 +58,44 @@ Label::Label(ControlParent parent, std::string caption, Rect place, TextStyle st
     Visible = visible;
 }
 
-FlatButton::FlatButton(ControlParent parent, std::string caption, Rect place)
+cButton::cButton(ControlParent parent, std::string caption, Rect place)
     : Control(ControlKind::FlatButton, parent, std::move(caption), place) {}
 
-Color FlatButton::foreColor() const {
+Color cButton::foreColor() const {
     return pressed_ || !Enabled() ? colors::white : colors::black;
 }
 
-void FlatButton::mouseDown() {
+void cButton::mouseDown() {
     press(Enabled());
 }
 
-void FlatButton::mouseUp() {
+void cButton::mouseUp() {
     press(false);
 }
 
-void FlatButton::mouseMove() {
+void cButton::mouseMove() {
     press(false);
     raise(onMouseMove);
 }
 
-void FlatButton::press(bool pressed) {
+void cButton::press(bool pressed) {
     if (pressed_ != pressed) {
         pressed_ = pressed;
         changed(Aspect::TextColor);
     }
 }
 
-FlatCheck::FlatCheck(ControlParent parent, std::string caption, Rect place)
+check::check(ControlParent parent, std::string caption, Rect place)
     : TickBox(ControlKind::FlatCheck, parent, std::move(caption), place) {}
 
-void FlatCheck::downStatus(int) {
+void check::downStatus(int) {
     if (hovered_) {
         hovered_ = false;
         changed(Aspect::TextColor);
     }
 }
 
-void FlatCheck::mouseMoveLabel() {
+void check::mouseMoveLabel() {
     if (!hovered_) {
         hovered_ = true;
         changed(Aspect::TextColor);

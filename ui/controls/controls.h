@@ -134,11 +134,11 @@ private:
     TextStyle style_;
 };
 
-/// `cButton`: the flat button that stands for nearly every button. Its caption is white while it is pressed
+/// The flat button that stands for nearly every button. Its caption is white while it is pressed
 /// or disabled, else black.
-class FlatButton : public Control {
+class cButton : public Control {
 public:
-    FlatButton(ControlParent parent, std::string caption, Rect place);
+    cButton(ControlParent parent, std::string caption, Rect place);
 
     /// The caption's colour now.
     Color foreColor() const;
@@ -177,10 +177,10 @@ private:
     int value_ = 0;
 };
 
-/// `check`: the flat check box. The label turns blue and underlined under the mouse.
-class FlatCheck : public TickBox {
+/// The flat check box. The label turns blue and underlined under the mouse.
+class check : public TickBox {
 public:
-    FlatCheck(ControlParent parent, std::string caption, Rect place);
+    check(ControlParent parent, std::string caption, Rect place);
 
     /// Takes the hover look away, whatever the value.
     void downStatus(int value);
