@@ -2,6 +2,8 @@
 
 #include "platform/win32/owned.h"
 
+#include <commctrl.h>
+
 #include <string>
 
 namespace tarvelon {
@@ -11,12 +13,45 @@ namespace tarvelon {
 class ToolTip {
 public:
     /// An empty text shows nothing. `widestLine` is in pixels.
-    void set(const std::string& text, int widestLine);
+    void set(const std::string& text, int widestLine) {
+        text_ = text;
+        widestLine_ = widestLine;
+        window_.reset(); // The next movement of the mouse opens it with the new text.
+    }
+
     /// Has to see all mouse messages of the window, that of leaving included.
-    void see(HWND owner, UINT message, WPARAM wide, LPARAM low);
+    void see(HWND owner, UINT message, WPARAM wide, LPARAM low) {
+        if (message == WM_MOUSELEAVE) {
+            window_.reset();
+        } else if (!text_.empty() && message >= WM_MOUSEFIRST && message <= WM_MOUSELAST) {
+            if (!window_) {
+                open(owner);
+            }
+            MSG seen{.hwnd = owner, .message = message, .wParam = wide, .lParam = low, .time = 0, .pt = {}};
+            tell(TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&seen));
+        }
+    }
 
 private:
-    void open(HWND owner);
+    void tell(UINT message, WPARAM wide, LPARAM low) { SendMessageA(window_.get(), message, wide, low); }
+
+    void open(HWND owner) {
+        window_.reset(CreateWindowExA(
+            WS_EX_TOPMOST, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, CW_USEDEFAULT,
+            CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, owner, nullptr, GetModuleHandleA(nullptr), nullptr));
+        constexpr LPARAM longest = 0x7fff; // Milliseconds: long texts take their time to read.
+        tell(TTM_SETDELAYTIME, TTDT_AUTOPOP, longest);
+        tell(TTM_SETMAXTIPWIDTH, 0, widestLine_);
+        TOOLINFOA tool{};
+        tool.cbSize = TTTOOLINFOA_V1_SIZE; // The form that every version of the library takes.
+        tool.uFlags = TTF_IDISHWND | TTF_TRANSPARENT;
+        tool.hwnd = owner;
+        tool.uId = reinterpret_cast<UINT_PTR>(owner);
+        tool.lpszText = text_.data();
+        tell(TTM_ADDTOOLA, 0, reinterpret_cast<LPARAM>(&tool));
+        TRACKMOUSEEVENT leaving{sizeof leaving, TME_LEAVE, owner, 0};
+        TrackMouseEvent(&leaving);
+    }
 
     std::string text_;
     int widestLine_ = 0;
