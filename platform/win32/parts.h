@@ -4,6 +4,7 @@
 #include "platform/codepage.h"
 #include "platform/crypto.h"
 #include "platform/desktop.h"
+#include "platform/files.h"
 #include "platform/folders.h"
 #include "platform/power.h"
 #include "platform/processes.h"
@@ -27,5 +28,8 @@ std::unique_ptr<Shell> makeShell();
 /// Needs the component library on its thread.
 std::unique_ptr<Shortcuts> makeShortcuts();
 std::unique_ptr<SystemFolders> makeSystemFolders();
+
+/// Null when it cannot be opened.
+std::unique_ptr<OpenFile> openFile(const std::string& path, OpenMode mode);
 
 } // namespace tarvelon

@@ -1,6 +1,6 @@
 #include "platform/win32/win32_files.h"
 
-#include "platform/win32/win32_open_file.h"
+#include "platform/win32/parts.h"
 
 namespace tarvelon {
 
@@ -35,7 +35,7 @@ std::string Win32Files::nextName() {
 }
 
 std::unique_ptr<OpenFile> Win32Files::open(const std::string& path, OpenMode mode) {
-    return Win32OpenFile::open(path, mode);
+    return openFile(path, mode);
 }
 
 std::optional<std::uint64_t> Win32Files::length(const std::string& path) {

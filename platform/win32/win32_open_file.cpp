@@ -1,6 +1,9 @@
-#include "platform/win32/win32_open_file.h"
+#include "platform/win32/parts.h"
+
+#include "platform/win32/owned.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace tarvelon {
 
@@ -34,108 +37,111 @@ DWORD sharing() {
 /// The largest piece handed to one system call, whose counts have 32 bits.
 constexpr std::size_t largestPiece = std::size_t{1} << 30;
 
-} // namespace
+/// A file handle that remembers where it stands, so that reading on needs one call only.
+class Win32OpenFile : public OpenFile {
+public:
+    explicit Win32OpenFile(OwnedHandle file)
+        : file_(std::move(file)) {}
 
-std::unique_ptr<OpenFile> Win32OpenFile::open(const std::string& path, OpenMode mode) {
-    const OpenArguments arguments = argumentsFor(mode);
-    const HANDLE file = CreateFileA(path.c_str(), arguments.access, sharing(), nullptr, arguments.disposition,
-                                    arguments.flags, nullptr);
-    if (file == INVALID_HANDLE_VALUE) {
-        return nullptr;
-    }
-    return std::make_unique<Win32OpenFile>(file);
-}
-
-Win32OpenFile::~Win32OpenFile() {
-    CloseHandle(file_);
-}
-
-std::optional<std::uint64_t> Win32OpenFile::length() {
-    DWORD high = 0;
-    SetLastError(NO_ERROR);
-    const DWORD low = GetFileSize(file_, &high);
-    if (low == INVALID_FILE_SIZE && GetLastError() != NO_ERROR) {
-        return std::nullopt;
-    }
-    return (std::uint64_t{high} << 32) | low;
-}
-
-std::optional<std::uint64_t> Win32OpenFile::lastWrite() {
-    FILETIME time;
-    if (!GetFileTime(file_, nullptr, nullptr, &time)) {
-        return std::nullopt;
-    }
-    return (std::uint64_t{time.dwHighDateTime} << 32) | time.dwLowDateTime;
-}
-
-/// A time that was set stays as it is when the file is closed. It is read again since some disks keep it in
-/// steps of seconds.
-std::optional<std::uint64_t> Win32OpenFile::touch() {
-    FILETIME now;
-    GetSystemTimeAsFileTime(&now);
-    return SetFileTime(file_, nullptr, nullptr, &now) ? lastWrite() : std::nullopt;
-}
-
-bool Win32OpenFile::moveTo(std::uint64_t position) {
-    if (position == position_) {
-        return true;
-    }
-    LARGE_INTEGER target;
-    target.QuadPart = static_cast<LONGLONG>(position);
-    SetLastError(NO_ERROR);
-    const DWORD low = SetFilePointer(file_, static_cast<LONG>(target.LowPart), &target.HighPart, FILE_BEGIN);
-    if (low == INVALID_SET_FILE_POINTER && GetLastError() != NO_ERROR) {
-        return false;
-    }
-    position_ = position;
-    return true;
-}
-
-std::optional<std::size_t> Win32OpenFile::readAt(std::uint64_t position, void* buffer, std::size_t count) {
-    if (!moveTo(position)) {
-        return std::nullopt;
-    }
-    std::size_t done = 0;
-    while (done < count) {
-        const DWORD piece = static_cast<DWORD>(std::min(count - done, largestPiece));
-        DWORD came = 0;
-        if (!ReadFile(file_, static_cast<char*>(buffer) + done, piece, &came, nullptr)) {
+    std::optional<std::uint64_t> length() override {
+        DWORD high = 0;
+        SetLastError(NO_ERROR);
+        const DWORD low = GetFileSize(file_.get(), &high);
+        if (low == INVALID_FILE_SIZE && GetLastError() != NO_ERROR) {
             return std::nullopt;
         }
-        done += came;
-        position_ += came;
-        if (came < piece) {
-            break;
-        }
+        return (std::uint64_t{high} << 32) | low;
     }
-    return done;
-}
 
-bool Win32OpenFile::writeAt(std::uint64_t position, std::string_view bytes) {
-    if (!moveTo(position)) {
-        return false;
+    std::optional<std::uint64_t> lastWrite() override {
+        FILETIME time;
+        if (!GetFileTime(file_.get(), nullptr, nullptr, &time)) {
+            return std::nullopt;
+        }
+        return (std::uint64_t{time.dwHighDateTime} << 32) | time.dwLowDateTime;
     }
-    while (!bytes.empty()) {
-        const DWORD piece = static_cast<DWORD>(std::min(bytes.size(), largestPiece));
-        DWORD written = 0;
-        if (!WriteFile(file_, bytes.data(), piece, &written, nullptr)) {
+
+    /// A time that was set stays as it is when the file is closed. It is read again since some disks keep it
+    /// in steps of seconds.
+    std::optional<std::uint64_t> touch() override {
+        FILETIME now;
+        GetSystemTimeAsFileTime(&now);
+        return SetFileTime(file_.get(), nullptr, nullptr, &now) ? lastWrite() : std::nullopt;
+    }
+
+    std::optional<std::size_t> readAt(std::uint64_t position, void* buffer, std::size_t count) override {
+        if (!moveTo(position)) {
+            return std::nullopt;
+        }
+        std::size_t done = 0;
+        while (done < count) {
+            const DWORD piece = static_cast<DWORD>(std::min(count - done, largestPiece));
+            DWORD came = 0;
+            if (!ReadFile(file_.get(), static_cast<char*>(buffer) + done, piece, &came, nullptr)) {
+                return std::nullopt;
+            }
+            done += came;
+            position_ += came;
+            if (came < piece) {
+                break;
+            }
+        }
+        return done;
+    }
+
+    bool writeAt(std::uint64_t position, std::string_view bytes) override {
+        if (!moveTo(position)) {
             return false;
         }
-        position_ += written;
-        if (written < piece) {
+        while (!bytes.empty()) {
+            const DWORD piece = static_cast<DWORD>(std::min(bytes.size(), largestPiece));
+            DWORD written = 0;
+            if (!WriteFile(file_.get(), bytes.data(), piece, &written, nullptr)) {
+                return false;
+            }
+            position_ += written;
+            if (written < piece) {
+                return false;
+            }
+            bytes.remove_prefix(piece);
+        }
+        return true;
+    }
+
+    bool setLength(std::uint64_t length) override {
+        return moveTo(length) && SetEndOfFile(file_.get()) != FALSE;
+    }
+
+    bool flush() override { return FlushFileBuffers(file_.get()) != FALSE; }
+
+private:
+    bool moveTo(std::uint64_t position) {
+        if (position == position_) {
+            return true;
+        }
+        LARGE_INTEGER target;
+        target.QuadPart = static_cast<LONGLONG>(position);
+        SetLastError(NO_ERROR);
+        const DWORD low =
+            SetFilePointer(file_.get(), static_cast<LONG>(target.LowPart), &target.HighPart, FILE_BEGIN);
+        if (low == INVALID_SET_FILE_POINTER && GetLastError() != NO_ERROR) {
             return false;
         }
-        bytes.remove_prefix(piece);
+        position_ = position;
+        return true;
     }
-    return true;
-}
 
-bool Win32OpenFile::setLength(std::uint64_t length) {
-    return moveTo(length) && SetEndOfFile(file_) != FALSE;
-}
+    OwnedHandle file_;
+    std::uint64_t position_ = 0;
+};
 
-bool Win32OpenFile::flush() {
-    return FlushFileBuffers(file_) != FALSE;
+} // namespace
+
+std::unique_ptr<OpenFile> openFile(const std::string& path, OpenMode mode) {
+    const OpenArguments arguments = argumentsFor(mode);
+    OwnedHandle file(validOrNull(CreateFileA(path.c_str(), arguments.access, sharing(), nullptr,
+                                             arguments.disposition, arguments.flags, nullptr)));
+    return file ? std::make_unique<Win32OpenFile>(std::move(file)) : nullptr;
 }
 
 } // namespace tarvelon
