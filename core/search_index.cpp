@@ -14,9 +14,12 @@ SearchIndex::SearchIndex(std::string text)
     }
     shift_ = 64 - bits;
     first_.assign(std::size_t{1} << bits, none);
+    sizes_.assign(first_.size(), 0);
     next_.assign(places, none);
     for (std::size_t place = places; place-- > 0;) {
-        std::uint32_t& first = first_[chainOf(text_.data() + place)];
+        const std::size_t chain = chainOf(text_.data() + place);
+        std::uint32_t& first = first_[chain];
+        ++sizes_[chain];
         next_[place] = first;
         first = static_cast<std::uint32_t>(place);
     }
@@ -26,10 +29,18 @@ std::size_t SearchIndex::find(std::string_view searched) const {
     if (searched.size() < gram) {
         return text_.find(searched);
     }
-    const std::size_t lead = searched.size() - gram;
-    for (std::uint32_t end = first_[chainOf(searched.data() + lead)]; end != none; end = next_[end]) {
-        if (end >= lead && text_.compare(end - lead, searched.size(), searched) == 0) {
-            return end - lead;
+    std::size_t lead = searched.size() - gram;
+    std::size_t chain = chainOf(searched.data() + lead);
+    for (std::size_t other = lead; other-- > 0 && sizes_[chain] > 1;) {
+        const std::size_t otherChain = chainOf(searched.data() + other);
+        if (sizes_[otherChain] < sizes_[chain]) {
+            lead = other;
+            chain = otherChain;
+        }
+    }
+    for (std::uint32_t place = first_[chain]; place != none; place = next_[place]) {
+        if (place >= lead && text_.compare(place - lead, searched.size(), searched) == 0) {
+            return place - lead;
         }
     }
     return std::string::npos;

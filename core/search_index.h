@@ -9,7 +9,7 @@
 namespace tarvelon {
 
 /// A text that does not change, for being searched thousands of times: gives exactly what `std::string::find`
-/// would give, but looks only at the places where the searched text's last eight characters stand.
+/// would give, but looks only at the places of those eight characters of the searched text that are rarest.
 class SearchIndex {
 public:
     explicit SearchIndex(std::string text);
@@ -28,6 +28,7 @@ private:
     std::string text_;
     int shift_ = 0;                    ///< Leaves as many bits of a hash as there are chains.
     std::vector<std::uint32_t> first_; ///< The first place of each chain.
+    std::vector<std::uint32_t> sizes_; ///< How many places each chain has.
     std::vector<std::uint32_t> next_;  ///< For each place, the next one of its chain.
 };
 
