@@ -122,7 +122,7 @@ std::string DataFile::entry(const Blocks& blocks, std::optional<std::size_t> num
         return {};
     }
     const std::string value = trim(blocks[*number - 1].find(globals.cases, key));
-    platform.messages.pump();
+    platform.messages.pumpInLoop();
     return value;
 }
 

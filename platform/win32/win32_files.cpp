@@ -2,10 +2,60 @@
 
 #include "platform/win32/parts.h"
 
+#include <utility>
+
 namespace tarvelon {
 
 Win32Files::~Win32Files() {
+    forgetListing();
+}
+
+std::string Win32Files::firstName(const std::string& folder) {
+    const bool namesHold = allListed_ && change_ != INVALID_HANDLE_VALUE && folder == folder_ &&
+                           WaitForSingleObject(change_, 0) == WAIT_TIMEOUT;
+    if (!namesHold) {
+        list(folder);
+    }
+    next_ = 0;
+    return nextName();
+}
+
+void Win32Files::list(const std::string& folder) {
     endListing();
+    const HANDLE changeBefore = change_;
+    change_ = INVALID_HANDLE_VALUE;
+    if (folder == folder_) {
+        // Listed twice in a row, it may well be listed again. From before the first name on no change goes
+        // unnoticed.
+        change_ = FindFirstChangeNotificationA(folder.c_str(), FALSE,
+                                               FILE_NOTIFY_CHANGE_FILE_NAME | FILE_NOTIFY_CHANGE_DIR_NAME);
+    }
+    closeChange(changeBefore);
+    folder_ = folder;
+    names_.clear();
+    allListed_ = false;
+    WIN32_FIND_DATAA found;
+    listing_ = FindFirstFileA((folder + "*").c_str(), &found);
+    if (listing_ != INVALID_HANDLE_VALUE) {
+        names_.emplace_back(found.cFileName);
+    }
+}
+
+std::string Win32Files::nextName() {
+    if (next_ < names_.size()) {
+        return names_[next_++];
+    }
+    if (listing_ == INVALID_HANDLE_VALUE) {
+        return {};
+    }
+    WIN32_FIND_DATAA found;
+    if (!FindNextFileA(listing_, &found)) {
+        endListing();
+        allListed_ = true;
+        return {};
+    }
+    ++next_;
+    return names_.emplace_back(found.cFileName);
 }
 
 void Win32Files::endListing() {
@@ -15,23 +65,19 @@ void Win32Files::endListing() {
     }
 }
 
-std::string Win32Files::firstName(const std::string& folder) {
-    endListing();
-    WIN32_FIND_DATAA found;
-    listing_ = FindFirstFileA((folder + "*").c_str(), &found);
-    return listing_ == INVALID_HANDLE_VALUE ? std::string() : found.cFileName;
+void Win32Files::closeChange(HANDLE change) {
+    if (change != INVALID_HANDLE_VALUE) {
+        FindCloseChangeNotification(change);
+    }
 }
 
-std::string Win32Files::nextName() {
-    if (listing_ == INVALID_HANDLE_VALUE) {
-        return {};
+void Win32Files::forgetListing() {
+    closeChange(std::exchange(change_, INVALID_HANDLE_VALUE));
+    if (allListed_) {
+        names_.clear();
+        next_ = 0;
+        allListed_ = false;
     }
-    WIN32_FIND_DATAA found;
-    if (!FindNextFileA(listing_, &found)) {
-        endListing();
-        return {};
-    }
-    return found.cFileName;
 }
 
 std::unique_ptr<OpenFile> Win32Files::open(const std::string& path, OpenMode mode) {

@@ -4,6 +4,8 @@
 #include "platform/win32/system_library.h"
 #include "platform/win32/windows_api.h"
 
+#include <vector>
+
 namespace tarvelon {
 
 class Win32Files : public Files {
@@ -21,11 +23,22 @@ public:
     bool searchTreeForFile(const std::string& root, const std::string& name, char* buffer) override;
     std::uint32_t getShortPathName(const std::string& path, char* buffer, std::uint32_t size) override;
 
+    /// Lets go of the folder listed last, and of its names.
+    void forgetListing();
+
 private:
+    void list(const std::string& folder);
     void endListing();
+    static void closeChange(HANDLE change);
     static bool moveAtOnce(const std::string& from, const std::string& to);
 
+    // The folder listed last. Each pass of a scan lists it; its names are asked for anew when it has changed.
+    std::string folder_;
+    std::vector<std::string> names_;
+    std::size_t next_ = 0;
+    bool allListed_ = false;
     HANDLE listing_ = INVALID_HANDLE_VALUE;
+    HANDLE change_ = INVALID_HANDLE_VALUE;   ///< Signalled when a name in the folder comes, goes or changes.
     std::optional<SystemLibrary> imageHelp_; ///< Loaded at the first search.
 };
 

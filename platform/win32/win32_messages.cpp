@@ -5,6 +5,16 @@
 
 namespace tarvelon {
 
+namespace {
+
+std::int64_t counter() {
+    LARGE_INTEGER now;
+    QueryPerformanceCounter(&now);
+    return now.QuadPart;
+}
+
+} // namespace
+
 void Win32MessageQueue::pump() {
     windows_.refreshIfDue();
     MSG message;
@@ -16,6 +26,13 @@ void Win32MessageQueue::pump() {
         }
         windows_.handle(message);
     }
+    noteIdle(QS_ALLINPUT);
+}
+
+void Win32MessageQueue::pumpInLoop() {
+    if (!knownIdle(QS_ALLINPUT)) {
+        pump();
+    }
 }
 
 void Win32MessageQueue::wait() {
@@ -25,28 +42,40 @@ void Win32MessageQueue::wait() {
 }
 
 std::uint32_t Win32MessageQueue::queueStatus(std::uint32_t flags) {
-    // The question goes through to another process on some systems, and costs as much as reading a small
-    // file.
-    constexpr LONGLONG asksInASecond = 500;
-    LARGE_INTEGER now;
-    QueryPerformanceCounter(&now);
-    if (flags == idleFlags_ && now.QuadPart < idleUntil_) {
+    if (knownIdle(flags)) {
         return 0;
     }
     const DWORD status = GetQueueStatus(flags);
-    LARGE_INTEGER second;
-    QueryPerformanceFrequency(&second);
-    idleFlags_ = flags;
-    idleUntil_ = status == 0 ? now.QuadPart + second.QuadPart / asksInASecond : 0;
+    if (status == 0) {
+        noteIdle(flags);
+    }
     return status;
 }
 
-int Win32MessageQueue::run() {
+bool Win32MessageQueue::knownIdle(std::uint32_t flags) const {
+    return (flags & ~idleFlags_) == 0 && counter() < idleUntil_;
+}
+
+/// A question goes through to another process on some systems, and costs as much as reading a small file.
+void Win32MessageQueue::noteIdle(std::uint32_t flags) {
+    constexpr std::int64_t asksInASecond = 300;
+    LARGE_INTEGER second;
+    QueryPerformanceFrequency(&second);
+    idleFlags_ = flags;
+    idleUntil_ = counter() + second.QuadPart / asksInASecond;
+}
+
+int Win32MessageQueue::run(const std::function<void()>& rest) {
     MSG message;
     while (GetMessageA(&message, nullptr, 0, 0) > 0) {
         windows_.handle(message);
         const bool moreWaits = HIWORD(GetQueueStatus(QS_ALLINPUT)) != 0;
-        moreWaits ? windows_.refreshIfDue() : windows_.refresh();
+        if (moreWaits) {
+            windows_.refreshIfDue();
+        } else {
+            windows_.refresh();
+            rest();
+        }
     }
     return static_cast<int>(message.wParam);
 }

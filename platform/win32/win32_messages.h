@@ -2,6 +2,8 @@
 
 #include "platform/messages.h"
 
+#include <functional>
+
 namespace tarvelon {
 
 class WindowHost;
@@ -13,13 +15,18 @@ public:
         : windows_(windows) {}
 
     void pump() override;
+    void pumpInLoop() override;
     void wait() override;
     std::uint32_t queueStatus(std::uint32_t flags) override;
 
-    /// Handles messages until the thread is told to quit, and gives the exit code.
-    int run();
+    /// Handles messages until the thread is told to quit, and gives the exit code. Calls `rest` when the
+    /// program has nothing to do.
+    int run(const std::function<void()>& rest);
 
 private:
+    bool knownIdle(std::uint32_t flags) const;
+    void noteIdle(std::uint32_t flags);
+
     WindowHost& windows_;
     std::int64_t idleUntil_ = 0; ///< The performance counter until which nothing need be asked anew.
     std::uint32_t idleFlags_ = 0;

@@ -20,7 +20,9 @@ public:
     Platform platform();
 
     /// Handles messages until the process ends or the thread is told to quit; gives the exit code.
-    int runMessageLoop() { return messages_.run(); }
+    int runMessageLoop() {
+        return messages_.run([this] { files_.forgetListing(); });
+    }
 
 private:
     std::unique_ptr<CodePage> codePage_ = makeCodePage();
