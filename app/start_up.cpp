@@ -73,7 +73,7 @@ void StartUp::actOnCommandLine() {
 void StartUp::checkAtLogOn() {
     app_.globals.app.autoLoadRun = true;
     app_.mForm1.hide();
-    passOver([this] { app_.intCheck.show(); });
+    passOver([this] { app_.intCheck.showMinimized(); });
     try {
         app_.scan.LoadUp();
     } catch (const Failure& failure) {

@@ -159,6 +159,7 @@ int main(int count, char** arguments) {
         std::printf("%.3f\n", program.opened());
         return 0;
     }
+    Sleep(500); // The user has a look at the window first.
     for (const char* entry : {"RegWatch", "AppWatch", "Options", "Integrity Scan"}) {
         std::printf("%.3f ", program.switchTo(entry));
     }

@@ -30,26 +30,33 @@ ControlWindow* ControlWindow::from(HWND window) {
     return ours ? reinterpret_cast<ControlWindow*>(GetWindowLongPtrA(window, GWLP_USERDATA)) : nullptr;
 }
 
-void ControlWindow::create(HWND parent, int id) {
-    const DWORD state = (control_.Visible() ? WS_VISIBLE : 0) | (control_.Enabled() ? 0 : WS_DISABLED);
+void ControlWindow::create(HWND parent, int id, bool beginsGroup) {
+    const DWORD state = (control_.Visible() ? WS_VISIBLE : 0) | (control_.Enabled() ? 0 : WS_DISABLED) |
+                        (beginsGroup ? WS_GROUP : 0);
+    const RECT place = scale()(control_.place());
     window_ = CreateWindowExA(kind_.extendedStyle, kind_.windowClass, control_.captionOrName().c_str(),
-                              WS_CHILD | WS_CLIPSIBLINGS | kind_.style | state, 0, 0, 0, 0, parent,
+                              WS_CHILD | WS_CLIPSIBLINGS | kind_.style | state, place.left, place.top,
+                              widthOf(place), heightOf(place), parent,
                               reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleA(nullptr),
                               nullptr);
     SetWindowLongPtrA(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
     classProcedure_ = reinterpret_cast<WNDPROC>(
         SetWindowLongPtrA(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure)));
-    arrange();
+    setTypeSize();
     applyItems(Aspect::Items);
     applyValue();
     applyToolTip();
-    form_.refreshLater(*this);
+    follow();
 }
 
 void ControlWindow::arrange() {
     const RECT place = scale()(control_.place());
     SetWindowPos(window_, nullptr, place.left, place.top, widthOf(place), heightOf(place),
                  SWP_NOZORDER | SWP_NOACTIVATE);
+    setTypeSize();
+}
+
+void ControlWindow::setTypeSize() {
     handleAsClass(WM_SETFONT, reinterpret_cast<WPARAM>(normalFont()), FALSE);
     arranged();
 }
@@ -95,6 +102,7 @@ void ControlWindow::changed(Aspect aspect) {
 }
 
 void ControlWindow::refresh() {
+    follow();
     if (kind_.textIsCaption) {
         // The system keeps a copy for those who read it without asking; no drawing comes of this.
         DefWindowProcA(window_, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(control_.captionOrName().c_str()));

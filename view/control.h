@@ -39,15 +39,15 @@ public:
     ControlWindow(const ControlWindow&) = delete;
     virtual ~ControlWindow() = default;
 
-    /// Makes the window, inside the frame's or the form's.
-    void create(HWND parent, int id);
-    /// Moves the window to its place and sets its type size, after creation and when the scale has changed.
+    /// Makes the window, inside the frame's or the form's. The arrow keys do not leave a group.
+    void create(HWND parent, int id, bool beginsGroup);
+    /// Moves the window to its place and sets its type size, when the scale has changed.
     void arrange();
 
     /// The control has changed. What other programs and the keyboard can see is done at once.
     void changed(Aspect aspect);
     /// Shows the gathered changes.
-    virtual void refresh();
+    void refresh();
 
     HWND window() const { return window_; }
     Control& control() const { return control_; }
@@ -86,6 +86,9 @@ protected:
     virtual void applyValue() {}
     virtual void applyItems(Aspect) {}
     virtual void applyToolTip() {}
+    /// Has a class that keeps more than a caption keep what the control has by now.
+    virtual void follow() {}
+    /// The place or the type size is a new one.
     virtual void arranged() {}
 
     const Scale& scale() const;
@@ -135,6 +138,7 @@ protected:
 
 private:
     static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wide, LPARAM low);
+    void setTypeSize();
     HFONT normalFont() const;
     void paintNow();
 

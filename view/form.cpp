@@ -1,5 +1,6 @@
 #include "view/form.h"
 
+#include "platform/win32/common_controls.h"
 #include "platform/win32/foremost.h"
 #include "view/create.h"
 
@@ -61,25 +62,41 @@ SIZE FormWindow::outerSize() const {
     return {widthOf(frame), heightOf(frame)};
 }
 
-/// Called when the form first comes to light: a run that never shows it does not pay for its windows.
-void FormWindow::createControls() {
+/// Makes the windows of the controls in a frame, or of those in none, unless they are there.
+void FormWindow::createControls(const Frame* within) {
+    if (!created_.insert(within).second) {
+        return;
+    }
+    needCommonControls();
+    const HWND parent = within ? windowOf(*within)->window() : window();
+    std::optional<ControlKind> before;
     int id = firstControlId;
-    std::unordered_map<const Frame*, std::optional<ControlKind>> before;
     for (Control* control : screen_.controls()) {
-        if (control->kind() == ControlKind::Timer) {
+        const int own = id++;
+        if (control->kind() == ControlKind::Timer || control->frame() != within) {
             continue;
         }
-        const ControlWindow* frame = control->frame() ? windowOf(*control->frame()) : nullptr;
         ControlWindow& made = *(controls_[control] = makeControlWindow(*this, *control));
-        made.create(frame ? frame->window() : window(), id++);
         // The arrow keys go round among neighbours of one kind; what takes no keys is a group of its own.
-        std::optional<ControlKind>& previous = before[control->frame()];
         const auto group = made.takesKeys() ? std::optional(control->kind()) : std::nullopt;
-        if (!group || group != previous) {
-            made.setStyle(WS_GROUP, true);
+        made.create(parent, own, !group || group != before);
+        before = group;
+        if (control->kind() == ControlKind::Frame && control->Visible()) {
+            createControls(static_cast<const Frame*>(control));
         }
-        previous = group;
     }
+}
+
+bool FormWindow::makeReady() {
+    for (const Control* control : screen_.controls()) {
+        const bool isFrame = control->kind() == ControlKind::Frame && windowOf(*control);
+        const auto* frame = isFrame ? static_cast<const Frame*>(control) : nullptr;
+        if (frame && !created_.contains(frame)) {
+            createControls(frame);
+            return true;
+        }
+    }
+    return false;
 }
 
 ControlWindow* FormWindow::windowOf(const Control& control) const {
@@ -120,6 +137,9 @@ void FormWindow::changed(Control& control, Aspect aspect) {
     if (control.kind() == ControlKind::Timer) {
         applyTimer(control);
     } else if (ControlWindow* window = windowOf(control)) {
+        if (control.kind() == ControlKind::Frame && control.Visible()) {
+            createControls(static_cast<const Frame*>(&control));
+        }
         window->changed(aspect);
     }
 }
@@ -129,8 +149,8 @@ void FormWindow::applyVisible() {
         ShowWindow(window(), SW_HIDE);
         return;
     }
-    if (controls_.empty()) {
-        createControls();
+    if (blocked_ || !screen_.Minimized()) {
+        createControls(nullptr);
     }
     if (blocked_) {
         SetWindowPos(window(), foremostUsable(), 0, 0, 0, 0,

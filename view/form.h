@@ -4,6 +4,7 @@
 
 #include <memory>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 namespace tarvelon {
@@ -25,6 +26,8 @@ public:
     void refresh();
     /// The same, unless that was less than a thirtieth of a second ago.
     void refreshIfDue();
+    /// Makes the controls of a page that has not been shown yet; false when all have been made.
+    bool makeReady();
     /// Notes that a control's window is to be refreshed.
     void refreshLater(ControlWindow& window);
 
@@ -52,7 +55,7 @@ private:
     LRESULT handle(UINT message, WPARAM wide, LPARAM low);
 
     void createWindow();
-    void createControls();
+    void createControls(const Frame* within);
     void applyVisible();
     void applyMinimized();
     void bringToFront();
@@ -73,7 +76,10 @@ private:
     bool blocked_ = false;
     const ControlWindow* emptied_ = nullptr;
     const Control* pageShown_ = nullptr; ///< The frame that came to light last.
+    // What is never shown costs nothing: windows are made when their frame first comes to light, or when the
+    // program rests.
     std::unordered_map<const Control*, std::unique_ptr<ControlWindow>> controls_;
+    std::unordered_set<const Frame*> created_; ///< The controls in these have windows; null for the form.
 
     std::vector<ControlWindow*> waiting_; ///< To be refreshed.
     bool captionWaits_ = false;

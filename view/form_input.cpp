@@ -45,6 +45,10 @@ LRESULT FormWindow::handle(UINT message, WPARAM wide, LPARAM low) {
         return 0;
     case WM_SIZE:
         screen_.Minimized = wide == SIZE_MINIMIZED;
+        if (screen_.Visible() && wide != SIZE_MINIMIZED && created_.empty()) {
+            createControls(nullptr);
+            focusLost_ = true; // It came to the front with nothing in it.
+        }
         return 0;
     case WM_ACTIVATE:
         DefWindowProcA(window(), message, wide, low);

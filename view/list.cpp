@@ -44,11 +44,6 @@ public:
         }
     }
 
-    void refresh() override {
-        followRows();
-        ControlWindow::refresh();
-    }
-
     /// Draws one row, in one piece.
     void drawRow(const DRAWITEMSTRUCT& item) override {
         const int row = static_cast<int>(item.itemID);
@@ -75,13 +70,13 @@ public:
 protected:
     LRESULT handle(UINT message, WPARAM wide, LPARAM low) override {
         if (message >= messages_.first && message <= messages_.last) {
-            followRows();
+            follow();
         }
         return ControlWindow::handle(message, wide, low);
     }
 
     void applyValue() override {
-        followRows();
+        follow();
         handleAsClass(messages_.setSelected, static_cast<WPARAM>(control().listIndex()), 0);
     }
 
@@ -106,7 +101,7 @@ protected:
     virtual void rowsAdded(int) {}
 
 private:
-    void followRows() {
+    void follow() override {
         if (!std::exchange(stale_, false)) {
             return;
         }

@@ -12,12 +12,7 @@ class ProgressBarWindow : public WindowOf<ProgressBar> {
 public:
     using WindowOf::WindowOf;
 
-    void refresh() override {
-        arranged();
-        ControlWindow::refresh();
-    }
-
-    void arranged() override {
+    void follow() override {
         // For those who ask the window itself how far it is.
         handleAsClass(PBM_SETRANGE32, 0, control().max());
         handleAsClass(PBM_SETPOS, static_cast<WPARAM>(control().value()), 0);

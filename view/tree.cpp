@@ -32,10 +32,9 @@ public:
         }
     }
 
-    void refresh() override {
+    void follow() override {
         colour();
         followNodes();
-        ControlWindow::refresh();
     }
 
     LRESULT handle(UINT message, WPARAM wide, LPARAM low) override {

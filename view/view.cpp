@@ -2,8 +2,6 @@
 
 #include "view/form.h"
 
-#include <commctrl.h>
-
 #include <algorithm>
 
 namespace tarvelon {
@@ -34,8 +32,6 @@ void registerWindowClasses() {
 
 Win32View::Win32View()
     : tools_(std::make_unique<ViewTools>()) {
-    const INITCOMMONCONTROLSEX wanted{sizeof wanted, ICC_PROGRESS_CLASS | ICC_TREEVIEW_CLASSES};
-    InitCommonControlsEx(&wanted);
     registerWindowClasses();
 }
 
@@ -106,6 +102,10 @@ void Win32View::refreshIfDue() {
     for (const auto& form : forms_) {
         form->refreshIfDue();
     }
+}
+
+bool Win32View::makeReady() {
+    return std::any_of(forms_.begin(), forms_.end(), [](const auto& form) { return form->makeReady(); });
 }
 
 } // namespace tarvelon

@@ -31,6 +31,7 @@ public:
     void unblock() override;
     void refresh() override;
     void refreshIfDue() override;
+    bool makeReady() override;
 
 private:
     FormWindow* formOf(const Screen& screen) const;

@@ -1,5 +1,6 @@
 #include "platform/win32/win32_dialogs.h"
 
+#include "platform/win32/common_controls.h"
 #include "platform/win32/foremost.h"
 #include "platform/win32/shell_items.h"
 #include "platform/win32/window_host.h"
@@ -58,6 +59,7 @@ public:
         : windows_(windows)
         , isActive_(GetActiveWindow() != nullptr)
         , window_(foremostUsable()) {
+        needCommonControls();
         windows_.block(window_);
     }
     Owner(const Owner&) = delete;
@@ -97,7 +99,11 @@ bool Win32Dialogs::getOpenFileName(OpenFileRecord& record) {
     request.nMaxFile = record.maxFile;
     request.lpstrTitle = record.title.empty() ? nullptr : record.title.c_str();
     request.Flags = record.flags;
-    return GetOpenFileNameA(&request) != FALSE;
+    if (!commonDialogs_) {
+        commonDialogs_.emplace("comdlg32.dll");
+    }
+    const auto ask = commonDialogs_->find<BOOL WINAPI(OPENFILENAMEA*)>("GetOpenFileNameA");
+    return ask && ask(&request) != FALSE;
 }
 
 bool Win32Dialogs::browseForFolder(const std::string& title, std::uint32_t flags, char* buffer) {

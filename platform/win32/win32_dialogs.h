@@ -1,6 +1,9 @@
 #pragma once
 
 #include "platform/dialogs.h"
+#include "platform/win32/system_library.h"
+
+#include <optional>
 
 namespace tarvelon {
 
@@ -18,6 +21,7 @@ public:
 
 private:
     WindowHost& windows_;
+    std::optional<SystemLibrary> commonDialogs_; ///< Loaded at the first question for a file.
 };
 
 } // namespace tarvelon

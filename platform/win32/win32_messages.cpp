@@ -13,6 +13,10 @@ std::int64_t counter() {
     return now.QuadPart;
 }
 
+bool anythingWaits() {
+    return HIWORD(GetQueueStatus(QS_ALLINPUT)) != 0;
+}
+
 } // namespace
 
 void Win32MessageQueue::pump() {
@@ -69,12 +73,13 @@ int Win32MessageQueue::run(const std::function<void()>& rest) {
     MSG message;
     while (GetMessageA(&message, nullptr, 0, 0) > 0) {
         windows_.handle(message);
-        const bool moreWaits = HIWORD(GetQueueStatus(QS_ALLINPUT)) != 0;
-        if (moreWaits) {
+        if (anythingWaits()) {
             windows_.refreshIfDue();
-        } else {
-            windows_.refresh();
-            rest();
+            continue;
+        }
+        windows_.refresh();
+        rest();
+        while (!anythingWaits() && windows_.makeReady()) {
         }
     }
     return static_cast<int>(message.wParam);

@@ -19,6 +19,8 @@ public:
     virtual void refresh() = 0;
     /// The same, as often as the eye can follow.
     virtual void refreshIfDue() = 0;
+    /// Makes the next piece of what may be shown later; false when there is no more to make.
+    virtual bool makeReady() = 0;
 };
 
 } // namespace tarvelon

@@ -43,6 +43,12 @@ void Screen::show() {
     Visible = true;
 }
 
+void Screen::showMinimized() {
+    load();
+    Minimized = true;
+    Visible = true;
+}
+
 void Screen::hide() {
     load();
     hiddenWhileLoading_ = hiddenWhileLoading_ || loading_;

@@ -42,6 +42,8 @@ public:
     /// Brings the screen to light, at its full size and in front of all others, also when it is shown
     /// already.
     void show();
+    /// Brings it to light as an icon.
+    void showMinimized();
     /// A screen that is hidden by its own load handler stays hidden.
     void hide();
     /// True when the load handler, or something it called, asked for the screen to stay unseen.
