@@ -18,7 +18,7 @@ inline constexpr std::array<KnownScanner, 16> knownScanners{
      {"AVAST32 (All Operating Systems)", "quick32.exe"},
      {"AVG (All Operating Systems)", "avgse.exe"},
      {"EZ Anti-Virus (All Operating Systems)", "vet98.exe"},
-     {"Fix-It FuncMod (All OS)", "AVCmd.exe"},
+     {"Fix-It Utilities (All OS)", "AVCmd.exe"},
      {"F-Prot (All Operating Systems)", "fpcmd.exe"},
      {"H+BDEV AntiVir (Personal Edition - All OS)", "avwin.exe"},
      {"Kaspersky 3.0 (All Operating Systems)", "avp32.exe"},
