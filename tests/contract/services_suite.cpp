@@ -46,8 +46,7 @@ TEST_F(Contract, KeyContainersAndDigests) {
     EXPECT_FALSE(crypto.acquireContext(provider, "", enhanced, rsaFull, 0)) << "There is none yet";
     EXPECT_TRUE(crypto.acquireContext(provider, "", enhanced, rsaFull, newKeyset));
     EXPECT_FALSE(crypto.acquireContext(provider, "", enhanced, rsaFull, newKeyset)) << "It exists now";
-    EXPECT_TRUE(crypto.acquireContext(provider, std::string(1, '\0'), base, rsaFull, 0))
-        << "The providers share it";
+    EXPECT_TRUE(crypto.acquireContext(provider, std::string(1, '\0'), base, rsaFull, 0)) << "Shared";
     EXPECT_FALSE(crypto.acquireContext(provider, "", "No Such Provider", rsaFull, 0));
     EXPECT_FALSE(crypto.acquireContext(provider, "", enhanced, 24, 0)) << "Another type";
 

@@ -43,8 +43,7 @@ TEST(ProfileImage, ReadsAsTheSystemDoesAndWritesOneLine) {
         profile.write("A", odd, "v");
         EXPECT_EQ(profile.read("A", odd), "v") << "Any name that was written is found again";
     }
-    EXPECT_EQ(profile.text(), "[A]\r\nk=1\r\nx=v\r\n;=v\r\n[0]=v\r\n[=v\r\n=v\r\n")
-        << "The torn line end is whole";
+    EXPECT_EQ(profile.text(), "[A]\r\nk=1\r\nx=v\r\n;=v\r\n[0]=v\r\n[=v\r\n=v\r\n") << "The torn line end";
     profile.write("A", "k", "1\r\n[B]\r\nb=2");
     EXPECT_EQ(profile.read("A", "k"), "1") << "A value of several lines reads as it will from the disk";
     EXPECT_EQ(profile.read("B", "b"), "2");
@@ -101,8 +100,7 @@ TEST_F(SettingsTest, AFailedWriteLosesNothing) {
     EXPECT_EQ(content(), before) << "A shorter text is put back, too";
     pc.faults.failNth(SetLength, 1);
     settings.writeEntry(path, "long", "", "A");
-    EXPECT_EQ(content(), "[A]\r\nk=1\r\nlong=\r\n" + std::string(10, '\n'))
-        << "Nothing of the old text stays";
+    EXPECT_EQ(content(), "[A]\r\nk=1\r\nlong=\r\n" + std::string(10, '\n')) << "No old text";
     settings.writeEntry(path, "long", "0123456789", "A");
     EXPECT_EQ(content().find("0123456789"), content().rfind("0123456789"));
     pc.faults.failNth(LastWrite, 1);

@@ -39,8 +39,7 @@ TEST(Text, IsFoundByTheFastSearchesWhereAPlainOneFindsIt) {
 
 TEST(Text, IsCutInPieces) {
     EXPECT_EQ(getBetween(cases, "a=1\r\na=2\r\n", 2, "A=", "\r\n"), "2");
-    EXPECT_EQ(getBetween(cases, "xABx", 1, "AB", "B"), "")
-        << "the right one is looked for behind the left one";
+    EXPECT_EQ(getBetween(cases, "xABx", 1, "AB", "B"), "") << "the right one behind the left one";
     EXPECT_EQ(getBetween(cases, "a=1\r\n", 0, "a=", "\r\n"), "");
     EXPECT_EQ(behindProgramName("\"C:\\Program Files\\x.exe\" \t/r "), "/r ");
     EXPECT_EQ(behindProgramName("x.exe\t/r"), "/r");
