@@ -209,21 +209,32 @@ void FormWindow::refreshLater(ControlWindow& window) {
         window.waitsForRefresh = true;
         waiting_.push_back(&window);
     }
-    refreshIfDue();
+    // Not the focus: what has gone may have something come in its place yet.
+    if (isDue()) {
+        showChanges();
+    }
+    wakeIfAnythingWaits();
+}
+
+bool FormWindow::isDue() const {
+    return GetTickCount() - refreshedAt_ >= refreshEvery;
+}
+
+bool FormWindow::wakeIfAnythingWaits() {
+    const bool waits = !waiting_.empty() || captionWaits_ || focusLost_ || emptied_;
+    if (waits && !timerRuns_) {
+        timerRuns_ = SetTimer(window(), refreshTimer, refreshEvery, nullptr) != 0;
+    }
+    return waits;
 }
 
 void FormWindow::refreshIfDue() {
-    if (waiting_.empty() && !captionWaits_ && !focusLost_) {
-        return;
-    }
-    if (GetTickCount() - refreshedAt_ >= refreshEvery) {
+    if (wakeIfAnythingWaits() && isDue()) {
         refresh();
-    } else if (!timerRuns_) {
-        timerRuns_ = SetTimer(window(), refreshTimer, refreshEvery, nullptr) != 0;
     }
 }
 
-void FormWindow::refresh() {
+void FormWindow::showChanges() {
     refreshedAt_ = GetTickCount();
     if (captionWaits_) {
         captionWaits_ = false;
@@ -233,8 +244,11 @@ void FormWindow::refresh() {
         window->waitsForRefresh = false;
         window->refresh();
     }
-    if (focusLost_) {
-        focusLost_ = false;
+}
+
+void FormWindow::refresh() {
+    showChanges();
+    if (std::exchange(focusLost_, false)) {
         giveFocus();
     }
     const ControlWindow* emptied = std::exchange(emptied_, nullptr);

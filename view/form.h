@@ -55,6 +55,9 @@ private:
     LRESULT handle(UINT message, WPARAM wide, LPARAM low);
 
     void createWindow();
+    bool isDue() const;
+    bool wakeIfAnythingWaits();
+    void showChanges();
     void createControls(const Frame* within);
     void applyVisible();
     void applyMinimized();

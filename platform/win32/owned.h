@@ -22,6 +22,7 @@ using Owned = std::unique_ptr<std::remove_pointer_t<Handle>, FreedBy<call>>;
 
 using OwnedHandle = Owned<HANDLE, CloseHandle>;
 using OwnedListing = Owned<HANDLE, FindClose>;
+using OwnedChange = Owned<HANDLE, FindCloseChangeNotification>;
 using OwnedLibrary = Owned<HMODULE, FreeLibrary>;
 using OwnedWindow = Owned<HWND, DestroyWindow>;
 using OwnedBrush = Owned<HBRUSH, DeleteObject>;

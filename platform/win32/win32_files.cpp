@@ -6,13 +6,9 @@
 
 namespace tarvelon {
 
-Win32Files::~Win32Files() {
-    forgetListing();
-}
-
 std::string Win32Files::firstName(const std::string& folder) {
-    const bool namesHold = allListed_ && change_ != INVALID_HANDLE_VALUE && folder == folder_ &&
-                           WaitForSingleObject(change_, 0) == WAIT_TIMEOUT;
+    const bool namesHold =
+        allListed_ && change_ && folder == folder_ && WaitForSingleObject(change_.get(), 0) == WAIT_TIMEOUT;
     if (!namesHold) {
         list(folder);
     }
@@ -21,22 +17,20 @@ std::string Win32Files::firstName(const std::string& folder) {
 }
 
 void Win32Files::list(const std::string& folder) {
-    endListing();
-    const HANDLE changeBefore = change_;
-    change_ = INVALID_HANDLE_VALUE;
+    OwnedChange change;
     if (folder == folder_) {
         // Listed twice in a row, it may well be listed again. From before the first name on no change goes
         // unnoticed.
-        change_ = FindFirstChangeNotificationA(folder.c_str(), FALSE,
-                                               FILE_NOTIFY_CHANGE_FILE_NAME | FILE_NOTIFY_CHANGE_DIR_NAME);
+        change.reset(validOrNull(FindFirstChangeNotificationA(
+            folder.c_str(), FALSE, FILE_NOTIFY_CHANGE_FILE_NAME | FILE_NOTIFY_CHANGE_DIR_NAME)));
     }
-    closeChange(changeBefore);
+    change_ = std::move(change);
     folder_ = folder;
     names_.clear();
     allListed_ = false;
     WIN32_FIND_DATAA found;
-    listing_ = FindFirstFileA((folder + "*").c_str(), &found);
-    if (listing_ != INVALID_HANDLE_VALUE) {
+    listing_.reset(validOrNull(FindFirstFileA((folder + "*").c_str(), &found)));
+    if (listing_) {
         names_.emplace_back(found.cFileName);
     }
 }
@@ -45,12 +39,12 @@ std::string Win32Files::nextName() {
     if (next_ < names_.size()) {
         return names_[next_++];
     }
-    if (listing_ == INVALID_HANDLE_VALUE) {
+    if (!listing_) {
         return {};
     }
     WIN32_FIND_DATAA found;
-    if (!FindNextFileA(listing_, &found)) {
-        endListing();
+    if (!FindNextFileA(listing_.get(), &found)) {
+        listing_.reset();
         allListed_ = true;
         return {};
     }
@@ -58,21 +52,8 @@ std::string Win32Files::nextName() {
     return names_.emplace_back(found.cFileName);
 }
 
-void Win32Files::endListing() {
-    if (listing_ != INVALID_HANDLE_VALUE) {
-        FindClose(listing_);
-        listing_ = INVALID_HANDLE_VALUE;
-    }
-}
-
-void Win32Files::closeChange(HANDLE change) {
-    if (change != INVALID_HANDLE_VALUE) {
-        FindCloseChangeNotification(change);
-    }
-}
-
 void Win32Files::forgetListing() {
-    closeChange(std::exchange(change_, INVALID_HANDLE_VALUE));
+    change_.reset();
     if (allListed_) {
         names_.clear();
         next_ = 0;

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/files.h"
+#include "platform/win32/owned.h"
 #include "platform/win32/system_library.h"
-#include "platform/win32/windows_api.h"
 
 #include <vector>
 
@@ -10,9 +10,6 @@ namespace tarvelon {
 
 class Win32Files : public Files {
 public:
-    Win32Files() = default;
-    ~Win32Files() override;
-
     std::string firstName(const std::string& folder) override;
     std::string nextName() override;
     std::unique_ptr<OpenFile> open(const std::string& path, OpenMode mode) override;
@@ -28,8 +25,6 @@ public:
 
 private:
     void list(const std::string& folder);
-    void endListing();
-    static void closeChange(HANDLE change);
     static bool moveAtOnce(const std::string& from, const std::string& to);
 
     // The folder listed last. Each pass of a scan lists it; its names are asked for anew when it has changed.
@@ -37,8 +32,8 @@ private:
     std::vector<std::string> names_;
     std::size_t next_ = 0;
     bool allListed_ = false;
-    HANDLE listing_ = INVALID_HANDLE_VALUE;
-    HANDLE change_ = INVALID_HANDLE_VALUE;   ///< Signalled when a name in the folder comes, goes or changes.
+    OwnedListing listing_;
+    OwnedChange change_;                     ///< Signalled when a name in the folder comes, goes or changes.
     std::optional<SystemLibrary> imageHelp_; ///< Loaded at the first search.
 };
 

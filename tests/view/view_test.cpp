@@ -243,12 +243,13 @@ TEST_F(View, ButtonsArePressedByMouseKeysAndOtherPrograms) {
 TEST_F(View, KeysGoOnlyToWhatIsSeen) {
     SetFocus(windowOf(screen.check));
     screen.check.Visible = screen.navigation.Visible = false;
-    pumpFor(60);
+    pumpFor(90);
     EXPECT_EQ(GetFocus(), windowOf(screen.step)) << "The first that takes them";
 
     // The character of the key comes behind the click, to a button that is hidden by then.
     screen.button.onClick = [&] {
         screen.page.Visible = false;
+        screen.plain.Caption = "Other"; // Drawn before all of the page is there.
         screen.navigation.Visible = true;
     };
     SetFocus(windowOf(screen.button));
@@ -272,14 +273,13 @@ TEST_F(View, KeysGoOnlyToWhatIsSeen) {
     GetWindowRect(windowOf(screen.lit), &place);
     EXPECT_EQ(ask(screen.lit, WM_NCHITTEST, 0, MAKELPARAM(place.left + 32, place.top + 32)), HTCLIENT);
     EXPECT_EQ(ask(screen.lit, WM_NCHITTEST, 0, MAKELPARAM(place.left + 2, place.top + 2)), HTTRANSPARENT);
-    EXPECT_FALSE(isTabStop(screen.lit));
     for (const bool usable : {false, true}) {
         screen.navigation.Visible = usable;
         screen.plain.Enabled = usable;
         pumpFor(60);
         EXPECT_EQ(GetFocus(), usable ? windowOf(screen.entry) : form) << "As soon as something takes them";
     }
-    EXPECT_FALSE(IsWindowVisible(windowOf(screen.lit)));
+    EXPECT_FALSE(IsWindowVisible(windowOf(screen.lit)) || isTabStop(screen.lit));
 }
 
 TEST_F(View, RowsFollowAndAreChosen) {
