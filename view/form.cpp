@@ -88,15 +88,15 @@ void FormWindow::createControls(const Frame* within) {
 }
 
 bool FormWindow::makeReady() {
-    for (const Control* control : screen_.controls()) {
-        const bool isFrame = control->kind() == ControlKind::Frame && windowOf(*control);
-        const auto* frame = isFrame ? static_cast<const Frame*>(control) : nullptr;
-        if (frame && !created_.contains(frame)) {
-            createControls(frame);
-            return true;
-        }
+    const auto found = std::ranges::find_if(screen_.controls(), [this](const Control* control) {
+        return control->kind() == ControlKind::Frame && windowOf(*control) &&
+               !created_.contains(static_cast<const Frame*>(control));
+    });
+    if (found == screen_.controls().end()) {
+        return false;
     }
-    return false;
+    createControls(static_cast<const Frame*>(*found));
+    return true;
 }
 
 ControlWindow* FormWindow::windowOf(const Control& control) const {
