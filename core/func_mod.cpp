@@ -19,9 +19,6 @@ std::string cutAtZero(const std::string& buffer) {
     return buffer.substr(0, buffer.find('\0'));
 }
 
-// The system's path calls write up to this many characters, whatever less is kept of them.
-constexpr std::size_t longestPath = 260;
-
 } // namespace
 
 bool FuncMod::fileThere(const std::string& path) const {
@@ -36,13 +33,13 @@ std::string FuncMod::getSysDir() const {
 }
 
 std::string FuncMod::getWinDir() const {
-    std::string buffer(longestPath, '\0');
+    std::string buffer(SystemFolders::pathRoom, '\0');
     platform_.folders.getWindowsDirectory(buffer.data(), static_cast<std::uint32_t>(buffer.size()));
     return buffer.find('\0') == std::string::npos ? std::string() : withBackslash(cutAtZero(buffer));
 }
 
 std::string FuncMod::getSpecialFolder(int id) const {
-    std::string buffer(longestPath, '\0');
+    std::string buffer(SystemFolders::pathRoom, '\0');
     platform_.folders.getSpecialFolderPath(id, buffer.data());
     buffer.resize(255);
     const std::string folder = trim(cutAtZero(buffer));
@@ -68,7 +65,7 @@ std::string FuncMod::openFileBox(const std::string& title, const std::string& fi
 
 std::string FuncMod::browseFolder(const std::string& title) const {
     constexpr std::uint32_t fileSystemFoldersOnly = 1;
-    std::string buffer(longestPath, '\0');
+    std::string buffer(SystemFolders::pathRoom, '\0');
     if (!platform_.dialogs.browseForFolder(title, fileSystemFoldersOnly, buffer.data())) {
         return {};
     }

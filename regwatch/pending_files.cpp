@@ -55,13 +55,9 @@ std::vector<PendingFile> wininitEntries(const CaseRules& cases, Platform& platfo
 }
 
 std::vector<std::optional<std::string>> pendingRenames(const CaseRules& cases, Platform& platform) {
-    std::string value;
-    {
-        RegClass key(platform.registry);
-        key.OpenRegistry(Registry::localMachine, R"(System\CurrentControlSet\Control\Session Manager)");
-        value = key.GetValue("PendingfileRenameOperations");
-        key.CloseRegistry();
-    }
+    const std::string value =
+        valueOf(platform.registry, Registry::localMachine,
+                R"(System\CurrentControlSet\Control\Session Manager)", "PendingfileRenameOperations");
     const std::vector<std::string> elements = splitAt(value, R"(\??\)");
     std::vector<std::optional<std::string>> files;
     if (elements.size() == 1) {

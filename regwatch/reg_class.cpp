@@ -118,4 +118,13 @@ bool RegClass::CloseRegistry() {
     return true;
 }
 
+std::string valueOf(Registry& registry, Registry::Key root, const std::string& subKey,
+                    const std::string& name) {
+    RegClass key(registry);
+    key.OpenRegistry(root, subKey);
+    std::string value = key.GetValue(name);
+    key.CloseRegistry();
+    return value;
+}
+
 } // namespace tarvelon

@@ -57,4 +57,8 @@ private:
     bool open_ = false;
 };
 
+/// One value as `GetValue` gives it, of a key that is opened and closed for it.
+std::string valueOf(Registry& registry, Registry::Key root, const std::string& subKey,
+                    const std::string& name);
+
 } // namespace tarvelon

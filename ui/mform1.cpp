@@ -160,14 +160,9 @@ void MForm1::writeToSupport() {
 }
 
 void MForm1::checkForUpdates() {
-    std::string folder;
-    {
-        RegClass key(platform_.registry);
-        key.OpenRegistry(Registry::localMachine,
-                         R"(SOFTWARE\Microsoft\Windows\CurrentVersion\Uninstall\Orbexa_is1)");
-        folder = key.GetValue("Inno Setup: App Path");
-        key.CloseRegistry();
-    }
+    const std::string folder =
+        valueOf(platform_.registry, Registry::localMachine,
+                R"(SOFTWARE\Microsoft\Windows\CurrentVersion\Uninstall\Orbexa_is1)", "Inno Setup: App Path");
     if (!folder.empty()) {
         platform_.processes.start(withBackslash(folder) + "Orbexa.exe", "Tarvelon2",
                                   WindowStyle::MinimizedFocus);

@@ -13,7 +13,7 @@ constexpr int startupFolder = 24;
 constexpr int programsFolder = 2;
 
 std::string specialFolder(Platform& platform, int csidl) {
-    std::string buffer(260, '\0');
+    std::string buffer(SystemFolders::pathRoom, '\0');
     return platform.folders.getSpecialFolderPath(csidl, buffer.data()) ? buffer.substr(0, buffer.find('\0'))
                                                                        : std::string();
 }
