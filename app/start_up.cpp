@@ -73,6 +73,7 @@ void StartUp::actOnCommandLine() {
 void StartUp::checkAtLogOn() {
     app_.globals.app.autoLoadRun = true;
     app_.mForm1.hide();
+    // As an icon from the first moment, so that nothing is made of a window that a clean run never shows.
     passOver([this] { app_.intCheck.showMinimized(); });
     try {
         app_.scan.LoadUp();
@@ -80,7 +81,7 @@ void StartUp::checkAtLogOn() {
         tellUnscanned(app_.platform, failure);
         app_.platform.processes.end();
     }
-    app_.intCheck.Minimized = true;
+    app_.intCheck.Minimized = true; // Also where planning had something to ask and brought it to light.
 }
 
 /// That the data file can be opened is all there is to a completed primary full scan.
