@@ -5,7 +5,6 @@
 #include <objbase.h>
 
 #include <memory>
-#include <string>
 
 namespace tarvelon {
 
@@ -31,15 +30,6 @@ Component<Interface> queryComponent(IUnknown& object) {
     void* found = nullptr;
     object.QueryInterface(__uuidof(Interface), &found);
     return Component<Interface>(static_cast<Interface*>(found));
-}
-
-/// The system's objects take 16-bit characters.
-inline std::wstring wideText(const std::string& text) {
-    const int length = static_cast<int>(text.size());
-    std::wstring wide(text.size(), L'\0');
-    const int count = MultiByteToWideChar(CP_ACP, 0, text.c_str(), length, wide.data(), length);
-    wide.resize(static_cast<std::size_t>(count));
-    return wide;
 }
 
 } // namespace tarvelon

@@ -2,6 +2,7 @@
 
 #include "platform/win32/component.h"
 #include "platform/win32/script_object.h"
+#include "platform/win32/wide.h"
 
 #include <shlobj.h>
 

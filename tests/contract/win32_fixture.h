@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/win32/component.h"
+#include "platform/win32/wide.h"
 #include "platform/win32/win32_platform.h"
 #include "view/view.h"
 
