@@ -164,29 +164,29 @@ void Canvas::glow(Spot middle, float radius, float width, Color color) {
     });
 }
 
-SIZE Canvas::measure(const std::string& text, const TextLook& look, int height, UINT lines, int width) {
+SIZE Canvas::measure(const WindowText& text, const TextLook& look, int height, UINT lines, int width) {
     SelectObject(dc(), fonts_.get(height, look.weight, look.underlined));
     RECT size{0, 0, width, 0};
-    DrawTextA(dc(), text.c_str(), static_cast<int>(text.size()), &size,
-              DT_CALCRECT | lines | prefixFlag(look));
+    text.draw(dc(), size, DT_CALCRECT | lines | prefixFlag(look));
     return {widthOf(size), heightOf(size)};
 }
 
 int Canvas::textWidth(const std::string& text, const TextLook& look) {
-    return measure(text, look, scale_.letters(look.tenthPoints), DT_SINGLELINE).cx;
+    return measure(WindowText(text), look, scale_.letters(look.tenthPoints), DT_SINGLELINE).cx;
 }
 
 void Canvas::text(const std::string& text, const RECT& rect, const TextLook& look) {
     if (text.empty()) {
         return;
     }
+    const WindowText shown(text);
     const bool isPath = text.find('\\') != std::string::npos;
     const int wanted = scale_.letters(look.tenthPoints);
     UINT lines = DT_SINGLELINE;
     SIZE size{};
     const auto fit = [&](int height, UINT by) {
         lines = by;
-        size = measure(text, look, height, lines, widthOf(rect));
+        size = measure(shown, look, height, lines, widthOf(rect));
         return size.cx <= widthOf(rect) && size.cy <= heightOf(rect);
     };
     bool fits = fit(wanted, DT_SINGLELINE);
@@ -207,8 +207,8 @@ void Canvas::text(const std::string& text, const RECT& rect, const TextLook& loo
     place.top += paragraph ? 0 : std::max<LONG>((heightOf(rect) - size.cy) / 2, 0);
     SetBkMode(dc(), TRANSPARENT);
     SetTextColor(dc(), look.color);
-    DrawTextA(dc(), text.c_str(), static_cast<int>(text.size()), &place,
-              lines | look.align | prefixFlag(look) | (isPath ? DT_PATH_ELLIPSIS : DT_END_ELLIPSIS));
+    shown.drawShortened(
+        dc(), place, lines | look.align | prefixFlag(look) | (isPath ? DT_PATH_ELLIPSIS : DT_END_ELLIPSIS));
 }
 
 } // namespace tarvelon

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/win32/owned.h"
+#include "platform/win32/window_calls.h"
 #include "view/drawings.h"
 #include "view/fonts.h"
 #include "view/scale.h"
@@ -76,7 +77,7 @@ public:
 private:
     /// Chooses the font of that letter height and measures the text in it: in one line (DT_SINGLELINE), or
     /// broken into lines of that width (DT_WORDBREAK).
-    SIZE measure(const std::string& text, const TextLook& look, int height, UINT lines, int width = 0);
+    SIZE measure(const WindowText& text, const TextLook& look, int height, UINT lines, int width = 0);
 
     /// Draws each row that is seen of the bounds: `draw(y, left, right)`.
     template<class Draw>

@@ -3,7 +3,6 @@
 #include "view/form.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace tarvelon {
 
@@ -22,26 +21,30 @@ struct Painting {
     PAINTSTRUCT job{};
 };
 
+/// Of a window with our procedure.
+ControlWindow* ownerOf(HWND window) {
+    return reinterpret_cast<ControlWindow*>(windowCalls().getWindowLongPtr(window, GWLP_USERDATA));
+}
+
 } // namespace
 
 ControlWindow* ControlWindow::from(HWND window) {
-    const bool ours = window && GetWindowThreadProcessId(window, nullptr) == GetCurrentThreadId() &&
-                      reinterpret_cast<WNDPROC>(GetWindowLongPtrA(window, GWLP_WNDPROC)) == procedure;
-    return ours ? reinterpret_cast<ControlWindow*>(GetWindowLongPtrA(window, GWLP_USERDATA)) : nullptr;
+    const bool ours =
+        window && GetWindowThreadProcessId(window, nullptr) == GetCurrentThreadId() &&
+        reinterpret_cast<WNDPROC>(windowCalls().getWindowLongPtr(window, GWLP_WNDPROC)) == procedure;
+    return ours ? ownerOf(window) : nullptr;
 }
 
 void ControlWindow::create(HWND parent, int id, bool beginsGroup) {
     const DWORD state = (control_.Visible() ? WS_VISIBLE : 0) | (control_.Enabled() ? 0 : WS_DISABLED) |
                         (beginsGroup ? WS_GROUP : 0);
-    const RECT place = scale()(control_.place());
-    window_ = CreateWindowExA(kind_.extendedStyle, kind_.windowClass, control_.captionOrName().c_str(),
-                              WS_CHILD | WS_CLIPSIBLINGS | kind_.style | state, place.left, place.top,
-                              widthOf(place), heightOf(place), parent,
-                              reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleA(nullptr),
-                              nullptr);
-    SetWindowLongPtrA(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+    const WindowCalls& calls = windowCalls();
+    window_ =
+        makeWindow(kind_.extendedStyle, kind_.windowClass, control_.captionOrName(),
+                   WS_CHILD | WS_CLIPSIBLINGS | kind_.style | state, scale()(control_.place()), parent, id);
+    calls.setWindowLongPtr(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
     classProcedure_ = reinterpret_cast<WNDPROC>(
-        SetWindowLongPtrA(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure)));
+        calls.setWindowLongPtr(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure)));
     setTypeSize();
     applyItems(Aspect::Items);
     applyValue();
@@ -105,7 +108,7 @@ void ControlWindow::refresh() {
     follow();
     if (kind_.textIsCaption) {
         // The system keeps a copy for those who read it without asking; no drawing comes of this.
-        DefWindowProcA(window_, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(control_.captionOrName().c_str()));
+        windowCalls().defWindowProc(window_, WM_SETTEXT, 0, WindowText(control_.captionOrName()).parameter());
     }
     RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
 }
@@ -155,12 +158,11 @@ std::optional<LRESULT> ControlWindow::reflect(UINT message, WPARAM wide, LPARAM 
 }
 
 LRESULT CALLBACK ControlWindow::procedure(HWND window, UINT message, WPARAM wide, LPARAM low) {
-    auto* self = reinterpret_cast<ControlWindow*>(GetWindowLongPtrA(window, GWLP_USERDATA));
-    return self->handle(message, wide, low);
+    return ownerOf(window)->handle(message, wide, low);
 }
 
 LRESULT ControlWindow::handleAsClass(UINT message, WPARAM wide, LPARAM low) {
-    return CallWindowProcA(classProcedure_, window_, message, wide, low);
+    return windowCalls().callWindowProc(classProcedure_, window_, message, wide, low);
 }
 
 LRESULT ControlWindow::handle(UINT message, WPARAM wide, LPARAM low) {
@@ -193,20 +195,14 @@ LRESULT ControlWindow::handle(UINT message, WPARAM wide, LPARAM low) {
 }
 
 std::optional<LRESULT> answerText(const std::string& caption, UINT message, WPARAM size, LPARAM buffer) {
-    if (message == WM_GETTEXTLENGTH) {
-        return static_cast<LRESULT>(caption.size());
-    }
-    if (message != WM_GETTEXT) {
+    switch (message) {
+    case WM_GETTEXTLENGTH:
+        return static_cast<LRESULT>(WindowText(caption).size());
+    case WM_GETTEXT:
+        return WindowText(caption).copyTo(buffer, size);
+    default:
         return std::nullopt;
     }
-    if (size == 0) {
-        return 0;
-    }
-    const std::size_t length = std::min(caption.size(), static_cast<std::size_t>(size) - 1);
-    char* text = reinterpret_cast<char*>(buffer);
-    std::memcpy(text, caption.data(), length);
-    text[length] = '\0';
-    return static_cast<LRESULT>(length);
 }
 
 void ControlWindow::paintNow() {

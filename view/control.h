@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/win32/windows_api.h"
+#include "platform/win32/window_calls.h"
 #include "ui/controls/controls.h"
 #include "view/canvas.h"
 

@@ -45,7 +45,7 @@ public:
             return; // It came from the keyboard; setting it again would move the caret.
         }
         setting_ = true;
-        handleAsClass(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(control().Caption().c_str()));
+        handleAsClass(WM_SETTEXT, 0, WindowText(control().Caption()).parameter());
         setting_ = false;
     }
 
@@ -58,10 +58,8 @@ public:
 
 private:
     std::string shownText() {
-        std::string text(static_cast<std::size_t>(handleAsClass(WM_GETTEXTLENGTH, 0, 0)) + 1, '\0');
-        const LRESULT copied = handleAsClass(WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()));
-        text.resize(static_cast<std::size_t>(copied));
-        return text;
+        return askedText(
+            [this](UINT message, WPARAM wide, LPARAM low) { return handleAsClass(message, wide, low); });
     }
 
     Color ground() const { return control().isUsable() ? theme().field : surface().ground; }

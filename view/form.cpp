@@ -38,15 +38,16 @@ FormWindow::FormWindow(Screen& screen, ViewTools& tools)
 }
 
 FormWindow::~FormWindow() {
-    SetWindowLongPtrA(window(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(DefWindowProcA));
+    const WindowCalls& calls = windowCalls();
+    calls.setWindowLongPtr(window(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(calls.defWindowProc));
 }
 
 void FormWindow::createWindow() {
-    window_.reset(CreateWindowExA(extendedStyle, formWindowClass, screen_.Caption().c_str(), styleOf(screen_),
-                                  CW_USEDEFAULT, CW_USEDEFAULT, 0, 0, nullptr, nullptr,
-                                  GetModuleHandleA(nullptr), nullptr));
-    SetWindowLongPtrA(window(), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
-    SetWindowLongPtrA(window(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure));
+    const WindowCalls& calls = windowCalls();
+    window_.reset(
+        makeWindow(extendedStyle, formWindowClass, screen_.Caption(), styleOf(screen_), RECT{}, nullptr));
+    calls.setWindowLongPtr(window(), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+    calls.setWindowLongPtr(window(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure));
     scale_ = Scale(tools_.scaling.dotsPerInch(window()));
     const SIZE size = outerSize();
     RECT desktop;
@@ -238,7 +239,7 @@ void FormWindow::showChanges() {
     refreshedAt_ = GetTickCount();
     if (captionWaits_) {
         captionWaits_ = false;
-        DefWindowProcA(window(), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(screen_.Caption().c_str()));
+        windowCalls().defWindowProc(window(), WM_SETTEXT, 0, WindowText(screen_.Caption()).parameter());
     }
     for (ControlWindow* window : std::exchange(waiting_, {})) {
         window->waitsForRefresh = false;

@@ -13,7 +13,7 @@ constexpr UINT dotsPerInchChanged = 0x02E0; ///< WM_DPICHANGED, of newer systems
 } // namespace
 
 LRESULT CALLBACK FormWindow::procedure(HWND window, UINT message, WPARAM wide, LPARAM low) {
-    auto* self = reinterpret_cast<FormWindow*>(GetWindowLongPtrA(window, GWLP_USERDATA));
+    auto* self = reinterpret_cast<FormWindow*>(windowCalls().getWindowLongPtr(window, GWLP_USERDATA));
     return self->handle(message, wide, low);
 }
 
@@ -51,7 +51,7 @@ LRESULT FormWindow::handle(UINT message, WPARAM wide, LPARAM low) {
         }
         return 0;
     case WM_ACTIVATE:
-        DefWindowProcA(window(), message, wide, low);
+        windowCalls().defWindowProc(window(), message, wide, low);
         activated(LOWORD(wide) != WA_INACTIVE);
         return 0;
     case WM_NEXTDLGCTL:
@@ -74,7 +74,7 @@ LRESULT FormWindow::handle(UINT message, WPARAM wide, LPARAM low) {
     default:
         break;
     }
-    return DefWindowProcA(window(), message, wide, low);
+    return windowCalls().defWindowProc(window(), message, wide, low);
 }
 
 bool FormWindow::takes(MSG& message) {
@@ -94,7 +94,7 @@ bool FormWindow::takes(MSG& message) {
     if (down && isArrow && message.hwnd == window()) {
         return true; // No control has the keyboard: there is no group to go round in.
     }
-    return IsDialogMessageA(window(), &message) != FALSE;
+    return windowCalls().isDialogMessage(window(), &message) != FALSE;
 }
 
 /// What a key going down has hidden or disabled still gets the messages that belong to the same key. There is

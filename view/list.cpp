@@ -114,9 +114,8 @@ private:
         }
         const int first = rows_;
         for (; rows_ < control().count(); ++rows_) {
-            handleAsClass(
-                messages_.add, 0,
-                reinterpret_cast<LPARAM>(control().items()[static_cast<std::size_t>(rows_)].c_str()));
+            const WindowText row(control().items()[static_cast<std::size_t>(rows_)]);
+            handleAsClass(messages_.add, 0, row.parameter());
         }
         handleAsClass(messages_.setSelected, static_cast<WPARAM>(control().listIndex()), 0);
         if (topRow > 0 && topRow < control().count()) {
@@ -163,10 +162,8 @@ protected:
         const HDC dc = textDc();
         longestText_ = first == 0 ? 0 : longestText_;
         for (int row = first; row < control().count(); ++row) {
-            const std::string& text = control().items()[static_cast<std::size_t>(row)];
-            SIZE size{};
-            GetTextExtentPoint32A(dc, text.c_str(), static_cast<int>(text.size()), &size);
-            longestText_ = std::max(longestText_, static_cast<int>(size.cx));
+            const WindowText text(control().items()[static_cast<std::size_t>(row)]);
+            longestText_ = std::max(longestText_, static_cast<int>(text.extent(dc).cx));
         }
         handleAsClass(LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(rowWidth()), 0);
     }

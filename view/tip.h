@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/win32/owned.h"
+#include "platform/win32/window_calls.h"
 
 #include <commctrl.h>
 
@@ -33,22 +34,24 @@ public:
     }
 
 private:
-    void tell(UINT message, WPARAM wide, LPARAM low) { SendMessageA(window_.get(), message, wide, low); }
+    void tell(UINT message, WPARAM wide, LPARAM low) {
+        windowCalls().sendMessage(window_.get(), message, wide, low);
+    }
 
     void open(HWND owner) {
-        window_.reset(CreateWindowExA(
-            WS_EX_TOPMOST, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, CW_USEDEFAULT,
-            CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, owner, nullptr, GetModuleHandleA(nullptr), nullptr));
+        window_.reset(makeWindow(WS_EX_TOPMOST, TOOLTIPS_CLASSA, "", WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX,
+                                 RECT{}, owner));
         constexpr LPARAM longest = 0x7fff; // Milliseconds: long texts take their time to read.
         tell(TTM_SETDELAYTIME, TTDT_AUTOPOP, longest);
         tell(TTM_SETMAXTIPWIDTH, 0, widestLine_);
-        TOOLINFOA tool{};
-        tool.cbSize = TTTOOLINFOA_V1_SIZE; // The form that every version of the library takes.
+        const WindowText text(text_);
+        TOOLINFOW tool{};
+        tool.cbSize = TTTOOLINFOW_V1_SIZE; // The form that every version of the library takes.
         tool.uFlags = TTF_IDISHWND | TTF_TRANSPARENT;
         tool.hwnd = owner;
         tool.uId = reinterpret_cast<UINT_PTR>(owner);
-        tool.lpszText = text_.data();
-        tell(TTM_ADDTOOLA, 0, reinterpret_cast<LPARAM>(&tool));
+        tool.lpszText = text.inRecord();
+        tell(windowCalls().addTool, 0, reinterpret_cast<LPARAM>(&tool));
         TRACKMOUSEEVENT leaving{sizeof leaving, TME_LEAVE, owner, 0};
         TrackMouseEvent(&leaving);
     }

@@ -113,16 +113,16 @@ private:
         const auto& nodes = control().nodes();
         for (std::size_t index = items_.size(); index < nodes.size(); ++index) {
             const Tree::Node& node = nodes[index];
-            std::string text = node.text; // Seen up to its first zero.
-            TVINSERTSTRUCTA insert{};
+            const WindowText text(node.text); // Seen up to its first zero.
+            TVINSERTSTRUCTW insert{};
             const auto [item, isNew] = items_.emplace(node.key, nullptr);
             insert.hParent = node.parent ? itemOf(node.parent->key) : TVI_ROOT;
             insert.hInsertAfter = TVI_LAST;
             insert.item.mask = TVIF_TEXT | TVIF_PARAM;
-            insert.item.pszText = text.data();
+            insert.item.pszText = text.inRecord();
             insert.item.lParam = reinterpret_cast<LPARAM>(&item->first);
             item->second = reinterpret_cast<HTREEITEM>(
-                handleAsClass(TVM_INSERTITEMA, 0, reinterpret_cast<LPARAM>(&insert)));
+                handleAsClass(windowCalls().insertTreeItem, 0, reinterpret_cast<LPARAM>(&insert)));
         }
     }
 

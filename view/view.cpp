@@ -15,17 +15,9 @@ HICON applicationIcon(int widthMetric, int heightMetric) {
 }
 
 void registerWindowClasses() {
-    WNDCLASSEXA description{};
-    description.cbSize = sizeof description;
-    description.lpfnWndProc = DefWindowProcA;
-    description.hInstance = GetModuleHandleA(nullptr);
-    description.hCursor = LoadCursorA(nullptr, IDC_ARROW);
-    description.lpszClassName = frameWindowClass;
-    RegisterClassExA(&description);
-    description.hIcon = applicationIcon(SM_CXICON, SM_CYICON);
-    description.hIconSm = applicationIcon(SM_CXSMICON, SM_CYSMICON);
-    description.lpszClassName = formWindowClass;
-    RegisterClassExA(&description);
+    registerWindowClass(frameWindowClass);
+    registerWindowClass(formWindowClass, applicationIcon(SM_CXICON, SM_CYICON),
+                        applicationIcon(SM_CXSMICON, SM_CYSMICON));
 }
 
 } // namespace
@@ -68,7 +60,7 @@ void Win32View::handle(MSG& message) {
         return;
     }
     TranslateMessage(&message);
-    DispatchMessageA(&message);
+    windowCalls().dispatchMessage(&message);
 }
 
 void Win32View::block(HWND owner) {

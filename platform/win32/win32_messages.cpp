@@ -1,7 +1,7 @@
 #include "platform/win32/win32_messages.h"
 
+#include "platform/win32/window_calls.h"
 #include "platform/win32/window_host.h"
-#include "platform/win32/windows_api.h"
 
 namespace tarvelon {
 
@@ -22,7 +22,7 @@ bool anythingWaits() {
 void Win32MessageQueue::pump() {
     windows_.refreshIfDue();
     MSG message;
-    while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {
+    while (windowCalls().peekMessage(&message, nullptr, 0, 0, PM_REMOVE)) {
         if (message.message == WM_QUIT) {
             // Left for the outermost loop.
             PostQuitMessage(static_cast<int>(message.wParam));
@@ -71,7 +71,7 @@ void Win32MessageQueue::noteIdle(std::uint32_t flags) {
 
 int Win32MessageQueue::run(const std::function<void()>& rest) {
     MSG message;
-    while (GetMessageA(&message, nullptr, 0, 0) > 0) {
+    while (windowCalls().getMessage(&message, nullptr, 0, 0) > 0) {
         windows_.handle(message);
         if (anythingWaits()) {
             windows_.refreshIfDue();
