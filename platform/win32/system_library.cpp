@@ -1,5 +1,7 @@
 #include "platform/win32/system_library.h"
 
+#include "platform/win32/wide.h"
+
 #include <string>
 
 namespace tarvelon {
@@ -7,6 +9,10 @@ namespace tarvelon {
 namespace {
 
 HMODULE loadFromSystemDirectory(const char* fileName) {
+    if (hasWideCalls()) {
+        const std::wstring wideFolder = textFrom(GetSystemDirectoryW);
+        return wideFolder.empty() ? nullptr : LoadLibraryW((wideFolder + L"\\" + wideText(fileName)).c_str());
+    }
     char folder[MAX_PATH];
     const UINT length = GetSystemDirectoryA(folder, MAX_PATH);
     if (length == 0 || length >= MAX_PATH) {

@@ -1,9 +1,5 @@
 #include "platform/win32/wide.h"
 
-#include "platform/win32/windows_api.h"
-
-#include <algorithm>
-
 namespace tarvelon {
 
 namespace {
@@ -43,23 +39,44 @@ std::string asciiFrom(std::wstring_view text) {
 }
 
 /// A full path in which the system has nothing to work out: no "." or "..", no empty part, no slash of the
-/// other kind, and at the end neither dot nor blank, which it would take away.
+/// other kind, and no dot at the end of a part or blank at the end of all, which it would take away.
 bool standsAsItIs(std::wstring_view path) {
     const bool onShare = path.starts_with(L"\\\\");
     const bool onDrive = path.size() > 2 && path[1] == L':' && path[2] == L'\\';
     if ((!onShare && !onDrive) || path.starts_with(L"\\\\?\\") || path.starts_with(L"\\\\.\\") ||
-        path.find(L'/') != std::wstring_view::npos || path.ends_with(L' ') || path.ends_with(L'.')) {
+        path.find(L'/') != std::wstring_view::npos || path.ends_with(L' ')) {
         return false;
     }
     for (std::size_t from = onShare ? 2 : 3; from < path.size();) {
         const std::size_t end = std::min(path.find(L'\\', from), path.size());
         const std::wstring_view part = path.substr(from, end - from);
-        if (part.empty() || part == L"." || part == L"..") {
+        if (part.empty() || part.ends_with(L'.')) {
             return false;
         }
         from = end + 1;
     }
     return true;
+}
+
+std::wstring withoutPrefix(std::wstring_view path) {
+    if (path.starts_with(L"\\\\?\\UNC\\")) {
+        return L"\\" + std::wstring(path.substr(7));
+    }
+    return std::wstring(path.starts_with(L"\\\\?\\") ? path.substr(4) : path);
+}
+
+std::wstring prefixed(std::wstring path) {
+    if (!standsAsItIs(path)) {
+        return path;
+    }
+    return path.starts_with(L"\\\\") ? L"\\\\?\\UNC" + path.substr(1) : L"\\\\?\\" + path;
+}
+
+/// Empty when it is not there.
+std::wstring wideShortPath(const std::wstring& path) {
+    const std::wstring longPath = prefixed(path);
+    return withoutPrefix(textFrom(
+        [&](wchar_t* buffer, DWORD size) { return GetShortPathNameW(longPath.c_str(), buffer, size); }));
 }
 
 } // namespace
@@ -116,11 +133,47 @@ std::size_t fillBuffer(char* buffer, std::size_t size, std::string_view text) {
 }
 
 std::wstring widePath(std::string_view path) {
-    const std::wstring wide = wideText(path);
-    if (!standsAsItIs(wide)) {
+    return prefixed(wideText(path.substr(0, path.find('\0'))));
+}
+
+std::wstring briefPath(std::string_view path) {
+    constexpr std::size_t most = MAX_PATH - 2; // Of a current folder.
+    std::wstring wide = wideText(path);
+    if (wide.size() <= most) {
         return wide;
     }
-    return wide.starts_with(L"\\\\") ? L"\\\\?\\UNC" + wide.substr(1) : L"\\\\?\\" + wide;
+    std::wstring brief = wideShortPath(wide);
+    return brief.empty() || brief.size() > most ? prefixed(std::move(wide)) : brief;
+}
+
+std::string reachablePath(std::wstring_view path, std::size_t most) {
+    const std::wstring wide = withoutPrefix(path);
+    const auto exact = exactNarrowText(wide);
+    if (exact && exact->size() <= most) {
+        return *exact;
+    }
+    const auto brief = exactNarrowText(wideShortPath(wide));
+    if (brief && !brief->empty() && brief->size() <= most) {
+        return *brief;
+    }
+    const std::string lossy = narrowText(wide);
+    return lossy.size() <= most ? lossy : std::string();
+}
+
+std::string shortPath(std::string_view path) {
+    return narrowText(wideShortPath(wideText(path.substr(0, path.find('\0')))));
+}
+
+std::uint32_t giveText(std::string_view text, char* buffer, std::uint32_t size) {
+    const auto length = static_cast<std::uint32_t>(text.size());
+    if (length == 0) {
+        return 0;
+    }
+    if (length >= size) {
+        return length + 1;
+    }
+    buffer[text.copy(buffer, length)] = '\0';
+    return length;
 }
 
 } // namespace tarvelon

@@ -1,5 +1,9 @@
 #pragma once
 
+#include "platform/win32/windows_api.h"
+
+#include <algorithm>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -29,5 +33,35 @@ std::size_t fillBuffer(char* buffer, std::size_t size, std::string_view text);
 /// limit of 260 characters and has every name taken as it stands, if it has no part that the system would
 /// have to work out.
 std::wstring widePath(std::string_view path);
+
+/// A path as calls take it that know at most 260 characters: a longer one by its short names, or if it has
+/// none, as `widePath` gives it.
+std::wstring briefPath(std::string_view path);
+
+/// A path that the system gave, in the process's code page and without a prefix; by its short names if the
+/// page cannot hold it or it takes more than `most` bytes. Without short names it is as `narrowText` gives
+/// it, or empty when that is too long.
+std::string reachablePath(std::wstring_view path, std::size_t most = 32'767);
+
+/// The short names of a path; empty when it is not there.
+std::string shortPath(std::string_view path);
+
+/// Gives a text as the system's calls do that are asked for a path: its length, or what room it needs if it
+/// does not fit with its zero. Nothing happens with an empty one.
+std::uint32_t giveText(std::string_view text, char* buffer, std::uint32_t size);
+
+/// What such a call gives, however long it is; empty on failure.
+template<class Call>
+std::wstring textFrom(Call call) {
+    std::wstring text(MAX_PATH, L'\0');
+    for (;;) {
+        const DWORD length = call(text.data(), static_cast<DWORD>(text.size()));
+        if (length < text.size()) {
+            text.resize(length);
+            return text;
+        }
+        text.resize(std::max<std::size_t>(length, text.size() * 2)); // Some calls do not tell what they need.
+    }
+}
 
 } // namespace tarvelon

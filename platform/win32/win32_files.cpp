@@ -1,10 +1,19 @@
 #include "platform/win32/win32_files.h"
 
 #include "platform/win32/parts.h"
+#include "platform/win32/wide.h"
 
 #include <utility>
 
 namespace tarvelon {
+
+std::string nameOf(std::wstring_view found, std::wstring_view shortName) {
+    if (auto name = exactNarrowText(found)) {
+        return *std::move(name);
+    }
+    auto name = exactNarrowText(shortName);
+    return name && !name->empty() ? *std::move(name) : narrowText(found);
+}
 
 std::string Win32Files::firstName(const std::string& folder) {
     const bool namesHold =
@@ -21,17 +30,23 @@ void Win32Files::list(const std::string& folder) {
     if (folder == folder_) {
         // Listed twice in a row, it may well be listed again. From before the first name on no change goes
         // unnoticed.
-        change.reset(validOrNull(FindFirstChangeNotificationA(
-            folder.c_str(), FALSE, FILE_NOTIFY_CHANGE_FILE_NAME | FILE_NOTIFY_CHANGE_DIR_NAME)));
+        constexpr DWORD names = FILE_NOTIFY_CHANGE_FILE_NAME | FILE_NOTIFY_CHANGE_DIR_NAME;
+        change.reset(validOrNull(hasWideCalls()
+                                     ? FindFirstChangeNotificationW(widePath(folder).c_str(), FALSE, names)
+                                     : FindFirstChangeNotificationA(folder.c_str(), FALSE, names)));
     }
     change_ = std::move(change);
     folder_ = folder;
     names_.clear();
     allListed_ = false;
-    WIN32_FIND_DATAA found;
-    listing_.reset(validOrNull(FindFirstFileA((folder + "*").c_str(), &found)));
+    const std::string all = folder + "*";
+    WIN32_FIND_DATAW found;
+    WIN32_FIND_DATAA narrow;
+    listing_.reset(validOrNull(hasWideCalls() ? FindFirstFileW(widePath(all).c_str(), &found)
+                                              : FindFirstFileA(all.c_str(), &narrow)));
     if (listing_) {
-        names_.emplace_back(found.cFileName);
+        names_.push_back(hasWideCalls() ? nameOf(found.cFileName, found.cAlternateFileName)
+                                        : narrow.cFileName);
     }
 }
 
@@ -42,14 +57,16 @@ std::string Win32Files::nextName() {
     if (!listing_) {
         return {};
     }
-    WIN32_FIND_DATAA found;
-    if (!FindNextFileA(listing_.get(), &found)) {
+    WIN32_FIND_DATAW found;
+    WIN32_FIND_DATAA narrow;
+    if (!(hasWideCalls() ? FindNextFileW(listing_.get(), &found) : FindNextFileA(listing_.get(), &narrow))) {
         listing_.reset();
         allListed_ = true;
         return {};
     }
     ++next_;
-    return names_.emplace_back(found.cFileName);
+    return names_.emplace_back(hasWideCalls() ? nameOf(found.cFileName, found.cAlternateFileName)
+                                              : narrow.cFileName);
 }
 
 void Win32Files::forgetListing() {
@@ -67,7 +84,8 @@ std::unique_ptr<OpenFile> Win32Files::open(const std::string& path, OpenMode mod
 
 std::optional<std::uint64_t> Win32Files::length(const std::string& path) {
     WIN32_FILE_ATTRIBUTE_DATA data;
-    if (!GetFileAttributesExA(path.c_str(), GetFileExInfoStandard, &data) ||
+    if (!(hasWideCalls() ? GetFileAttributesExW(widePath(path).c_str(), GetFileExInfoStandard, &data)
+                         : GetFileAttributesExA(path.c_str(), GetFileExInfoStandard, &data)) ||
         (data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
         return std::nullopt;
     }
@@ -89,27 +107,35 @@ bool Win32Files::move(const std::string& from, const std::string& to) {
 }
 
 bool Win32Files::moveAtOnce(const std::string& from, const std::string& to) {
-    if (MoveFileExA(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING)) {
-        return true;
-    }
-    if (GetLastError() != ERROR_CALL_NOT_IMPLEMENTED) {
-        return false;
+    if (hasWideCalls()) {
+        return MoveFileExW(widePath(from).c_str(), widePath(to).c_str(), MOVEFILE_REPLACE_EXISTING) != FALSE;
     }
     DeleteFileA(to.c_str()); // Windows 98 knows only the way in two steps.
     return MoveFileA(from.c_str(), to.c_str()) != FALSE;
 }
 
 bool Win32Files::remove(const std::string& path) {
-    return DeleteFileA(path.c_str()) != FALSE;
+    return (hasWideCalls() ? DeleteFileW(widePath(path).c_str()) : DeleteFileA(path.c_str())) != FALSE;
 }
 
 bool Win32Files::createFolder(const std::string& path) {
-    return CreateDirectoryA(path.c_str(), nullptr) != FALSE;
+    return (hasWideCalls() ? CreateDirectoryW(widePath(path).c_str(), nullptr)
+                           : CreateDirectoryA(path.c_str(), nullptr)) != FALSE;
 }
 
 bool Win32Files::searchTreeForFile(const std::string& root, const std::string& name, char* buffer) {
+    if (!debugHelp_) {
+        debugHelp_.emplace("dbghelp.dll");
+    }
+    using SearchTreeForFileW = BOOL WINAPI(PCWSTR root, PCWSTR name, PWSTR buffer);
+    if (const auto search = debugHelp_->find<SearchTreeForFileW>("SearchTreeForFileW")) {
+        std::wstring found(32'768, L'\0');
+        const bool hit = search(wideText(root).c_str(), wideText(name).c_str(), found.data()) != FALSE;
+        constexpr std::uint32_t room = SystemFolders::pathRoom;
+        return hit && giveText(reachablePath(found.c_str(), room - 1), buffer, room) > 0;
+    }
     if (!imageHelp_) {
-        imageHelp_.emplace("imagehlp.dll");
+        imageHelp_.emplace("imagehlp.dll"); // Its form for narrow texts alone is everywhere.
     }
     using SearchTreeForFile = BOOL WINAPI(PCSTR root, PCSTR name, PSTR buffer);
     const auto search = imageHelp_->find<SearchTreeForFile>("SearchTreeForFile");
@@ -117,7 +143,8 @@ bool Win32Files::searchTreeForFile(const std::string& root, const std::string& n
 }
 
 std::uint32_t Win32Files::getShortPathName(const std::string& path, char* buffer, std::uint32_t size) {
-    return GetShortPathNameA(path.c_str(), buffer, size);
+    return hasWideCalls() ? giveText(shortPath(path), buffer, size)
+                          : GetShortPathNameA(path.c_str(), buffer, size);
 }
 
 } // namespace tarvelon

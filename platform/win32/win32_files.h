@@ -34,7 +34,12 @@ private:
     bool allListed_ = false;
     OwnedListing listing_;
     OwnedChange change_;                     ///< Signalled when a name in the folder comes, goes or changes.
-    std::optional<SystemLibrary> imageHelp_; ///< Loaded at the first search.
+    std::optional<SystemLibrary> debugHelp_; ///< Loaded at the first search.
+    std::optional<SystemLibrary> imageHelp_;
 };
+
+/// The name of what was found, in the process's code page; where that cannot hold it, the short name, if it
+/// has one.
+std::string nameOf(std::wstring_view found, std::wstring_view shortName);
 
 } // namespace tarvelon

@@ -1,7 +1,7 @@
 #include "platform/win32/parts.h"
 
 #include "platform/win32/shell_items.h"
-#include "platform/win32/windows_api.h"
+#include "platform/win32/wide.h"
 
 namespace tarvelon {
 
@@ -10,11 +10,13 @@ namespace {
 class Win32SystemFolders : public SystemFolders {
 public:
     std::uint32_t getSystemDirectory(char* buffer, std::uint32_t size) override {
-        return GetSystemDirectoryA(buffer, size);
+        return hasWideCalls() ? giveText(reachablePath(textFrom(GetSystemDirectoryW)), buffer, size)
+                              : GetSystemDirectoryA(buffer, size);
     }
 
     std::uint32_t getWindowsDirectory(char* buffer, std::uint32_t size) override {
-        return GetWindowsDirectoryA(buffer, size);
+        return hasWideCalls() ? giveText(reachablePath(textFrom(GetWindowsDirectoryW)), buffer, size)
+                              : GetWindowsDirectoryA(buffer, size);
     }
 
     bool getSpecialFolderPath(int csidl, char* buffer) override {

@@ -1,6 +1,7 @@
 #include "platform/win32/parts.h"
 
 #include "platform/win32/owned.h"
+#include "platform/win32/wide.h"
 
 #include <algorithm>
 #include <utility>
@@ -27,11 +28,14 @@ OpenArguments argumentsFor(OpenMode mode) {
     return {GENERIC_READ | GENERIC_WRITE, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL};
 }
 
-/// Whoever else uses the file may go on. Systems before the NT family refuse an open that names deleting,
-/// which they do not know.
-DWORD sharing() {
-    static const bool ntFamily = GetVersion() < 0x80000000;
-    return FILE_SHARE_READ | FILE_SHARE_WRITE | (ntFamily ? FILE_SHARE_DELETE : 0);
+/// Whoever else uses the file may go on. Windows 98 refuses an open that names deleting, which it does not
+/// know.
+HANDLE opened(const std::string& path, const OpenArguments& arguments) {
+    constexpr DWORD sharing = FILE_SHARE_READ | FILE_SHARE_WRITE;
+    return hasWideCalls() ? CreateFileW(widePath(path).c_str(), arguments.access, sharing | FILE_SHARE_DELETE,
+                                        nullptr, arguments.disposition, arguments.flags, nullptr)
+                          : CreateFileA(path.c_str(), arguments.access, sharing, nullptr,
+                                        arguments.disposition, arguments.flags, nullptr);
 }
 
 /// The largest piece handed to one system call, whose counts have 32 bits.
@@ -138,9 +142,7 @@ private:
 } // namespace
 
 std::unique_ptr<OpenFile> openFile(const std::string& path, OpenMode mode) {
-    const OpenArguments arguments = argumentsFor(mode);
-    OwnedHandle file(validOrNull(CreateFileA(path.c_str(), arguments.access, sharing(), nullptr,
-                                             arguments.disposition, arguments.flags, nullptr)));
+    OwnedHandle file(validOrNull(opened(path, argumentsFor(mode))));
     return file ? std::make_unique<Win32OpenFile>(std::move(file)) : nullptr;
 }
 

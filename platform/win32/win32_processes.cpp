@@ -2,8 +2,8 @@
 
 #include "platform/command_line.h"
 #include "platform/win32/owned.h"
-
-#include <shellapi.h>
+#include "platform/win32/shell_execute.h"
+#include "platform/win32/wide.h"
 
 #include <cstddef>
 #include <cstring>
@@ -24,21 +24,59 @@ struct VersionRecord {
 static_assert(offsetof(VersionRecord, fixed) == 40);
 
 constexpr DWORD elevationRequired = 740; ///< The headers for Windows XP do not know it yet.
-constexpr INT_PTR lastShellFailure = 32;
+
+/// Empty when it is not found.
+std::string searchPath(const std::string& name, bool asExe) {
+    if (hasWideCalls()) {
+        const std::wstring wide = briefPath(name);
+        return reachablePath(textFrom([&](wchar_t* buffer, DWORD size) {
+            return SearchPathW(nullptr, wide.c_str(), asExe ? L".exe" : nullptr, size, buffer, nullptr);
+        }));
+    }
+    char path[MAX_PATH];
+    const DWORD length =
+        SearchPathA(nullptr, name.c_str(), asExe ? ".exe" : nullptr, sizeof path, path, nullptr);
+    return length < sizeof path ? std::string(path, length) : std::string();
+}
 
 /// The program's file, looked for as the system does when it gets nothing but a command line, though by the
 /// whole name. Empty when it is not there.
 std::string fileOf(const std::string& program) {
     const bool quoted = program.size() > 1 && program.front() == '"' && program.back() == '"';
     const std::string name = quoted ? program.substr(1, program.size() - 2) : program;
-    for (const char* extension : {".exe", static_cast<const char*>(nullptr)}) {
-        char path[MAX_PATH];
-        const DWORD length = SearchPathA(nullptr, name.c_str(), extension, sizeof path, path, nullptr);
-        if (length > 0 && length < sizeof path) {
-            return {path, length};
+    const std::string file = searchPath(name, true);
+    return file.empty() ? searchPath(name, false) : file;
+}
+
+template<class Startup>
+Startup startupWith(WORD show) {
+    Startup startup{};
+    startup.cb = sizeof startup;
+    startup.dwFlags = STARTF_USESHOWWINDOW;
+    startup.wShowWindow = show;
+    return startup;
+}
+
+/// Starts the file with a command line. On failure the system's error tells why.
+bool create(const std::string& file, std::string line, WORD show) {
+    PROCESS_INFORMATION started{};
+    if (hasWideCalls()) {
+        auto startup = startupWith<STARTUPINFOW>(show);
+        std::wstring wideLine = wideText(line);
+        if (!CreateProcessW(briefPath(file).c_str(), wideLine.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                            nullptr, &startup, &started)) {
+            return false;
+        }
+    } else {
+        auto startup = startupWith<STARTUPINFOA>(show);
+        if (!CreateProcessA(file.c_str(), line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
+                            &started)) {
+            return false;
         }
     }
-    return {};
+    const OwnedHandle process(started.hProcess);
+    const OwnedHandle thread(started.hThread);
+    return true;
 }
 
 /// With blanks in it the name stands in quotes, as the system puts it when it has to find the program by
@@ -57,19 +95,18 @@ public:
     }
 
     std::string programFile() override {
-        std::string path(MAX_PATH, '\0');
-        for (;;) {
-            const DWORD size = static_cast<DWORD>(path.size());
-            const DWORD length = GetModuleFileNameA(nullptr, path.data(), size);
-            if (length < size) {
-                path.resize(length);
-                return path;
-            }
-            path.resize(path.size() * 2);
+        if (hasWideCalls()) {
+            return reachablePath(textFrom(
+                [](wchar_t* buffer, DWORD size) { return GetModuleFileNameW(nullptr, buffer, size); }));
         }
+        char path[MAX_PATH];
+        return {path, GetModuleFileNameA(nullptr, path, sizeof path)};
     }
 
-    std::string commandLine() override { return std::string(behindProgramName(GetCommandLineA())); }
+    std::string commandLine() override {
+        return std::string(behindProgramName(hasWideCalls() ? narrowText(GetCommandLineW())
+                                                            : std::string(GetCommandLineA())));
+    }
 
     std::array<int, 3> programVersion() override {
         const HRSRC found = FindResourceA(nullptr, MAKEINTRESOURCEA(VS_VERSION_INFO), RT_VERSION);
@@ -91,28 +128,20 @@ public:
         // A bare name is looked for in the current folder too, and what is started looks there for its
         // libraries: it must not be a folder that the user has last opened or that a link has chosen.
         const std::string own = programFile();
-        SetCurrentDirectoryA(own.substr(0, own.rfind('\\') + 1).c_str());
+        const std::string ownFolder = own.substr(0, own.rfind('\\') + 1);
+        hasWideCalls() ? SetCurrentDirectoryW(briefPath(ownFolder).c_str())
+                       : SetCurrentDirectoryA(ownFolder.c_str());
         const std::string file = fileOf(program);
         if (file.empty() || program.size() + 1 + arguments.size() > longestCommandLine) {
             return false;
         }
         std::string line = asFirstArgument(program);
         line += arguments.empty() ? "" : " " + arguments;
-        STARTUPINFOA startup{};
-        startup.cb = sizeof startup;
-        startup.dwFlags = STARTF_USESHOWWINDOW;
-        startup.wShowWindow = style == WindowStyle::MinimizedFocus ? SW_SHOWMINIMIZED : SW_SHOWNORMAL;
-        PROCESS_INFORMATION started{};
-        if (!CreateProcessA(file.c_str(), line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
-                            &started)) {
-            // The shell asks the user for the rights that the program wants.
-            return GetLastError() == elevationRequired &&
-                   reinterpret_cast<INT_PTR>(ShellExecuteA(nullptr, nullptr, file.c_str(), arguments.c_str(),
-                                                           nullptr, startup.wShowWindow)) > lastShellFailure;
-        }
-        const OwnedHandle process(started.hProcess);
-        const OwnedHandle thread(started.hThread);
-        return true;
+        const WORD show = style == WindowStyle::MinimizedFocus ? SW_SHOWMINIMIZED : SW_SHOWNORMAL;
+        // The shell asks the user for the rights that a program wants.
+        return create(file, line, show) ||
+               (GetLastError() == elevationRequired &&
+                shellExecute(nullptr, "", file, arguments, "", show) > Shell::lastFailure);
     }
 
     bool anotherInstance() override { return anotherInstance_; }

@@ -6,28 +6,36 @@
 
 #include <shlobj.h>
 
+#include <functional>
+
 namespace tarvelon {
 
 namespace {
+
+/// By the interface for wide or narrow texts, into which `turned` turns each text.
+template<class Interface, class Turned>
+bool save(const std::string& linkPath, const ShellLink& link, const Turned& turned) {
+    const auto object = makeComponent<Interface>(CLSID_ShellLink);
+    const auto file = object ? queryComponent<IPersistFile>(*object) : nullptr;
+    const auto given = [&](const std::string& text, const auto& call) {
+        return text.empty() || SUCCEEDED(call(turned(text).c_str()));
+    };
+    return file && SUCCEEDED(object->SetPath(turned(link.path).c_str())) &&
+           given(link.workingDirectory, [&](auto text) { return object->SetWorkingDirectory(text); }) &&
+           given(link.arguments, [&](auto text) { return object->SetArguments(text); }) &&
+           SUCCEEDED(object->SetDescription(turned(link.description).c_str())) &&
+           given(link.iconFile, [&](auto text) { return object->SetIconLocation(text, link.iconIndex); }) &&
+           SUCCEEDED(object->SetShowCmd(link.showCmd)) &&
+           SUCCEEDED(object->Resolve(nullptr, link.resolveFlags)) &&
+           SUCCEEDED(file->Save(briefPath(linkPath).c_str(), FALSE));
+}
 
 /// Needs the component library on its thread, which `Win32Platform` starts once.
 class Win32Shortcuts : public Shortcuts {
 public:
     bool saveShellLink(const std::string& linkPath, const ShellLink& link) override {
-        const auto object = makeComponent<IShellLinkA>(CLSID_ShellLink);
-        const auto file = object ? queryComponent<IPersistFile>(*object) : nullptr;
-        const auto given = [](const std::string& text, const auto& call) {
-            return text.empty() || SUCCEEDED(call(text.c_str()));
-        };
-        return file && SUCCEEDED(object->SetPath(link.path.c_str())) &&
-               given(link.workingDirectory, [&](LPCSTR text) { return object->SetWorkingDirectory(text); }) &&
-               given(link.arguments, [&](LPCSTR text) { return object->SetArguments(text); }) &&
-               SUCCEEDED(object->SetDescription(link.description.c_str())) &&
-               given(link.iconFile,
-                     [&](LPCSTR text) { return object->SetIconLocation(text, link.iconIndex); }) &&
-               SUCCEEDED(object->SetShowCmd(link.showCmd)) &&
-               SUCCEEDED(object->Resolve(nullptr, link.resolveFlags)) &&
-               SUCCEEDED(file->Save(wideText(linkPath).c_str(), FALSE));
+        return hasWideCalls() ? save<IShellLinkW>(linkPath, link, wideText)
+                              : save<IShellLinkA>(linkPath, link, std::identity());
     }
 
     bool saveScripted(const std::string& linkPath, const ScriptedShortcut& shortcut) override {

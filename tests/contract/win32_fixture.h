@@ -20,11 +20,9 @@ namespace tarvelon {
 class ContractWorkstation {
 public:
     ContractWorkstation() {
-        char temporary[MAX_PATH];
-        GetTempPathA(sizeof temporary, temporary);
         static int made = 0; // A program that was started may still hold the folder of the test before.
-        folder = temporary + ("tarvelon-contract-" + std::to_string(GetCurrentProcessId()) + "-" +
-                              std::to_string(++made) + "\\");
+        folder = std::filesystem::temp_directory_path().string() + "tarvelon-contract-" +
+                 std::to_string(GetCurrentProcessId()) + "-" + std::to_string(++made) + "\\";
         empty();
         std::filesystem::create_directory(folder);
         makeKey(key);
@@ -34,8 +32,7 @@ public:
     Platform platform() { return win32_.platform(); }
     /// Keeps the file open so that nobody else can, until the result goes.
     std::shared_ptr<void> lock(const std::string& path) {
-        const HANDLE file = CreateFileA(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
-        return std::shared_ptr<void>(file, CloseHandle);
+        return {CreateFileA(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr), CloseHandle};
     }
     void makeKey(const std::string& path) {
         HKEY made = nullptr;
@@ -64,12 +61,12 @@ public:
     /// Target, folder, arguments, description, icon and its number, and the way to show the window, as the
     /// system's own object reads them, with bars between them. Empty when there is no link file.
     std::string readLink(const std::string& path) {
-        const auto link = makeComponent<IShellLinkA>(CLSID_ShellLink);
+        const auto link = makeComponent<IShellLinkW>(CLSID_ShellLink);
         const auto file = queryComponent<IPersistFile>(*link);
         if (FAILED(file->Load(wideText(path).c_str(), STGM_READ))) {
             return {};
         }
-        char texts[5][MAX_PATH] = {};
+        wchar_t texts[5][MAX_PATH] = {};
         auto& [target, workingDirectory, arguments, description, icon] = texts;
         int iconIndex = -1;
         EXPECT_HRESULT_SUCCEEDED(link->GetPath(target, MAX_PATH, nullptr, 0));
@@ -80,8 +77,9 @@ public:
         // Wine's object reads the normal window out of every file, whatever stands in its header.
         std::int32_t show = -1;
         EXPECT_EQ(Win32Files().open(path, OpenMode::Read)->readAt(60, &show, sizeof show), sizeof show);
-        return std::string(target) + "|" + workingDirectory + "|" + arguments + "|" + description + "|" +
-               icon + "|" + std::to_string(iconIndex) + "|" + std::to_string(show);
+        return narrowText(std::wstring(target) + L"|" + workingDirectory + L"|" + arguments + L"|" +
+                          description + L"|" + icon + L"|" + std::to_wstring(iconIndex) + L"|" +
+                          std::to_wstring(show));
     }
     /// Opens a window that closes when it is asked to. A class of the system's own serves.
     static Desktop::Window openWindow(const std::string& title, const std::string& className, bool visible) {
@@ -101,7 +99,7 @@ public:
 private:
     void empty() {
         std::error_code passedOver;
-        std::filesystem::remove_all(folder, passedOver);
+        std::filesystem::remove_all(widePath(folder), passedOver);
         SHDeleteKeyA(HKEY_CURRENT_USER, key.c_str());
     }
 

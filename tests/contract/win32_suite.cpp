@@ -6,10 +6,39 @@ namespace tarvelon {
 
 namespace {
 
+TEST_F(Contract, FilesAreReachedWhateverTheirNamesHold) {
+    const std::string own = read(platform.processes.programFile());
+    for (const std::wstring& name : std::vector<std::wstring>{
+             L"\u041f \u043f", L"\u03b1\u03b2", L"\u8868\u30bd", L"\u00e9t\u00e9", L"\U0001f600",
+             std::wstring(81, L'\u6f22'), std::wstring(200, L'n'), L"NUL"}) {
+        // A folder of this name, and in it a program: this very test, which lists itself when it is started.
+        const std::string base = folder + std::to_string(name[0]) + "\\";
+        const std::wstring wide = L"\\\\?\\" + wideText(base) + name;
+        const std::wstring program = wide + L"\\" + name + L".exe";
+        ASSERT_TRUE(files.createFolder(base) && CreateDirectoryW(wide.c_str(), nullptr) && put("x", own) &&
+                    MoveFileW(wideText(folder + "x").c_str(), program.c_str()));
+        const std::string place = base + list(base).back() + "\\";
+        const std::string path = place + list(place).back();
+        char found[1024] = "";
+        files.getShortPathName(path, found, sizeof found);
+        EXPECT_TRUE(files.length(path) == own.size() && read(found) == own) << path;
+        EXPECT_TRUE(!exactNarrowText(name) || // Nobody can ask for it.
+                    (files.searchTreeForFile(base, narrowText(name + L".exe"), found) && read(found) == own))
+            << path;
+        EXPECT_TRUE(files.move(path, place + "y") && files.move(place + "y", path) &&
+                    files.open(path + "r", OpenMode::Create) && files.remove(path + "r"));
+        const std::string arguments = "--gtest_list_tests --gtest_output=json:" + base + "made";
+        EXPECT_TRUE(name == L"NUL" || (platform.processes.start(path, arguments, WindowStyle::NormalFocus) &&
+                                       workstation->hasMade(base + "made", "")));
+    }
+    EXPECT_EQ(nameOf(L"\xd83d.dll", L""), "?.dll") << "Half of a character";
+    EXPECT_EQ(nameOf(L"\xd83d.dll", L"_~1.DLL"), "_~1.DLL");
+}
+
 TEST_F(Contract, AMoveOutlastsAProgramThatHoldsTheOtherFileForAMoment) {
     ASSERT_TRUE(put("from", "new") && put("to", "old"));
     auto lock = workstation->lock(folder + "to");
-    LPTHREAD_START_ROUTINE letGo = [](void* held) WINAPI -> DWORD {
+    const auto letGo = [](void* held) WINAPI -> DWORD {
         Sleep(120);
         static_cast<std::shared_ptr<void>*>(held)->reset();
         return 0;

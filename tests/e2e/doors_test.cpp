@@ -24,7 +24,7 @@ TEST(Doors, NothingOfTheProgramsOwnOrTheCurrentFolderIsLoadedOrStarted) {
     CreateDirectoryA(current.c_str(), nullptr);
     // Loaded at run time, for the search and the digests.
     std::vector<std::unique_ptr<PlantedFile>> planted;
-    for (const char* library : {"imagehlp.dll", "rsaenh.dll"}) {
+    for (const char* library : {"dbghelp.dll", "rsaenh.dll"}) {
         for (const std::string& place : {folder.path(), current}) {
             planted.push_back(std::make_unique<PlantedFile>(place + library,
                                                             readFile(systemDirectory() + library).value()));
@@ -54,7 +54,7 @@ TEST(Doors, NothingOfTheProgramsOwnOrTheCurrentFolderIsLoadedOrStarted) {
     SetCurrentDirectoryA("C:\\");
     EXPECT_THAT(stranger.records(), IsEmpty());
     const std::vector<std::string> modules = program.modules();
-    EXPECT_THAT(modules, testing::Contains(testing::EndsWith("\\imagehlp.dll")));
+    EXPECT_THAT(modules, testing::Contains(testing::EndsWith("\\dbghelp.dll")));
     EXPECT_THAT(modules, testing::Contains(testing::EndsWith("\\rsaenh.dll")));
     for (const std::string& module : modules) {
         EXPECT_TRUE(module == folder.program() || module.rfind(folder.path(), 0) != 0) << module;

@@ -92,23 +92,5 @@ TEST_F(Controls, NothingIsClickedInADisabledFrame) {
     EXPECT_EQ(check.value(), 1);
 }
 
-TEST_F(Controls, FlatOnesShowThePressAndTheMouse) {
-    for (const auto leave : {&cButton::mouseMove, &cButton::mouseUp}) {
-        button.mouseDown();
-        EXPECT_EQ(button.foreColor(), colors::white);
-        (button.*leave)();
-        EXPECT_EQ(button.foreColor(), colors::black);
-    }
-    check.mouseMoveLabel();
-    EXPECT_TRUE(check.hovered());
-    check.mouseMoveBox();
-    EXPECT_EQ(told(), 6);
-    button.Enabled = false;
-    button.mouseDown();
-    EXPECT_EQ(button.foreColor(), colors::white);
-    button.Enabled = true;
-    EXPECT_EQ(button.foreColor(), colors::black) << "it was not pressed";
-}
-
 } // namespace
 } // namespace tarvelon

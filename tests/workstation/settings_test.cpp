@@ -238,19 +238,5 @@ TEST_F(SettingsRun, TheWizardWritesTheSettingsAndTheShortcut) {
     EXPECT_THAT(data("Tarvelon.dat"), EndsWith("antivirus=Anti-Virus Software| \r\n"));
 }
 
-TEST_F(SettingsRun, TheWizardsLabelsLightUpOneAtATime) {
-    Label& cancel = wizard().Label3;
-    wizard().Label1.onMouseMove();
-    cancel.onMouseMove();
-    EXPECT_TRUE(cancel.ForeColor() == 0xff0000u && cancel.Underlined() && !wizard().Label1.Underlined());
-    cancel.mouseDown();
-    EXPECT_EQ(cancel.ForeColor(), 0xff8080u);
-    cancel.mouseUp();
-    EXPECT_TRUE(cancel.ForeColor() == colors::black && !cancel.Underlined());
-    cancel.onMouseMove(); // Lit again after a release.
-    wizard().onMouseMove();
-    EXPECT_FALSE(cancel.Underlined());
-}
-
 } // namespace
 } // namespace tarvelon

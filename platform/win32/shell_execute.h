@@ -1,0 +1,14 @@
+#pragma once
+
+#include "platform/win32/windows_api.h"
+
+#include <cstdint>
+#include <string>
+
+namespace tarvelon {
+
+/// `ShellExecute`: above 32 for success. Empty texts are left out.
+std::intptr_t shellExecute(HWND owner, const std::string& verb, const std::string& file,
+                           const std::string& arguments, const std::string& folder, int show);
+
+} // namespace tarvelon
