@@ -62,7 +62,8 @@ TEST(RegistryWatch, FromTheFirstSnapshotToAcceptedWarnings) {
     awaitRows(window, {heading, "HKEY_LOCAL_MACHINE|Loaded in Run\\Altered (C:\\Old.exe) Entry Modified!"});
     program.press("Scan & Update Warnings");
     awaitRows(window, {heading, noWarnings});
-    EXPECT_THAT(scanner.records(1), ElementsAre("2 " + scanner.path() + " /scan  \"C:\\Old.exe\""));
+    EXPECT_THAT(scanner.records(1),
+                ElementsAre("2 " + scanner.path() + " /scan  \"C:\\Old.exe\" !C:\\Old.exe"));
     EXPECT_THAT(recorded(), HasSubstr("[LM/R]\r\nAltered= (C:\\Old.exe)\r\n"));
 }
 
