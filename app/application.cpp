@@ -8,7 +8,7 @@ namespace tarvelon {
 
 Application::Application(Platform& onPlatform)
     : platform(onPlatform) {
-    globals.cases = CaseRules(platform.codePage);
+    globals.texts = TextRules(platform.codePage);
     tellFailures();
     bindHooks();
 }

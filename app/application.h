@@ -71,7 +71,7 @@ public:
     ICustScreen iCust;
     WizardScreen vDct;
 
-    FuncMod funcMod{platform};
+    FuncMod funcMod{platform, globals.texts};
     SettingsFile settingsFile{globals, platform};
     const Services services{globals, platform, settingsFile, funcMod};
     Checksum checksum{globals.settings, globals, platform};
@@ -100,7 +100,7 @@ public:
     SettingsPages settingsPages{mForm1, mForm1, s_avir, services, ownShortcuts};
     AdvancedPage advancedPage{mForm1, services, checksum};
     SpeedComparison speedComparison{mForm1, services, checksum};
-    MForm1 mainForm{mForm1, globals.app, platform};
+    MForm1 mainForm{mForm1, globals, platform};
     ICust customFolders{iCust, services, checksum};
     StartUp startUp{*this};
 

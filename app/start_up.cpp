@@ -36,7 +36,8 @@ void StartUp::run() {
 void StartUp::fixPaths() {
     const std::string file = app_.platform.processes.programFile();
     AppState& state = app_.globals.app;
-    state.appPath = withBackslash(file.substr(0, file.size() - bareName(file).size()));
+    const TextRules& texts = app_.globals.texts;
+    state.appPath = texts.withBackslash(file.substr(0, file.size() - texts.bareName(file).size()));
     state.settFile = state.dataFolder() + "Tarvelon.dat";
     state.intFile = state.dataFolder() + "Integrity.dat";
     state.regFile = state.dataFolder() + "Registry.dat";

@@ -107,11 +107,11 @@ void AVirHelp::useForSecond(const std::string& path) {
     forSecond_ = false;
     scanners_.Text1.Caption = path;
     // The path again where arguments belong: it then stands twice on that scanner's command line.
-    scanners_.Text2.Caption = scannerFamily(globals.cases, path) == ScannerFamily::Navw ? path : " ";
+    scanners_.Text2.Caption = scannerFamily(globals.texts, path) == ScannerFamily::Navw ? path : " ";
 }
 
 void AVirHelp::useForFirst(const std::string& path) {
-    const std::string arguments = defaultArguments(scannerFamily(globals.cases, path));
+    const std::string arguments = defaultArguments(scannerFamily(globals.texts, path));
     hooks.setWizardPath(path);
     hooks.setWizardArgs(arguments);
     scanners_.Text5.Caption = path;

@@ -10,11 +10,11 @@ std::string scannerBoxFilter() {
     return "Executable Files (*.exe, *.com)\0*.EXE;*.COM\0All Files (*.*)\0*.*\0\0"s;
 }
 
-ScannerFamily scannerFamily(const CaseRules& cases, const std::string& path) {
-    if (cases.find(path, "NAVW") != std::string::npos) {
+ScannerFamily scannerFamily(const TextRules& texts, const std::string& path) {
+    if (texts.find(path, "NAVW") != std::string::npos) {
         return ScannerFamily::Navw;
     }
-    return cases.find(path, "PAVCL") != std::string::npos ? ScannerFamily::Pavcl : ScannerFamily::Other;
+    return texts.find(path, "PAVCL") != std::string::npos ? ScannerFamily::Pavcl : ScannerFamily::Other;
 }
 
 const char* defaultArguments(ScannerFamily family) {

@@ -5,7 +5,7 @@
 
 namespace tarvelon {
 
-class CaseRules;
+class TextRules;
 
 /// A product of the catalogue, and which of its files takes a command line.
 struct KnownScanner {
@@ -38,7 +38,7 @@ std::string scannerBoxFilter();
 enum class ScannerFamily { Navw, Pavcl, Other };
 
 /// By a part of the program's path, whatever its case; a folder's name counts as well.
-ScannerFamily scannerFamily(const CaseRules& cases, const std::string& path);
+ScannerFamily scannerFamily(const TextRules& texts, const std::string& path);
 
 /// The arguments that a scanner needs in front of the files: one blank for most.
 const char* defaultArguments(ScannerFamily family);

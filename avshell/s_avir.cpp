@@ -55,7 +55,7 @@ void SAvir::chooseSecond() {
 }
 
 const char* SAvir::argumentsForFirst() {
-    const ScannerFamily family = scannerFamily(globals.cases, screen_.Text5.Caption());
+    const ScannerFamily family = scannerFamily(globals.texts, screen_.Text5.Caption());
     const char* arguments = defaultArguments(family);
     if (family != ScannerFamily::Pavcl) {
         hooks.setWizardArgs(arguments);

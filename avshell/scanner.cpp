@@ -2,6 +2,8 @@
 
 #include "core/failure.h"
 #include "core/globals.h"
+#include "core/other_page.h"
+#include "platform/codepage.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
 #include "platform/platform.h"
@@ -70,11 +72,39 @@ bool Scanner::batch(int first, int last, const std::function<std::string(int)>& 
     return true;
 }
 
+bool Scanner::opensForAnyProgram(const std::string& path) const {
+    constexpr std::size_t pathRoom = 260;
+    const auto units = platform.codePage.toUtf16(path);
+    return units && units->size() < pathRoom && isInSystemPage(platform, path);
+}
+
+std::string Scanner::handedOver(const std::string& item) const {
+    const std::string path = globals.texts.replaceAll(trim(item), globals.settings.quoteChar, "");
+    if (path.empty() || opensForAnyProgram(path)) {
+        return item;
+    }
+    std::string buffer(1024, '\0');
+    const auto room = static_cast<std::uint32_t>(buffer.size());
+    const std::uint32_t length = platform.files.getShortPathName(path, buffer.data(), room);
+    buffer.resize(length < room ? length : 0);
+    return opensForAnyProgram(buffer) && !buffer.empty() ? replaceExact(item, path, buffer) : item;
+}
+
+std::vector<std::string> Scanner::lists(const ScannerPair& scanners,
+                                        const std::vector<std::string>& items) const {
+    std::vector<std::string> handed;
+    handed.reserve(items.size());
+    for (const std::string& item : items) {
+        handed.push_back(handedOver(item));
+    }
+    return scanners.lists(handed);
+}
+
 void Scanner::startBoth(const ScannerPair& scanners, const std::vector<std::string>& items) const {
     if (items.empty()) {
         return;
     }
-    for (const std::string& list : scanners.lists(items)) {
+    for (const std::string& list : lists(scanners, items)) {
         runScanner(scanners.first.exe, scanners.first.arguments(list));
         if (scanners.second.isSet()) {
             runScanner(scanners.second.exe, scanners.second.arguments(list));

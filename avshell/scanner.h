@@ -41,6 +41,11 @@ public:
     bool batch(int first, int last, const std::function<std::string(int)>& row,
                const std::function<bool(const std::vector<std::string>&)>& flush) const;
 
+    /// The items as lists for the scanners' command lines (see `ScannerPair::lists`). A scanner reads its
+    /// line in the system's ANSI page and mostly opens paths of less than 260 characters: what goes beyond
+    /// that is handed over by its short path, if it has one.
+    std::vector<std::string> lists(const ScannerPair& scanners, const std::vector<std::string>& items) const;
+
     /// Starts both scanners with the items, in as many runs as it takes; nothing is started for no items.
     /// Throws `Failure` at the first scanner that cannot be started.
     void startBoth(const ScannerPair& scanners, const std::vector<std::string>& items) const;
@@ -51,6 +56,8 @@ public:
 
 private:
     std::string item(const std::string& name) const;
+    std::string handedOver(const std::string& item) const;
+    bool opensForAnyProgram(const std::string& path) const;
 
     const CheckBox& avfocus_;
 };

@@ -11,8 +11,9 @@
 
 namespace tarvelon {
 
-std::optional<ScannerCommand> ScannerCommand::parse(const std::string& setting) {
-    const std::size_t bar = setting.find('|');
+std::optional<ScannerCommand> ScannerCommand::stored(const SettingsFile& settings, const char* request) {
+    const std::string setting = settings.getSetting(request);
+    const std::size_t bar = settings.texts().first(setting, '|');
     if (bar == std::string::npos) {
         return std::nullopt;
     }
@@ -29,7 +30,7 @@ std::string ScannerCommand::arguments(const std::string& files) const {
 
 ScannerPair ScannerPair::stored(const SettingsFile& settings) {
     const auto scanner = [&](const char* request) {
-        return ScannerCommand::parse(settings.getSetting(request)).value_or(ScannerCommand{});
+        return ScannerCommand::stored(settings, request).value_or(ScannerCommand{});
     };
     return {scanner("ANTIVIRUS"), scanner("AV2")};
 }
@@ -54,16 +55,16 @@ ScannerCommand ScannerFields::command() const {
     return {exe.Caption(), args.Caption()};
 }
 
-void ScannerFields::fill(const std::string& setting) const {
-    if (const auto scanner = ScannerCommand::parse(setting)) {
+void ScannerFields::fill(const SettingsFile& settings, const char* request) const {
+    if (const auto scanner = ScannerCommand::stored(settings, request)) {
         exe.Caption = scanner->exe;
         args.Caption = scanner->args;
     }
 }
 
 void fillBoth(const SettingsFile& settings, const ScannerFields& first, const ScannerFields& second) {
-    passOver([&] { first.fill(settings.getSetting("ANTIVIRUS")); });
-    passOver([&] { second.fill(settings.getSetting("AV2")); });
+    passOver([&] { first.fill(settings, "ANTIVIRUS"); });
+    passOver([&] { second.fill(settings, "AV2"); });
 }
 
 std::string joined(const std::vector<std::string>& items) {

@@ -14,8 +14,9 @@ struct ScannerCommand {
     std::string exe; ///< Stands in the command line as it is, without quotes.
     std::string args;
 
-    /// From a setting, `<exe>|<args>`; empty without a "|".
-    static std::optional<ScannerCommand> parse(const std::string& setting);
+    /// By its request word, from a setting `<exe>|<args>`; empty without a "|". Throws `Failure` when the
+    /// settings cannot be read.
+    static std::optional<ScannerCommand> stored(const SettingsFile& settings, const char* request);
 
     std::string setting() const { return exe + "|" + args; }
     bool isSet() const;
@@ -29,7 +30,7 @@ struct ScannerPair {
     ScannerCommand first;
     ScannerCommand second;
 
-    /// As they are saved; one that is not saved is empty. Throws `Failure` when the settings cannot be read.
+    /// As they are saved; one that is not saved is empty. Throws `Failure` as above.
     static ScannerPair stored(const SettingsFile& settings);
 
     /// Joins items, each with its blank, to as few lists as the length of a command line allows: one, also
@@ -43,8 +44,8 @@ struct ScannerFields {
     Control& args;
 
     ScannerCommand command() const;
-    /// A setting without a "|" leaves the fields as they are.
-    void fill(const std::string& setting) const;
+    /// What is no scanner's setting leaves the fields as they are. Throws `Failure` as above.
+    void fill(const SettingsFile& settings, const char* request) const;
 };
 
 /// Fills the fields of both scanners from the settings, and leaves them as they are where those cannot be

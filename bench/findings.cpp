@@ -56,7 +56,7 @@ std::string baselineOf(int count) {
         text.append("[").append(section).append("]\r\n");
         for (int number = 0; number < count; number += 2) {
             const std::string name = fileName(number);
-            if (CaseRules().upper(lastCharacters(name, 3)) == section) {
+            if (TextRules().upper(lastCharacters(name, 3)) == section) {
                 text.append(name).append("=3A2B44C1*E\r\n");
             }
         }

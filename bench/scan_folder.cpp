@@ -50,8 +50,9 @@ double scan(const std::string& drive, const std::string& folder, const std::stri
     pc.files.put(dataFolder + "Tarvelon.dat", settings);
     pc.processes.arguments = first ? "" : "/r";
     Yes yes;
-    Platform platform{pc.codePage, pc.files, pc.folders, pc.crypto,    pc.messages, yes,       pc.processes,
-                      pc.registry, pc.clock, pc.shell,   pc.shortcuts, pc.power,    pc.desktop};
+    Platform platform{pc.codePage, pc.systemPage, pc.files,     pc.folders,  pc.crypto,
+                      pc.messages, yes,           pc.processes, pc.registry, pc.clock,
+                      pc.shell,    pc.shortcuts,  pc.power,     pc.desktop};
     Application app(platform);
     for (Screen* screen : app.screens()) {
         pc.attach(*screen);

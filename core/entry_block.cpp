@@ -10,11 +10,11 @@ namespace {
 constexpr std::string_view endMark = "*E\r\n";
 constexpr std::string_view lastLine = "\r\nNULL*E\r\n";
 
-// FNV-1a, 32 bits, over upper-cased characters (by Fowler, Noll and Vo).
+// FNV-1a, 32 bits, over what letters are compared by (by Fowler, Noll and Vo).
 constexpr std::uint32_t hashStart = 2166136261u;
 
-std::uint32_t hashStep(std::uint32_t hash, char upperCased) {
-    return (hash ^ static_cast<unsigned char>(upperCased)) * 16777619u;
+std::uint32_t hashStep(std::uint32_t hash, std::uint32_t folded) {
+    return (hash ^ folded) * 16777619u;
 }
 
 } // namespace
@@ -38,19 +38,28 @@ void EntryBlock::setText(std::string text) {
     endMarks_.clear();
 }
 
-void EntryBlock::put(const CaseRules& cases, const std::string& key, const std::string& value) {
+void EntryBlock::put(const TextRules& texts, const std::string& key, const std::string& value) {
     const bool oneLine = (key + value).find_first_of(lineEnd) == std::string::npos;
-    if (!oneLine || !gather(cases) || !putIntoLines(cases, key, value)) {
-        putIntoText(cases, key, value);
+    if (!oneLine || !gather(texts) || !putIntoLines(texts, key, value)) {
+        putIntoText(texts, key, value);
     }
 }
 
+bool EntryBlock::has(const TextRules& texts, const std::string& key) {
+    if (!gather(texts)) {
+        return texts.find(text_, std::string(lineEnd) + key + "=") != std::string::npos;
+    }
+    const std::string name = texts.upper(key) + "=";
+    const auto line = gathered_.inCapitals.lower_bound(name);
+    return line != gathered_.inCapitals.end() && line->first.starts_with(name);
+}
+
 /// Cuts the text into lines. False when it does not end with its only "NULL*E" line.
-bool EntryBlock::gather(const CaseRules& cases) {
+bool EntryBlock::gather(const TextRules& texts) {
     if (!gathered_.lines.empty()) {
         return true;
     }
-    if (!text_.ends_with(lastLine) || cases.find(text_, lastLine) + lastLine.size() != text_.size()) {
+    if (!text_.ends_with(lastLine) || texts.find(text_, lastLine) + lastLine.size() != text_.size()) {
         return false;
     }
     const std::string text = std::exchange(text_, {});
@@ -58,23 +67,23 @@ bool EntryBlock::gather(const CaseRules& cases) {
     const std::size_t stop = text.size() - lastLine.size() + lineEnd.size();
     for (std::size_t start = 0; start < stop;) {
         const std::size_t end = text.find(lineEnd, start);
-        addLine(cases, text.substr(start, end - start));
+        addLine(texts, text.substr(start, end - start));
         start = end + lineEnd.size();
     }
     return true;
 }
 
-void EntryBlock::addLine(const CaseRules& cases, std::string line) {
+void EntryBlock::addLine(const TextRules& texts, std::string line) {
     if (!gathered_.lines.empty()) {
-        gathered_.inCapitals.emplace(cases.upper(line), gathered_.lines.size());
+        gathered_.inCapitals.emplace(texts.upper(line), gathered_.lines.size());
     }
     gathered_.lines.push_back(std::move(line));
 }
 
 /// Does what `putIntoText` would do. False when the value to replace does not end with its line.
-bool EntryBlock::putIntoLines(const CaseRules& cases, const std::string& key, const std::string& value) {
+bool EntryBlock::putIntoLines(const TextRules& texts, const std::string& key, const std::string& value) {
     auto& [lines, inCapitals] = gathered_;
-    const std::string name = cases.upper(key);
+    const std::string name = texts.upper(key);
     bool known = lastLine.substr(lineEnd.size()).starts_with(key);
     std::vector<decltype(inCapitals.begin())> named;
     for (auto it = inCapitals.lower_bound(name); it != inCapitals.end() && it->first.starts_with(name);
@@ -86,7 +95,7 @@ bool EntryBlock::putIntoLines(const CaseRules& cases, const std::string& key, co
     }
     std::string entry = key + "=" + value;
     if (!known) {
-        addLine(cases, std::move(entry));
+        addLine(texts, std::move(entry));
         return true;
     }
     if (named.empty()) {
@@ -102,7 +111,7 @@ bool EntryBlock::putIntoLines(const CaseRules& cases, const std::string& key, co
         const std::size_t number = it->second;
         if (it->first == old && number >= next) {
             auto node = inCapitals.extract(it);
-            node.key() = cases.upper(entry);
+            node.key() = texts.upper(entry);
             inCapitals.insert(std::move(node));
             lines[number] = entry;
             next = number + 2; // Two hits in a row would share a line end: the second one stays.
@@ -111,31 +120,33 @@ bool EntryBlock::putIntoLines(const CaseRules& cases, const std::string& key, co
     return true;
 }
 
-void EntryBlock::putIntoText(const CaseRules& cases, const std::string& key, const std::string& value) {
+void EntryBlock::putIntoText(const TextRules& texts, const std::string& key, const std::string& value) {
     const std::string line = std::string(lineEnd) + key;
     const bool known = text().find(line) != std::string::npos;
     std::string old(lastLine);
     if (known) {
-        old = line + "=" + getBetween(cases, text_, 1, line + "=", endMark) + std::string(endMark);
+        old = line + "=" + getBetween(texts, text_, 1, line + "=", endMark) + std::string(endMark);
     }
     const std::string_view behind = known ? lineEnd : lastLine;
-    setText(cases.replaceAll(text_, old, line + "=" + value + std::string(behind)));
+    setText(texts.replaceAll(text_, old, line + "=" + value + std::string(behind)));
 }
 
-std::string EntryBlock::find(const CaseRules& cases, std::string_view key) const {
+std::string EntryBlock::find(const TextRules& texts, std::string_view key) const {
     text();
     if (key.find_first_of(lineEnd) != std::string_view::npos) {
         // Such a key may reach over a line end, where the index does not look.
-        return getBetween(cases, text_, 1, std::string(lineEnd).append(key).append("="), endMark);
+        return getBetween(texts, text_, 1, std::string(lineEnd).append(key).append("="), endMark);
     }
     if (!indexed_) {
-        buildIndex(cases);
+        buildIndex(texts);
     }
     std::uint32_t hash = hashStart;
-    for (const char character : key) {
-        hash = hashStep(hash, cases.upper(character));
+    for (std::size_t i = 0; i < key.size();) {
+        const TextRules::Letter letter = texts.letterAt(key, i);
+        hash = hashStep(hash, letter.folded);
+        i += letter.length;
     }
-    const Slot& slot = slotFor(cases, hash, key);
+    const Slot& slot = slotFor(texts, hash, key);
     if (slot.length == unused) {
         return {};
     }
@@ -144,7 +155,7 @@ std::string EntryBlock::find(const CaseRules& cases, std::string_view key) const
     return end == endMarks_.end() ? std::string() : text_.substr(begin, *end - begin);
 }
 
-void EntryBlock::buildIndex(const CaseRules& cases) const {
+void EntryBlock::buildIndex(const TextRules& texts) const {
     // A name may itself hold "=", so each "=" of a line ends one possible name.
     const auto names = static_cast<std::size_t>(std::count(text_.begin(), text_.end(), '='));
     std::size_t size = 16;
@@ -156,22 +167,24 @@ void EntryBlock::buildIndex(const CaseRules& cases) const {
 
     std::size_t line = text_.find(lineEnd);
     while (line != std::string::npos) {
-        if (line >= 2 && cases.equal(std::string_view(text_).substr(line - 2, endMark.size()), endMark)) {
+        if (line >= 2 && texts.equal(std::string_view(text_).substr(line - 2, endMark.size()), endMark)) {
             endMarks_.push_back(static_cast<std::uint32_t>(line - 2));
         }
         line += lineEnd.size();
         const std::size_t next = text_.find(lineEnd, line);
         const std::size_t stop = next == std::string::npos ? text_.size() : next;
         std::uint32_t hash = hashStart;
-        for (std::size_t i = line; i < stop; ++i) {
+        for (std::size_t i = line; i < stop;) {
             if (text_[i] == '=') {
                 const std::string_view name = std::string_view(text_).substr(line, i - line);
-                Slot& slot = slotFor(cases, hash, name);
+                Slot& slot = slotFor(texts, hash, name);
                 if (slot.length == unused) { // The first line of a name wins.
                     slot = {static_cast<std::uint32_t>(line), static_cast<std::uint32_t>(i - line)};
                 }
             }
-            hash = hashStep(hash, cases.upper(text_[i]));
+            const TextRules::Letter letter = texts.letterAt(text_, i);
+            hash = hashStep(hash, letter.folded);
+            i += letter.length;
         }
         line = next;
     }
@@ -179,7 +192,7 @@ void EntryBlock::buildIndex(const CaseRules& cases) const {
 }
 
 /// The slot that holds `key`, or the free one where it belongs.
-EntryBlock::Slot& EntryBlock::slotFor(const CaseRules& cases, std::uint32_t hash,
+EntryBlock::Slot& EntryBlock::slotFor(const TextRules& texts, std::uint32_t hash,
                                       std::string_view key) const {
     const std::size_t mask = slots_.size() - 1;
     std::size_t place = (hash ^ (hash >> 15)) & mask;
@@ -188,8 +201,7 @@ EntryBlock::Slot& EntryBlock::slotFor(const CaseRules& cases, std::uint32_t hash
         if (slot.length == unused) {
             return slot;
         }
-        if (slot.length == key.size() &&
-            cases.equal(std::string_view(text_).substr(slot.start, slot.length), key)) {
+        if (texts.equal(std::string_view(text_).substr(slot.start, slot.length), key)) {
             return slot;
         }
     }

@@ -24,10 +24,13 @@ public:
     /// case of letters and whatever follows, so that the beginning of a longer name is as well. A new entry
     /// comes in front of each "NULL*E" line. For a known name the value that `find` gives is replaced, on
     /// every line that has name and value in any case; without such a value nothing changes.
-    void put(const CaseRules& cases, const std::string& key, const std::string& value);
+    void put(const TextRules& texts, const std::string& key, const std::string& value);
+
+    /// Some line has this name, in any case of letters.
+    bool has(const TextRules& texts, const std::string& key);
 
     /// The value of `key`, untrimmed; empty when there is none.
-    std::string find(const CaseRules& cases, std::string_view key) const;
+    std::string find(const TextRules& texts, std::string_view key) const;
 
 private:
     /// A candidate line: it starts at `start`, and `length` characters later stands a "=".
@@ -43,12 +46,12 @@ private:
         std::multimap<std::string, std::size_t> inCapitals; ///< The same, but for the section's head.
     };
 
-    bool gather(const CaseRules& cases);
-    void addLine(const CaseRules& cases, std::string line);
-    bool putIntoLines(const CaseRules& cases, const std::string& key, const std::string& value);
-    void putIntoText(const CaseRules& cases, const std::string& key, const std::string& value);
-    void buildIndex(const CaseRules& cases) const;
-    Slot& slotFor(const CaseRules& cases, std::uint32_t hash, std::string_view key) const;
+    bool gather(const TextRules& texts);
+    void addLine(const TextRules& texts, std::string line);
+    bool putIntoLines(const TextRules& texts, const std::string& key, const std::string& value);
+    void putIntoText(const TextRules& texts, const std::string& key, const std::string& value);
+    void buildIndex(const TextRules& texts) const;
+    Slot& slotFor(const TextRules& texts, std::uint32_t hash, std::string_view key) const;
 
     mutable std::string text_;
     mutable Gathered gathered_;

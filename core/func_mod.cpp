@@ -29,13 +29,13 @@ std::string FuncMod::getSysDir() const {
     std::string buffer(144, '\0');
     const auto size = static_cast<std::uint32_t>(buffer.size());
     const std::uint32_t length = platform_.folders.getSystemDirectory(buffer.data(), size);
-    return withBackslash(buffer.substr(0, std::min(length, size)));
+    return texts_.withBackslash(buffer.substr(0, std::min(length, size)));
 }
 
 std::string FuncMod::getWinDir() const {
     std::string buffer(SystemFolders::pathRoom, '\0');
     platform_.folders.getWindowsDirectory(buffer.data(), static_cast<std::uint32_t>(buffer.size()));
-    return buffer.find('\0') == std::string::npos ? std::string() : withBackslash(cutAtZero(buffer));
+    return buffer.find('\0') == std::string::npos ? std::string() : texts_.withBackslash(cutAtZero(buffer));
 }
 
 std::string FuncMod::getSpecialFolder(int id) const {
@@ -43,7 +43,7 @@ std::string FuncMod::getSpecialFolder(int id) const {
     platform_.folders.getSpecialFolderPath(id, buffer.data());
     buffer.resize(255);
     const std::string folder = trim(cutAtZero(buffer));
-    return folder == "\\" ? "C:\\Program Files\\" : withBackslash(folder);
+    return folder == "\\" ? "C:\\Program Files\\" : texts_.withBackslash(folder);
 }
 
 std::string FuncMod::findInTree(const std::string& root, const std::string& name) const {

@@ -5,12 +5,14 @@
 namespace tarvelon {
 
 struct Platform;
+class TextRules;
 
 /// Small procedures over the platform that all subsystems call. None shows a message.
 class FuncMod {
 public:
-    explicit FuncMod(Platform& platform)
-        : platform_(platform) {}
+    FuncMod(Platform& platform, const TextRules& texts)
+        : platform_(platform)
+        , texts_(texts) {}
 
     /// Whether the file can be opened for reading: a locked file counts as absent, and so does a folder.
     bool fileThere(const std::string& path) const;
@@ -36,6 +38,7 @@ public:
 
 private:
     Platform& platform_;
+    const TextRules& texts_;
 };
 
 } // namespace tarvelon

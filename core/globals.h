@@ -114,7 +114,7 @@ struct ShutDownState {
 
 /// The state that all subsystems share; made once, in `Application`.
 struct Globals {
-    CaseRules cases;
+    TextRules texts; ///< Of the process's code page.
     AppState app;
     Settings settings;
     Baselines baselines;

@@ -17,9 +17,9 @@ class OpenFile;
 /// calls.
 class ProfileFiles {
 public:
-    ProfileFiles(Files& files, const CaseRules& cases)
+    ProfileFiles(Files& files, const TextRules& texts)
         : files_(files)
-        , image_(cases) {}
+        , image_(texts) {}
 
     /// Empty when the file, the section or the key is not there.
     std::string read(const std::string& path, const std::string& section, const std::string& key);

@@ -168,11 +168,11 @@ void ProfileImage::parse() {
 }
 
 void ProfileImage::noteKey(const std::string& prefix, std::string_view text, std::size_t line) {
-    keys_.try_emplace(prefix + cases_->upper(trimBlanks(text.substr(0, text.find('=')))), line);
+    keys_.try_emplace(prefix + texts_->upper(trimBlanks(text.substr(0, text.find('=')))), line);
 }
 
 std::string ProfileImage::lookupName(std::string_view section, std::string_view key) const {
-    return cases_->upper(trimBlanks(section)).append("\n").append(cases_->upper(trimBlanks(key)));
+    return texts_->upper(trimBlanks(section)).append("\n").append(texts_->upper(trimBlanks(key)));
 }
 
 void ProfileImage::goTo(std::size_t line) {

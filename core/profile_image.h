@@ -17,8 +17,8 @@ namespace tarvelon {
 /// also one that looks like a comment or like a section head.
 class ProfileImage {
 public:
-    explicit ProfileImage(const CaseRules& cases)
-        : cases_(&cases) {}
+    explicit ProfileImage(const TextRules& texts)
+        : texts_(&texts) {}
 
     const std::string& text() const { return text_; }
     void setText(std::string text);
@@ -48,7 +48,7 @@ private:
     void goTo(std::size_t line);
     std::string_view lineText() const;
 
-    const CaseRules* cases_;
+    const TextRules* texts_;
     std::string text_;
     bool parsed_ = false;
     std::vector<std::size_t> lengths_;                  ///< Of the lines, line ends included.

@@ -3,6 +3,7 @@
 #include "core/failure.h"
 #include "core/file_text.h"
 #include "core/globals.h"
+#include "core/other_page.h"
 #include "platform/files.h"
 #include "platform/platform.h"
 
@@ -49,10 +50,10 @@ std::string newSettings() {
     return text;
 }
 
-std::optional<std::size_t> placeOf(const CaseRules& cases, const std::array<std::string, sectionCount>& names,
+std::optional<std::size_t> placeOf(const TextRules& texts, const std::array<std::string, sectionCount>& names,
                                    const std::string& name) {
     for (std::size_t i = 0; i < names.size(); ++i) {
-        if (cases.equal(names[i], name)) {
+        if (texts.equal(names[i], name)) {
             return i + 1;
         }
     }
@@ -76,7 +77,7 @@ void giveSections(std::array<EntryBlock, sectionCount>& blocks,
 SettingsFile::SettingsFile(Globals& globals, Platform& platform)
     : globals_(globals)
     , platform_(platform)
-    , profiles_(platform.files, globals.cases) {}
+    , profiles_(platform.files, globals.texts) {}
 
 void SettingsFile::checkSettFile() {
     const std::string& path = globals_.app.settFile;
@@ -97,9 +98,9 @@ std::string SettingsFile::getSetting(const std::string& request) const {
         throw Failure("The settings file cannot be read:\r\n" + globals_.app.settFile);
     }
     for (const Request& known : requests) {
-        if (globals_.cases.equal(request, known.word)) {
-            const std::string value = getBetween(globals_.cases, *text, 1, known.searched, lineEnd);
-            return value.size() >= 2 ? value : std::string();
+        if (globals_.texts.equal(request, known.word)) {
+            const std::string value = getBetween(globals_.texts, *text, 1, known.searched, lineEnd);
+            return value.size() >= 2 ? fromEitherPage(platform_, value) : std::string();
         }
     }
     return {};
@@ -107,12 +108,11 @@ std::string SettingsFile::getSetting(const std::string& request) const {
 
 std::string SettingsFile::readIni(const std::string& file, const std::string& key,
                                   const std::string& section) {
-    constexpr std::size_t bufferWithoutZero = 249;
-    return profiles_.read(file, section, key).substr(0, bufferWithoutZero);
+    return profiles_.read(file, section, key).substr(0, longestValue);
 }
 
 std::string SettingsFile::ofSlot(const std::string& slot, const std::string& key) {
-    return readIni(globals_.app.settFile, key, slot);
+    return fromEitherPage(platform_, readIni(globals_.app.settFile, key, slot));
 }
 
 std::string SettingsFile::ofSlot(int slot, const std::string& key) {
@@ -129,7 +129,11 @@ void SettingsFile::saveSetting(const std::string& key, const std::string& value)
 
 std::optional<bool> SettingsFile::writeEntry(const std::string& file, const std::string& key,
                                              const std::string& value, const std::string& section) {
-    if (globals_.baselines.primaryScan || isWrittenThrough(file)) {
+    const bool isBaseline = !isWrittenThrough(file);
+    if (isBaseline && key.find('?') != std::string::npos) {
+        return std::nullopt;
+    }
+    if (globals_.baselines.primaryScan || !isBaseline) {
         return profiles_.write(file, section, key, value);
     }
     writeToMemory(key, value, section);
@@ -138,7 +142,7 @@ std::optional<bool> SettingsFile::writeEntry(const std::string& file, const std:
 
 bool SettingsFile::isWrittenThrough(const std::string& file) const {
     const std::string_view tail = lastCharacters(file, 12);
-    return globals_.cases.equal(tail, "REGISTRY.DAT") || globals_.cases.equal(tail, "TARVELON.DAT");
+    return globals_.texts.equal(tail, "REGISTRY.DAT") || globals_.texts.equal(tail, "TARVELON.DAT");
 }
 
 void SettingsFile::writeToMemory(const std::string& key, const std::string& value,
@@ -148,19 +152,26 @@ void SettingsFile::writeToMemory(const std::string& key, const std::string& valu
     auto& blocks = custom ? baselines.customText : baselines.sectionText;
     auto& names = custom ? baselines.customName : baselines.sectionName;
     giveSections(blocks, names);
-    const auto number = placeOf(globals_.cases, names, section);
+    const auto number = placeOf(globals_.texts, names, section);
     if (!number) {
         throw Failure("The baseline has no section \"" + section + "\".");
     }
-    blocks[*number - 1].put(globals_.cases, key, value);
+    EntryBlock& block = blocks[*number - 1];
+    const auto other = isAscii(key) ? std::nullopt : inOtherPage(platform_, key);
+    const bool madeInOther = other && block.has(globals_.texts, *other) && !block.has(globals_.texts, key);
+    block.put(globals_.texts, madeInOther ? *other : key, value);
+}
+
+const TextRules& SettingsFile::texts() const {
+    return globals_.texts;
 }
 
 std::optional<std::size_t> SettingsFile::findSection(const std::string& name) const {
-    return placeOf(globals_.cases, globals_.baselines.sectionName, name);
+    return placeOf(globals_.texts, globals_.baselines.sectionName, name);
 }
 
 std::optional<std::size_t> SettingsFile::findCustomSection(const std::string& name) const {
-    return placeOf(globals_.cases, globals_.baselines.customName, name);
+    return placeOf(globals_.texts, globals_.baselines.customName, name);
 }
 
 } // namespace tarvelon

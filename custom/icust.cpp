@@ -34,8 +34,8 @@ std::string rowText(int slot, const std::string& path) {
 }
 
 /// Passes the ticks over to the settings' digits, by way of the words that the lists speak.
-std::string digits(const CaseRules& cases, const std::string& words) {
-    return cases.replaceAll(cases.replaceAll(words, "False", "0"), "True", "1");
+std::string digits(const TextRules& texts, const std::string& words) {
+    return texts.replaceAll(texts.replaceAll(words, "False", "0"), "True", "1");
 }
 
 const char* word(bool ticked) {
@@ -172,7 +172,7 @@ void ICust::storeTypes(const Use& use) {
         words.append(word(use.types.ticked(i))).append(",");
     }
     words += word(use.box.value() != 0);
-    use.rows.replace(row, digits(globals.cases, words));
+    use.rows.replace(row, digits(globals.texts, words));
 }
 
 void ICust::addFolder() {
@@ -181,16 +181,23 @@ void ICust::addFolder() {
     if (folder.empty()) {
         return;
     }
-    folder = withBackslash(std::move(folder));
-    const CaseRules& cases = globals.cases;
-    if (cases.equal(folder, funcMod.getSysDir())) {
+    const TextRules& texts = globals.texts;
+    folder = texts.withBackslash(std::move(folder));
+    if (folder.size() > SettingsFile::longestValue) {
+        platform.dialogs.message(
+            {.text = "The path of this folder is too long to be saved, and the folder cannot be added:\r\n" +
+                     folder,
+             .icon = Icon::Warning});
+        return;
+    }
+    if (texts.equal(folder, funcMod.getSysDir())) {
         platform.dialogs.message({.text = "This is the default folder that Tarvelon scans. It cannot be "
                                           "added to the Custom Integrity Checker"});
         return;
     }
     int free = -1;
     for (int row = 0; row < screen_.List1.count(); ++row) {
-        if (cases.equal(folder, folderOf(row))) {
+        if (texts.equal(folder, folderOf(row))) {
             platform.dialogs.message({.text = "This folder is already being scanned."});
             return;
         }

@@ -63,7 +63,7 @@ Checksum::Checksum(Algorithm& algorithm, Globals& globals, Platform& platform)
 std::string Checksum::getChecksum(const std::string& path) {
     // Blanks around the name do not hinder the data file's name, but here they make it an unknown one.
     const std::string& name = algorithm_.algoName;
-    const std::string upperName = globals_.cases.upper(name);
+    const std::string upperName = globals_.texts.upper(name);
     if (upperName == crc32Name || trim(name).empty()) {
         return crcText(reader_, path);
     }
@@ -85,8 +85,8 @@ std::string Checksum::getCustomDat(int number) const {
 std::string Checksum::dataFile(const std::string& stem) const {
     const std::string name = trim(algorithm_.algoName);
     std::string path = globals_.app.dataFolder() + stem;
-    if (!name.empty() && globals_.cases.upper(name) != crc32Name) {
-        path.append("-").append(globals_.cases.lower(name));
+    if (!name.empty() && globals_.texts.upper(name) != crc32Name) {
+        path.append("-").append(lowerAscii(name));
     }
     return path + ".dat";
 }

@@ -23,9 +23,9 @@ namespace {
 using SectionLists = std::array<std::vector<std::string>, sectionCount>;
 
 /// The section of a file by its last four characters, from 0.
-std::optional<std::size_t> sectionOf(const CaseRules& cases, const std::string& name) {
+std::optional<std::size_t> sectionOf(const TextRules& texts, const std::string& name) {
     for (std::size_t n = 0; n < sectionCount; ++n) {
-        if (cases.equal(lastCharacters(name, 4), std::string(".") + sectionNames[n])) {
+        if (texts.equal(lastCharacters(name, 4), std::string(".") + sectionNames[n])) {
             return n;
         }
     }
@@ -40,7 +40,7 @@ SectionLists walk(Globals& globals, Platform& platform, const std::string& folde
         if (name == "." || name == "..") {
             continue;
         }
-        if (const auto section = sectionOf(globals.cases, name)) {
+        if (const auto section = sectionOf(globals.texts, name)) {
             lists[*section].push_back(name);
         }
         platform.messages.pump();
@@ -164,7 +164,7 @@ bool BaselineBuilder::buildCustomDat(std::string folder, const std::string& datF
         }
     }
     makeEmpty(platform.files, datFile);
-    folder = withBackslash(std::move(folder));
+    folder = globals.texts.withBackslash(std::move(folder));
     writeBlank(platform.files, datFile, walk(globals, platform, folder));
     if (blankOnly) {
         return true;

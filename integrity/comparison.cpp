@@ -66,7 +66,7 @@ void Comparison::comparePass(const PassArguments& arguments) {
     if (scan.customFolder.empty()) {
         pass.folder = trim(funcMod.getSysDir());
     } else {
-        pass.folder = withBackslash(scan.customFolder);
+        pass.folder = globals.texts.withBackslash(scan.customFolder);
         pass.arguments.dataFile = checksum_.getCustomDat(scan.customIndex);
     }
 
@@ -91,7 +91,7 @@ void Comparison::comparePass(const PassArguments& arguments) {
 
 Comparison::Outcome Comparison::compareFile(Pass& pass, const std::string& name) {
     ScanRun& scan = globals.scan;
-    const std::string tail = globals.cases.upper(lastCharacters(name, 4));
+    const std::string tail = globals.texts.upper(lastCharacters(name, 4));
     if (tail != pass.arguments.ext1 && tail != pass.arguments.ext2) {
         return Outcome::Done;
     }
@@ -104,7 +104,7 @@ Comparison::Outcome Comparison::compareFile(Pass& pass, const std::string& name)
         return Outcome::Cancelled;
     }
 
-    const std::string section = globals.cases.upper(lastCharacters(name, 3));
+    const std::string section = globals.texts.upper(lastCharacters(name, 3));
     const std::string stored = pass.arguments.dataFile.empty() ? dataFile_.getEntry(name, section)
                                                                : dataFile_.getCustomEntry(name, section);
     if (stored.empty() || stored == "NULL") {

@@ -3,6 +3,7 @@
 #include "core/failure.h"
 #include "core/file_text.h"
 #include "core/func_mod.h"
+#include "core/other_page.h"
 #include "core/settings_file.h"
 #include "platform/dialogs.h"
 #include "platform/files.h"
@@ -80,7 +81,7 @@ bool DataFile::loadCustomDat(const std::string& path) {
     if (!funcMod.fileThere(path) && !platform.files.length(path)) {
         // The number is all that stands between "Data\" and the first ".", so a name with an algorithm in it
         // ("7-md5") is no slot of the settings, and the folder comes out empty.
-        const std::string number = getBetween(globals.cases, path, 1, dataFolderName, ".");
+        const std::string number = getBetween(globals.texts, path, 1, dataFolderName, ".");
         const std::string folder = settings.ofSlot(number, "path");
         buildCustomDat(folder, path, number);
     }
@@ -121,7 +122,13 @@ std::string DataFile::entry(const Blocks& blocks, std::optional<std::size_t> num
     if (!number) {
         return {};
     }
-    const std::string value = trim(blocks[*number - 1].find(globals.cases, key));
+    const EntryBlock& block = blocks[*number - 1];
+    std::string value = trim(block.find(globals.texts, key));
+    if (value.empty() && !isAscii(key)) {
+        // The baseline may have been made when the process had another code page.
+        const auto other = inOtherPage(platform, key);
+        value = other ? trim(block.find(globals.texts, *other)) : value;
+    }
     platform.messages.pumpInLoop();
     return value;
 }

@@ -116,14 +116,13 @@ void IntCheck::countFolder(Plan& plan) {
         }
     }
     // Scanners may have been chosen since the window was loaded.
-    passOver([this] { screen_.first.fill(settings.getSetting("ANTIVIRUS")); });
+    passOver([this] { screen_.first.fill(settings, "ANTIVIRUS"); });
     const std::string& custom = globals.scan.customFolder;
-    const std::string folder = withBackslash(custom.empty() ? trim(funcMod.getSysDir()) : custom);
-
-    const CaseRules& cases = globals.cases;
+    const TextRules& texts = globals.texts;
+    const std::string folder = texts.withBackslash(custom.empty() ? trim(funcMod.getSysDir()) : custom);
     Files& files = platform.files;
     for (std::string name = files.firstName(folder); !name.empty(); name = files.nextName()) {
-        const std::string tail = cases.upper(lastCharacters(name, 4));
+        const std::string tail = texts.upper(lastCharacters(name, 4));
         if (name == "." || name == ".." || extList.find(tail) == std::string::npos) {
             continue;
         }

@@ -33,9 +33,10 @@ std::string withoutNewMark(const std::string& item) {
 }
 
 /// What stands behind the last backslash. Input is let in at each one.
-std::string nameOf(const std::string& path, clsDoEvents& pump) {
+std::string nameOf(const TextRules& texts, const std::string& path, clsDoEvents& pump) {
     std::size_t name = 0;
-    for (std::size_t slash = path.find('\\'); slash != std::string::npos; slash = path.find('\\', name)) {
+    for (std::size_t slash = texts.first(path, '\\'); slash != std::string::npos;
+         slash = texts.first(path, '\\', name)) {
         name = slash + 1;
         pump.GetInputState();
     }
@@ -194,7 +195,7 @@ bool ResultAction::UpdateDatFile() {
     const int count = screen_.List1.count();
     for (int row = 0; row < count; ++row) {
         const std::string item = withoutNewMark(screen_.List1.item(row));
-        const std::string section = globals.cases.upper(lastCharacters(item, 3));
+        const std::string section = globals.texts.upper(lastCharacters(item, 3));
         if (failList.find(item) != std::string::npos) {
             value = systemValue(failList, item);
             systemFileSeen = true;
@@ -210,7 +211,7 @@ bool ResultAction::UpdateDatFile() {
         }
         globals.scan.customFolder.clear();
         if (systemFileSeen) {
-            const std::string name = nameOf(item, pump);
+            const std::string name = nameOf(globals.texts, item, pump);
             passOver([&] { settings.writeEntry(intFile, name, value + "*E", section); });
         }
         pump.GetInputState();
@@ -232,10 +233,10 @@ bool ResultAction::UpdateDatFile() {
 
 /// The checksum that stands behind the item in the findings of the system directory.
 std::string ResultAction::systemValue(const SearchIndex& copy, const std::string& item) const {
-    const CaseRules& cases = globals.cases;
-    std::string value = getBetween(cases, copy.text(), startBehind(copy, "," + item + " "), " ", ",");
+    const TextRules& texts = globals.texts;
+    std::string value = getBetween(texts, copy.text(), startBehind(copy, "," + item + " "), " ", ",");
     if (value.empty()) {
-        value = getBetween(cases, copy.text(), startBehind(copy, item + " "), " ", ",");
+        value = getBetween(texts, copy.text(), startBehind(copy, item + " "), " ", ",");
     }
     // A blank in the path makes the value begin inside it: "Files\X.DLL 3A2B44C1". The dot, three letters and
     // the blank are skipped.
@@ -248,16 +249,16 @@ std::string ResultAction::systemValue(const SearchIndex& copy, const std::string
 
 /// Puts the item and its checksum among the pending entries of its slot.
 void ResultAction::queueForCustom(const SearchIndex& copy, const std::string& item) {
-    const CaseRules& cases = globals.cases;
-    std::string found = getBetween(cases, copy.text(), startBehind(copy, "," + item + "("), "(", ",");
+    const TextRules& texts = globals.texts;
+    std::string found = getBetween(texts, copy.text(), startBehind(copy, "," + item + "("), "(", ",");
     if (found.empty()) {
-        found = getBetween(cases, copy.text(), startBehind(copy, item + "("), "(", ",");
+        found = getBetween(texts, copy.text(), startBehind(copy, item + "("), "(", ",");
     }
     if (found.empty()) {
         return;
     }
     const std::string entry = "(" + found + ",";
-    const auto slot = toNumber(getBetween(cases, entry, 1, "(", ")"));
+    const auto slot = toNumber(getBetween(texts, entry, 1, "(", ")"));
     if (slot && *slot >= 1 && *slot <= static_cast<int>(passFolderList.size())) {
         passFolderList[static_cast<std::size_t>(*slot - 1)] += item + entry;
     }
@@ -273,10 +274,10 @@ void ResultAction::SpecialSave(int slot) {
     globals.scan.customFolder = "!"; // Any text: entries now go to the custom baseline.
     for (std::string_view pending = list; !pending.empty();) {
         const std::string path(pending.substr(0, pending.find('(')));
-        const std::string value = getBetween(globals.cases, pending, 1, ") ", ",");
+        const std::string value = getBetween(globals.texts, pending, 1, ") ", ",");
         pending.remove_prefix(std::min(pending.find(','), pending.size() - 1) + 1);
-        const std::string section = globals.cases.upper(lastCharacters(path, 3));
-        passOver([&] { settings.writeEntry(file, bareName(path), value + "*E", section); });
+        const std::string section = globals.texts.upper(lastCharacters(path, 3));
+        passOver([&] { settings.writeEntry(file, globals.texts.bareName(path), value + "*E", section); });
         platform.messages.pump();
     }
     dataFile_.saveCustomDat(file);

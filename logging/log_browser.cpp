@@ -5,6 +5,7 @@
 #include "core/file_text.h"
 #include "core/func_mod.h"
 #include "core/globals.h"
+#include "core/other_page.h"
 #include "core/settings_file.h"
 #include "logging/log_controls.h"
 #include "logging/report_name.h"
@@ -22,8 +23,8 @@ namespace {
 
 constexpr int deleteKey = 46;
 
-bool isReport(const CaseRules& cases, const std::string& name) {
-    return cases.equal(lastCharacters(name, 4), ".LOG");
+bool isReport(const TextRules& texts, const std::string& name) {
+    return texts.equal(lastCharacters(name, 4), ".LOG");
 }
 
 } // namespace
@@ -66,7 +67,7 @@ void LogBrowser::load() {
     std::vector<std::string> names;
     for (std::string name = files.firstName(globals.app.logFolder()); !name.empty();
          name = files.nextName()) {
-        if (name != "." && name != ".." && isReport(globals.cases, name)) {
+        if (name != "." && name != ".." && isReport(globals.texts, name)) {
             names.push_back(name);
         }
     }
@@ -84,7 +85,7 @@ void LogBrowser::addReport(const std::string& fileName) {
         return;
     }
     const std::string date = reportDate(fileName.substr(0, open));
-    const std::string time = reportTimeShown(globals.cases, getBetween(globals.cases, fileName, 1, "(", ")"));
+    const std::string time = reportTimeShown(globals.texts, getBetween(globals.texts, fileName, 1, "(", ")"));
     screen_.TreeView2.addRoot(date, date);
     // The date belongs to the key: two reports of different days may bear the same time.
     screen_.TreeView2.addChild(date, date + "|" + time, time);
@@ -108,7 +109,7 @@ void LogBrowser::open() {
     if (!text) {
         return;
     }
-    fillReport(trim(*text));
+    fillReport(trim(fromEitherPage(platform, *text)));
     screen_.Label26.Visible = false;
     norms2();
     options_.Current = true;
@@ -117,7 +118,7 @@ void LogBrowser::open() {
 
 /// Two commas in a row end the list, whatever stands behind them.
 void LogBrowser::fillReport(std::string text) {
-    text = globals.cases.replaceAll(text, lineEnd, ",");
+    text = globals.texts.replaceAll(text, lineEnd, ",");
     if (text.empty() || text.back() != ',') {
         text += ',';
     }
@@ -174,7 +175,7 @@ void LogBrowser::deleteAll() {
     }
     for (const std::string& name : names) {
         platform.messages.pump();
-        if (isReport(globals.cases, name)) {
+        if (isReport(globals.texts, name)) {
             files.remove(globals.app.logFolder() + name);
         }
         platform.messages.pump();
@@ -230,7 +231,7 @@ bool LogBrowser::confirms(const std::string& question) const {
 
 std::string LogBrowser::fileOf(const Tree::Node& node) const {
     const std::string date = node.parent ? node.parent->text : std::string();
-    return globals.app.logFolder() + date + "(" + reportTimeStored(globals.cases, node.text) + ").log";
+    return globals.app.logFolder() + date + "(" + reportTimeStored(globals.texts, node.text) + ").log";
 }
 
 } // namespace tarvelon

@@ -27,12 +27,12 @@ void LogFiles::writeLog(const std::string& listText, bool force) {
     }
     const std::string path = fileName();
     const std::size_t headingLength = listText.find(',') + 1;
-    const CaseRules& cases = globals.cases;
+    const TextRules& texts = globals.texts;
     std::string names = trim(std::string_view(listText).substr(headingLength));
-    names = cases.replaceAll(names, "\" \"", ",");
-    names = cases.replaceAll(names, "\"", "");
-    names = cases.replaceAll(names, ", ", ",");
-    names = cases.replaceAll(names, " ", ",");
+    names = texts.replaceAll(names, "\" \"", ",");
+    names = texts.replaceAll(names, "\"", "");
+    names = texts.replaceAll(names, ", ", ",");
+    names = texts.replaceAll(names, " ", ",");
     if (!writeWholeFile(platform.files, path, listText.substr(0, headingLength) + names + "\r\n")) {
         throw Failure("The report cannot be written:\r\n" + path);
     }
@@ -50,7 +50,7 @@ bool LogFiles::passesGate(const std::string& listText) {
 
 std::string LogFiles::fileName() const {
     std::string name = reportDate(platform.clock.dateText()) + "(" +
-                       reportTimeStored(globals.cases, platform.clock.timeText()) + ").log";
+                       reportTimeStored(globals.texts, platform.clock.timeText()) + ").log";
     // Letters that the code page lacks come as "?", in the date or where other systems have AM and PM.
     std::replace_if(name.begin(), name.end(), fitsNoFileName, '_');
     return globals.app.logFolder() + name;

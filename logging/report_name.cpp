@@ -19,12 +19,12 @@ std::string reportDate(const std::string& date) {
     return padded;
 }
 
-std::string reportTimeStored(const CaseRules& cases, const std::string& time) {
-    return cases.replaceAll(cases.replaceAll(time, ":", "_"), " ", "");
+std::string reportTimeStored(const TextRules& texts, const std::string& time) {
+    return texts.replaceAll(texts.replaceAll(time, ":", "_"), " ", "");
 }
 
-std::string reportTimeShown(const CaseRules& cases, const std::string& time) {
-    std::string text = cases.replaceAll(time, "_", ":");
+std::string reportTimeShown(const TextRules& texts, const std::string& time) {
+    std::string text = texts.replaceAll(time, "_", ":");
     for (const char* half : {"AM", "PM"}) {
         const std::size_t hit = text.find(half);
         if (hit != std::string::npos) {

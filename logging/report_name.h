@@ -4,7 +4,7 @@
 
 namespace tarvelon {
 
-class CaseRules;
+class TextRules;
 
 /// A report's name is `<date>(<time>).log`. These are the two fields as they stand in names and on the
 /// screen.
@@ -13,9 +13,9 @@ class CaseRules;
 std::string reportDate(const std::string& date);
 
 /// "3:04:07 PM" as "3_04_07PM".
-std::string reportTimeStored(const CaseRules& cases, const std::string& time);
+std::string reportTimeStored(const TextRules& texts, const std::string& time);
 
 /// "3_04_07PM" as "3:04:07 PM".
-std::string reportTimeShown(const CaseRules& cases, const std::string& time);
+std::string reportTimeShown(const TextRules& texts, const std::string& time);
 
 } // namespace tarvelon

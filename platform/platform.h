@@ -18,7 +18,8 @@ class Desktop;
 
 /// Everything outside the process, one interface for each group of system calls.
 struct Platform {
-    CodePage& codePage;
+    CodePage& codePage;   ///< Of this process: texts are kept in it.
+    CodePage& systemPage; ///< The ANSI page that programs get which ask for no other.
     Files& files;
     SystemFolders& folders;
     CryptoService& crypto;

@@ -1,6 +1,7 @@
 #include "regwatch/detection.h"
 
 #include "core/globals.h"
+#include "core/other_page.h"
 #include "core/settings_file.h"
 #include "platform/messages.h"
 #include "platform/platform.h"
@@ -76,7 +77,7 @@ void Detection::showEntry(const Location& location, int groupIndex, std::string 
         return;
     }
     if (location.root == Registry::localMachine) {
-        keyTail = bareName(location.path);
+        keyTail = globals.texts.bareName(location.path);
     }
     screen_.List5.add(std::string(rootOf(location).name) + "|Loaded in " + keyTail + "\\" + name +
                       storedText + (found == Found::New ? " New Entry!" : " Entry Modified!"));
@@ -107,11 +108,18 @@ Detection::Found Detection::checkRegEntry(std::string& name, std::string& stored
         settings.writeEntry(file, name, storedText, location.section);
         return Found::Nothing;
     }
-    const std::string entry = settings.readIni(file, name, location.section);
+    // The snapshot may have been made when the process had another code page.
+    const auto otherName = inOtherPage(platform, name);
+    const auto otherText = inOtherPage(platform, storedText);
+    std::string entry = settings.readIni(file, name, location.section);
+    if (entry.empty() && otherName && *otherName != name) {
+        entry = settings.readIni(file, *otherName, location.section);
+    }
     if (entry.empty()) {
         return Found::New;
     }
-    return trim(storedText) == trim(entry) ? Found::Nothing : Found::Modified;
+    const bool isSame = trim(storedText) == trim(entry) || (otherText && trim(*otherText) == trim(entry));
+    return isSame ? Found::Nothing : Found::Modified;
 }
 
 } // namespace tarvelon

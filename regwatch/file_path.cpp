@@ -39,12 +39,13 @@ std::optional<std::string> searched(const std::string& name, const FuncMod& func
 
 } // namespace
 
-CutPath cutToFilePath(const std::string& entry, const FuncMod& funcMod) {
+CutPath cutToFilePath(const TextRules& texts, const std::string& entry, const FuncMod& funcMod) {
     const std::string text = withoutArguments(insideParentheses(entry));
-    if (text.find('\\') == std::string::npos) {
+    if (texts.first(text, '\\') == std::string::npos) {
         return {text, searched(text, funcMod)};
     }
-    std::string path = replaceExact(replaceExact(text, "%systemroot%", funcMod.getWinDir()), "\\\\", "\\");
+    std::string path =
+        texts.replaceAll(replaceExact(text, "%systemroot%", funcMod.getWinDir()), "\\\\", "\\");
     if (path.find('.') == std::string::npos) {
         path += ".exe";
     }

@@ -6,6 +6,7 @@
 namespace tarvelon {
 
 class FuncMod;
+class TextRules;
 
 /// What `cutToFilePath` made of a text.
 struct CutPath {
@@ -18,6 +19,6 @@ struct CutPath {
 /// behind the first blank that follows a dot; "%systemroot%" in lower case is the one variable known; a name
 /// without a backslash is looked for in the system folder, the Windows folder and the old system folder.
 /// Quotes stay.
-CutPath cutToFilePath(const std::string& entry, const FuncMod& funcMod);
+CutPath cutToFilePath(const TextRules& texts, const std::string& entry, const FuncMod& funcMod);
 
 } // namespace tarvelon

@@ -2,6 +2,7 @@
 
 #include "core/file_text.h"
 #include "core/func_mod.h"
+#include "core/other_page.h"
 #include "core/text.h"
 #include "platform/files.h"
 #include "platform/platform.h"
@@ -36,25 +37,26 @@ bool wininitThere(const FuncMod& funcMod) {
     return funcMod.fileThere(wininitPath(funcMod));
 }
 
-std::vector<PendingFile> wininitEntries(const CaseRules& cases, Platform& platform, const FuncMod& funcMod) {
+std::vector<PendingFile> wininitEntries(const TextRules& texts, Platform& platform, const FuncMod& funcMod) {
     std::vector<PendingFile> entries;
     const auto text = readWholeFile(platform.files, wininitPath(funcMod));
     if (!text) {
         return entries;
     }
-    for (const std::string& line : splitAt(*text, lineEnd)) {
+    for (const std::string& written : splitAt(*text, lineEnd)) {
+        const std::string line = fromSystemPage(platform, written);
         const std::size_t equals = line.find('=');
         if (equals == std::string::npos) {
             continue;
         }
         // "*!*" ends the right side, so a line that holds one itself is cut there.
         entries.push_back(
-            {getBetween(cases, line + "*!*", 1, "=", "*!*"), cases.equal(line.substr(0, equals), "NUL")});
+            {getBetween(texts, line + "*!*", 1, "=", "*!*"), texts.equal(line.substr(0, equals), "NUL")});
     }
     return entries;
 }
 
-std::vector<std::optional<std::string>> pendingRenames(const CaseRules& cases, Platform& platform) {
+std::vector<std::optional<std::string>> pendingRenames(const TextRules& texts, Platform& platform) {
     const std::string value =
         valueOf(platform.registry, Registry::localMachine,
                 R"(System\CurrentControlSet\Control\Session Manager)", "PendingfileRenameOperations");
@@ -67,7 +69,7 @@ std::vector<std::optional<std::string>> pendingRenames(const CaseRules& cases, P
         if (trim(element).empty()) {
             files.emplace_back();
         } else {
-            files.emplace_back(trim(getBetween(cases, "!" + element, 1, "!", std::string_view("\0", 1))));
+            files.emplace_back(trim(getBetween(texts, "!" + element, 1, "!", std::string_view("\0", 1))));
         }
     }
     return files;

@@ -89,7 +89,7 @@ void RegPage::selectWarning() {
         row += rowEnd;
         screen_.List5.replace(index, row);
     }
-    screen_.Text4.Caption = getBetween(globals.cases, row, selEntry.size(), "\\", rowEnd) + ")";
+    screen_.Text4.Caption = getBetween(globals.texts, row, selEntry.size(), "\\", rowEnd) + ")";
     screen_.Label19.Caption = screen_.Text4.Caption();
     screen_.List5.ToolTip = row;
 }
@@ -104,8 +104,8 @@ void RegPage::selectNode() {
     }
     screen_.Label19.Caption = node->text;
     screen_.Text4.Caption = node->text;
-    const std::string path = withBackslash(Tree::fullPath(*node));
-    selEntry = before(path, '\\') + "|" + getBetween(globals.cases, path, 1, "\\", "\\");
+    const std::string path = globals.texts.withBackslash(Tree::fullPath(*node));
+    selEntry = before(path, '\\') + "|" + getBetween(globals.texts, path, 1, "\\", "\\");
 }
 
 void RegPage::selectPending() {
@@ -132,7 +132,7 @@ void RegPage::deleteSelected() {
 void RegPage::deleteValue(const std::string& root, const std::string& location) {
     const std::string name = trim(before(screen_.Label19.Caption(), '('));
     const std::string path = R"(Software\Microsoft\Windows\CurrentVersion\)" +
-                             getBetween(globals.cases, location + "|", 1, "in ", "|");
+                             getBetween(globals.texts, location + "|", 1, "in ", "|");
     const Answer answer = platform.dialogs.message(
         {.text = "WARNING!\r\nYou are about to Delete the key: " + name + "\r\nFrom: " + root + "\\" + path +
                  "\r\nDoing this may have unpredictable results!\r\n\r\nContinue?",
@@ -174,7 +174,7 @@ void RegPage::scanSelected() {
         scanAndUpdate();
         return;
     }
-    const CutPath cut = cutToFilePath(screen_.Label19.Caption(), funcMod);
+    const CutPath cut = cutToFilePath(globals.texts, screen_.Label19.Caption(), funcMod);
     if (!cut.path) {
         platform.dialogs.message({.text = "Cannot find file, please scan manually"});
         return;
@@ -238,7 +238,7 @@ std::string RegPage::rowToScan(int row) {
 
 /// The row's file as it stands on a command line; empty when it cannot be found.
 std::string RegPage::fileOfRow(const std::string& row) {
-    const CutPath cut = cutToFilePath(row, funcMod);
+    const CutPath cut = cutToFilePath(globals.texts, row, funcMod);
     if (!cut.path && !globals.app.inShutDown()) {
         platform.dialogs.message(
             {.text = "Unable to find the file: " + cut.text + "\r\nPlease scan manually."});
@@ -253,7 +253,7 @@ bool RegPage::runBoth(const std::vector<std::string>& files) const {
     passOver([&] {
         const ScannerPair scanners = ScannerPair::stored(settings);
         handedOver = true;
-        for (const std::string& list : scanners.lists(files)) {
+        for (const std::string& list : scanner_.lists(scanners, files)) {
             handedOver &= run(scanners.first, list);
             handedOver &= !scanners.second.isSet() || run(scanners.second, list);
         }
@@ -281,10 +281,10 @@ void RegPage::showPending() {
     screen_.List6.clear();
     screen_.List6.add(
         "These files are to be Deleted or Overwritten on the next Reboot (Wininit.ini and Registry).");
-    for (const PendingFile& entry : wininitEntries(globals.cases, platform, funcMod)) {
+    for (const PendingFile& entry : wininitEntries(globals.texts, platform, funcMod)) {
         screen_.List6.add(entry.file + (entry.toBeDeleted ? deletedMark : overwrittenMark));
     }
-    for (const auto& file : pendingRenames(globals.cases, platform)) {
+    for (const auto& file : pendingRenames(globals.texts, platform)) {
         if (file) {
             screen_.List6.add(*file);
         }

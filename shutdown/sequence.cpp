@@ -54,7 +54,7 @@ void Sequence::CheckWinInit() {
 
 void Sequence::scanWininit() {
     std::vector<std::string> batch;
-    for (const PendingFile& entry : wininitEntries(globals.cases, platform, funcMod)) {
+    for (const PendingFile& entry : wininitEntries(globals.texts, platform, funcMod)) {
         batch.push_back(item(entry.file));
     }
     runScanners(batch);
@@ -70,7 +70,7 @@ void Sequence::scanWininit() {
 }
 
 void Sequence::scanPendingRenames() {
-    const auto files = pendingRenames(globals.cases, platform);
+    const auto files = pendingRenames(globals.texts, platform);
     if (files.empty()) {
         return;
     }
@@ -113,7 +113,7 @@ void Sequence::runScanners(const std::vector<std::string>& batch) {
     const auto run = [this](const ScannerCommand& scanner, const std::string& list) {
         passOver([&] { scanner_.runScanner(scanner.exe, scanner.arguments(list)); });
     };
-    for (const std::string& list : scanners.lists(batch)) {
+    for (const std::string& list : scanner_.lists(scanners, batch)) {
         if (!list.empty()) {
             run(scanners.first, list);
         }

@@ -54,7 +54,7 @@ AdvancedPage::AdvancedPage(AdvancedControls& screen, const Services& services, C
 
 void AdvancedPage::opened() {
     const Settings& values = globals.settings;
-    const std::string algorithm = globals.cases.upper(trim(values.algoName));
+    const std::string algorithm = globals.texts.upper(trim(values.algoName));
     choose(screen_.bufferOptions, values.readBuffer);
     choose(screen_.passOptions, values.passCount);
     choose(screen_.algorithmOptions, values.algoName.empty() ? "CRC32" : algorithm);

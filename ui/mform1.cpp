@@ -12,9 +12,9 @@
 
 namespace tarvelon {
 
-MForm1::MForm1(MForm1Screen& screen, const AppState& app, Platform& platform)
+MForm1::MForm1(MForm1Screen& screen, const Globals& globals, Platform& platform)
     : screen_(screen)
-    , app_(app)
+    , globals_(globals)
     , platform_(platform) {
     bind();
 }
@@ -118,7 +118,7 @@ void MForm1::showAbout() {
 }
 
 void MForm1::showHelp() {
-    if (platform_.shell.open("index.html", app_.appPath + "Help\\") != Shell::fileNotFound) {
+    if (platform_.shell.open("index.html", globals_.app.appPath + "Help\\") != Shell::fileNotFound) {
         return;
     }
     const Answer answer =
@@ -164,7 +164,7 @@ void MForm1::checkForUpdates() {
         valueOf(platform_.registry, Registry::localMachine,
                 R"(SOFTWARE\Microsoft\Windows\CurrentVersion\Uninstall\Orbexa_is1)", "Inno Setup: App Path");
     if (!folder.empty()) {
-        platform_.processes.start(withBackslash(folder) + "Orbexa.exe", "Tarvelon2",
+        platform_.processes.start(globals_.texts.withBackslash(folder) + "Orbexa.exe", "Tarvelon2",
                                   WindowStyle::MinimizedFocus);
         return;
     }

@@ -6,7 +6,7 @@ namespace tarvelon {
 
 class Frame;
 class NavButton;
-struct AppState;
+struct Globals;
 struct MForm1Screen;
 struct Platform;
 
@@ -22,7 +22,7 @@ struct MForm1Hooks {
 /// The main window's frame: which page is open, the hover reset, and the actions that have no other home.
 class MForm1 {
 public:
-    MForm1(MForm1Screen& screen, const AppState& app, Platform& platform);
+    MForm1(MForm1Screen& screen, const Globals& globals, Platform& platform);
 
     MForm1Hooks hooks;
 
@@ -47,7 +47,7 @@ private:
     void checkForUpdates();
 
     MForm1Screen& screen_;
-    const AppState& app_;
+    const Globals& globals_;
     Platform& platform_;
 };
 

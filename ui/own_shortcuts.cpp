@@ -13,7 +13,7 @@ OwnShortcuts::OwnShortcuts(const Services& services)
     : Services(services) {}
 
 void OwnShortcuts::createAutoLoad() {
-    const std::string path = shortCut::autoLoadShortcut(platform);
+    const std::string path = shortCut::autoLoadShortcut(platform, globals.texts);
     if (globals.settings.useWsh == 1 || !funcMod.fileThere(path)) {
         make(path, {"/r", "Tarvelon"});
     }
@@ -31,7 +31,7 @@ void OwnShortcuts::make(const std::string& linkPath, const Kind& kind) {
     constexpr std::int32_t show = 5;
     const std::string target = program();
     if (globals.settings.useWsh == 1) {
-        shortCut::makeShortcutWsh(platform, globals.cases, linkPath, kind.description, target, kind.command);
+        shortCut::makeShortcutWsh(platform, linkPath, kind.description, target, kind.command);
     } else {
         // The blank has always stood in links of this kind; the command line is trimmed when it is read.
         shortCut::makeShortcut(platform, linkPath, target, "", std::string(" ") + kind.command, target, 0,
@@ -59,11 +59,11 @@ std::string OwnShortcuts::shutDownShortcut() {
                                           "Tarvelon directory."});
         return globals.app.appPath + fileName;
     }
-    return withBackslash(folder) + fileName;
+    return globals.texts.withBackslash(folder) + fileName;
 }
 
 std::string OwnShortcuts::program() {
-    const std::string name = bareName(platform.processes.programFile());
+    const std::string name = globals.texts.bareName(platform.processes.programFile());
     return globals.app.appPath + name.substr(0, name.rfind('.')) + ".exe";
 }
 

@@ -63,7 +63,7 @@ void SettingsPages::loadSettings() {
 }
 
 bool SettingsPages::loadAutoLoad() {
-    screen_.Check1.setValue(funcMod.fileThere(shortCut::autoLoadShortcut(platform)));
+    screen_.Check1.setValue(funcMod.fileThere(shortCut::autoLoadShortcut(platform, globals.texts)));
     return tick(screen_.autoLoadChecks, settings.getSetting("GETSETT")) &&
            tick(screen_.shutDownChecks, settings.getSetting("GETSETT2"));
 }
@@ -105,7 +105,7 @@ bool SettingsPages::loadShellOptions() {
 /// shortcut and the settings reached the disk is not looked at.
 void SettingsPages::save() {
     settings.checkSettFile();
-    const std::string shortcut = shortCut::autoLoadShortcut(platform);
+    const std::string shortcut = shortCut::autoLoadShortcut(platform, globals.texts);
     if (funcMod.fileThere(shortcut)) {
         platform.files.remove(shortcut);
     }

@@ -28,8 +28,8 @@ std::string getStartupFolder(Platform& platform) {
     return trim(folder);
 }
 
-std::string autoLoadShortcut(Platform& platform) {
-    return withBackslash(getStartupFolder(platform)) + "Tarvelon.lnk";
+std::string autoLoadShortcut(Platform& platform, const TextRules& texts) {
+    return texts.withBackslash(getStartupFolder(platform)) + "Tarvelon.lnk";
 }
 
 bool makeShortcut(Platform& platform, const std::string& linkPath, const std::string& target,
@@ -49,10 +49,9 @@ bool makeShortcut(Platform& platform, const std::string& linkPath, const std::st
                                                        .resolveFlags = updateThePath});
 }
 
-bool makeShortcutWsh(Platform& platform, const CaseRules& cases, const std::string& linkPath,
-                     const std::string& description, const std::string& target, const std::string& args,
-                     std::int32_t windowStyle) {
-    const std::string ending = cases.lower(lastCharacters(linkPath, 4));
+bool makeShortcutWsh(Platform& platform, const std::string& linkPath, const std::string& description,
+                     const std::string& target, const std::string& args, std::int32_t windowStyle) {
+    const std::string ending = lowerAscii(std::string(lastCharacters(linkPath, 4)));
     const bool isLink = ending == ".lnk" || ending == ".url";
     return platform.shortcuts.saveScripted(
         isLink ? linkPath : linkPath + ".lnk",

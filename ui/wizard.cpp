@@ -87,12 +87,12 @@ void Wizard::LoadUp() {
     page_ = 0;
     norms();
     screen_.Label1.Visible = true;
-    screen_.aload.setValue(funcMod.fileThere(shortCut::autoLoadShortcut(platform)));
+    screen_.aload.setValue(funcMod.fileThere(shortCut::autoLoadShortcut(platform, globals.texts)));
     const std::vector<std::string> values = split(settings.getSetting("GETSETT"), ',');
     for (std::size_t i = 0; i < screen_.settingChecks.size() && i < values.size(); ++i) {
         screen_.settingChecks[i]->setValue(toNumber(values[i]).value_or(0) != 0);
     }
-    screen_.scanner.fill(settings.getSetting("ANTIVIRUS"));
+    screen_.scanner.fill(settings, "ANTIVIRUS");
     NextFrame();
 }
 
@@ -237,7 +237,7 @@ void Wizard::cancel() {
 void Wizard::locate() {
     const std::string file = funcMod.openFileBox(scannerBoxTitle, scannerBoxFilter());
     screen_.vpath.Caption = file.substr(0, file.find('\0'));
-    const char* arguments = defaultArguments(scannerFamily(globals.cases, screen_.vpath.Caption()));
+    const char* arguments = defaultArguments(scannerFamily(globals.texts, screen_.vpath.Caption()));
     screen_.varg.Caption = arguments;
     scanners_.Text6.Caption = arguments;
 }
@@ -247,7 +247,7 @@ void Wizard::save() {
     if (screen_.aload.value() == 1) {
         hooks.createAutoLoad();
     } else {
-        platform.files.remove(shortCut::autoLoadShortcut(platform));
+        platform.files.remove(shortCut::autoLoadShortcut(platform, globals.texts));
     }
     settings.saveSetting("settings", joinValues(screen_.settingChecks));
     if (!funcMod.fileThere(screen_.vpath.Caption())) {

@@ -1,5 +1,6 @@
 #include "platform/sim/short_names.h"
 
+#include "core/text.h"
 #include "platform/sim/sim_codepage.h"
 
 #include <algorithm>
@@ -25,13 +26,27 @@ bool isValid(char character) {
 
 bool isShort(std::string_view name) {
     const Parts parts = partsOf(name);
-    return !parts.base.empty() && parts.base.size() <= 8 && parts.extension.size() <= 3 &&
+    return isAscii(name) && !parts.base.empty() && parts.base.size() <= 8 && parts.extension.size() <= 3 &&
            std::ranges::all_of(parts.base, isValid) && std::ranges::all_of(parts.extension, isValid);
+}
+
+/// Each character outside of ASCII as a low line.
+std::string plainCapitals(std::string_view text) {
+    std::string plain;
+    for (const char character : utf8Capitals(std::string(text))) {
+        const auto byte = static_cast<unsigned char>(character);
+        if (byte < 0x80) {
+            plain += character;
+        } else if (byte >= 0xc0) {
+            plain += '_';
+        }
+    }
+    return plain;
 }
 
 /// Capitals of the valid characters, at most `count` of them.
 std::string begin(std::string_view text, std::size_t count) {
-    std::string capitals = SimCodePage::capitals(std::string(text));
+    std::string capitals = plainCapitals(text);
     std::erase_if(capitals, [](char character) { return !isValid(character); });
     return capitals.substr(0, count);
 }

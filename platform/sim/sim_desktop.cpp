@@ -72,10 +72,10 @@ std::uint32_t SimDesktop::processOf(Window window) {
 }
 
 Desktop::Window SimDesktop::find(const std::optional<std::string>& className, const std::string& title) {
-    const CaseRules cases;
+    const TextRules texts;
     const auto found = std::ranges::find_if(windows_, [&](const Opened& opened) {
-        return cases.equal(opened.window.title, title) &&
-               (!className || cases.equal(opened.window.className, *className));
+        return texts.equal(opened.window.title, title) &&
+               (!className || texts.equal(opened.window.className, *className));
     });
     return found == windows_.end() ? 0 : found->handle;
 }

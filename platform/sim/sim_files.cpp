@@ -1,5 +1,6 @@
 #include "platform/sim/sim_files.h"
 
+#include "platform/folders.h"
 #include "platform/sim/faults.h"
 #include "platform/sim/host_file.h"
 #include "platform/sim/short_names.h"
@@ -19,8 +20,6 @@
 namespace tarvelon {
 
 namespace {
-
-constexpr std::size_t longestPath = 259;
 
 bool isFolder(const std::string& host) {
     struct stat status;
@@ -74,12 +73,17 @@ void forEachEntry(const std::string& hostFolder, Visit visit) {
 
 } // namespace
 
-SimFiles::SimFiles(Faults& faults, std::string hostFolder)
+SimFiles::SimFiles(Faults& faults, SimCodePage& codePage, std::string hostFolder)
     : faults_(faults)
+    , codePage_(codePage)
     , root_(std::move(hostFolder)) {}
 
 std::string SimFiles::hostPath(const std::string& path) const {
-    const auto asked = place(path);
+    return hostPathByUtf8(codePage_.toUtf8(path));
+}
+
+std::string SimFiles::hostPathByUtf8(const std::string& path) const {
+    const auto asked = placeByUtf8(path);
     if (!asked) {
         throw std::invalid_argument("no place for " + path);
     }
@@ -87,8 +91,12 @@ std::string SimFiles::hostPath(const std::string& path) const {
 }
 
 void SimFiles::put(const std::string& path, std::string_view bytes) {
-    makeFolders(path.substr(0, path.rfind('\\') + 1));
-    const std::string host = hostPath(path);
+    putByUtf8(codePage_.toUtf8(path), bytes);
+}
+
+void SimFiles::putByUtf8(const std::string& path, std::string_view bytes) {
+    makeFoldersByUtf8(path.substr(0, path.rfind('\\') + 1));
+    const std::string host = hostPathByUtf8(path);
     struct stat before = {};
     ::stat(host.c_str(), &before);
     std::ofstream file(host, std::ios::binary | std::ios::trunc);
@@ -110,9 +118,13 @@ std::optional<std::string> SimFiles::get(const std::string& path) const {
 }
 
 void SimFiles::makeFolders(const std::string& path) {
+    makeFoldersByUtf8(codePage_.toUtf8(path));
+}
+
+void SimFiles::makeFoldersByUtf8(const std::string& path) {
     for (std::size_t slash = path.find('\\', 3); slash != std::string::npos;
          slash = path.find('\\', slash + 1)) {
-        ::mkdir(hostPath(path.substr(0, slash)).c_str(), 0755);
+        ::mkdir(hostPathByUtf8(path.substr(0, slash)).c_str(), 0755);
     }
 }
 
@@ -127,11 +139,22 @@ std::string SimFiles::firstName(const std::string& folder) {
     if (!host || !isFolder(*host)) {
         return {};
     }
-    listing_ = namesIn(*host);
+    const std::vector<std::string> names = namesIn(*host);
+    for (const std::string& name : names) {
+        listing_.push_back(shown(name, names));
+    }
     if (!asked->isRoot()) {
         listing_.insert(listing_.begin(), {".", ".."});
     }
     return nextName();
+}
+
+std::string SimFiles::shown(const std::string& hostName,
+                            const std::vector<std::string>& namesInFolder) const {
+    if (auto name = codePage_.fromUtf8(hostName)) {
+        return *std::move(name);
+    }
+    return withoutShortNames ? codePage_.shown(hostName) : shortNameOf(hostName, namesInFolder);
 }
 
 std::string SimFiles::nextName() {
@@ -237,9 +260,9 @@ bool SimFiles::searchTreeForFile(const std::string& root, const std::string& nam
     if (faults_.strikes(Operation::SearchTree) || !host || !isFolder(*host)) {
         return false;
     }
-    const std::string shown = root.back() == '\\' ? root : root + "\\";
-    const auto hit = searchFolder(*host, shown, SimCodePage::capitals(name));
-    if (!hit || hit->size() > longestPath) {
+    const std::string below = root.back() == '\\' ? root : root + "\\";
+    const auto hit = searchFolder(*host, below, utf8Capitals(codePage_.toUtf8(name)));
+    if (!hit || hit->size() >= SystemFolders::pathRoom) {
         return false;
     }
     std::memcpy(buffer, hit->c_str(), hit->size() + 1);
@@ -253,7 +276,7 @@ std::uint32_t SimFiles::getShortPathName(const std::string& path, char* buffer, 
         return 0;
     }
     std::string shortPath = path.substr(0, 3) + shortPathTo(*host, asked->rootLength);
-    if (!asked->isRoot() && path.back() == '\\') {
+    if (!asked->isRoot() && codePage_.toUtf8(path).back() == '\\') {
         shortPath += '\\';
     }
     const auto length = static_cast<std::uint32_t>(shortPath.size());
@@ -279,14 +302,15 @@ std::string SimFiles::shortPathTo(const std::string& host, std::size_t rootLengt
 std::optional<std::string> SimFiles::searchFolder(const std::string& hostFolder,
                                                   const std::string& shownFolder,
                                                   const std::string& upperName) const {
-    for (const std::string& name : namesIn(hostFolder)) {
+    const std::vector<std::string> names = namesIn(hostFolder);
+    for (const std::string& name : names) {
         const std::string host = hostFolder + "/" + name;
         if (isFolder(host)) {
-            if (auto hit = searchFolder(host, shownFolder + name + "\\", upperName)) {
+            if (auto hit = searchFolder(host, shownFolder + shown(name, names) + "\\", upperName)) {
                 return hit;
             }
-        } else if (SimCodePage::capitals(name) == upperName) {
-            return shownFolder + name;
+        } else if (utf8Capitals(name) == upperName) {
+            return shownFolder + shown(name, names);
         }
     }
     return std::nullopt;
@@ -295,10 +319,12 @@ std::optional<std::string> SimFiles::searchFolder(const std::string& hostFolder,
 /// Takes a path apart as the system does: cut at the first zero, slashes of both kinds and runs of them
 /// alike, no blanks or dots at the end, no wildcards. Empty for a path that is not of the form `C:\...`.
 std::optional<SimFiles::Place> SimFiles::place(const std::string& path) const {
-    const std::string_view asked = path.c_str();
+    return placeByUtf8(codePage_.toUtf8(path.c_str()));
+}
+
+std::optional<SimFiles::Place> SimFiles::placeByUtf8(std::string_view asked) const {
     const bool onDrive = asked.starts_with("C:\\") || asked.starts_with("c:\\");
-    if (!onDrive || asked.size() > longestPath ||
-        asked.find_first_of("*?\"<>|", 2) != std::string_view::npos) {
+    if (!onDrive || asked.find_first_of("*?\"<>|", 2) != std::string_view::npos) {
         return std::nullopt;
     }
     Place result{root_, root_.size()};
@@ -344,10 +370,10 @@ std::optional<std::string> SimFiles::find(const Place& asked, bool newLast) cons
 }
 
 std::string SimFiles::entryLike(const std::string& hostFolder, const std::string& name) const {
-    const std::string wanted = SimCodePage::capitals(name);
+    const std::string wanted = utf8Capitals(name);
     std::string found;
     forEachEntry(hostFolder, [&](const std::string& entry) {
-        if (SimCodePage::capitals(entry) == wanted) {
+        if (utf8Capitals(entry) == wanted) {
             found = entry;
         }
     });
@@ -363,9 +389,8 @@ std::string SimFiles::entryLike(const std::string& hostFolder, const std::string
 /// Without the dot entries, in the order of the upper-cased names.
 std::vector<std::string> SimFiles::namesIn(const std::string& hostFolder) const {
     std::vector<std::pair<std::string, std::string>> entries; // Upper-cased and as it is.
-    forEachEntry(hostFolder, [&](const std::string& entry) {
-        entries.emplace_back(SimCodePage::capitals(entry), entry);
-    });
+    forEachEntry(hostFolder,
+                 [&](const std::string& entry) { entries.emplace_back(utf8Capitals(entry), entry); });
     std::sort(entries.begin(), entries.end());
     std::vector<std::string> names;
     names.reserve(entries.size());
@@ -377,7 +402,7 @@ std::vector<std::string> SimFiles::namesIn(const std::string& hostFolder) const 
 
 std::string SimFiles::lockName(const std::string& path) const {
     const auto asked = place(path);
-    return asked ? SimCodePage::capitals(asked->path) : std::string();
+    return asked ? utf8Capitals(asked->path) : std::string();
 }
 
 bool SimFiles::isLocked(const std::string& path) const {

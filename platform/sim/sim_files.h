@@ -13,12 +13,13 @@ namespace tarvelon {
 
 class Faults;
 
-/// Real files below a host folder that stands for drive C. Names count without regard to case, in code page
-/// 1252, and are kept on the host byte for byte; every entry is found by its short name too. A name in the
-/// right case costs what the host's own call costs.
+/// Real files below a host folder that stands for drive C. Names count without regard to case and are kept on
+/// the host in UTF-8; every entry is found by its short name too. A name that the code page lacks a character
+/// of is listed by its short name, if the drive has such. A name in the right case costs what the host's own
+/// call costs.
 class SimFiles : public Files {
 public:
-    SimFiles(Faults& faults, std::string hostFolder);
+    SimFiles(Faults& faults, SimCodePage& codePage, std::string hostFolder);
 
     /// Where a path lies on the host, whether it exists or not. Throws std::invalid_argument for a bad path.
     std::string hostPath(const std::string& path) const;
@@ -26,9 +27,14 @@ public:
     /// For tests, past all locks and faults: writes a whole file and makes the folders it needs. The time of
     /// the last write always changes.
     void put(const std::string& path, std::string_view bytes);
+    /// The same by a path in UTF-8, for names that the code page cannot hold.
+    void putByUtf8(const std::string& path, std::string_view bytes);
     /// The whole file; empty when it does not exist.
     std::optional<std::string> get(const std::string& path) const;
     void makeFolders(const std::string& path);
+
+    /// The drive gives no short names: names that the code page lacks a character of are listed with a "?".
+    bool withoutShortNames = false;
 
     /// Another process keeps the file to itself: nothing opens, copies or removes it.
     void lock(const std::string& path) { locked_.insert(lockName(path)); }
@@ -64,6 +70,10 @@ private:
     };
 
     std::optional<Place> place(const std::string& path) const;
+    std::optional<Place> placeByUtf8(std::string_view path) const;
+    std::string hostPathByUtf8(const std::string& path) const;
+    void makeFoldersByUtf8(const std::string& path);
+    std::string shown(const std::string& hostName, const std::vector<std::string>& namesInFolder) const;
     /// The path of what exists there in any case; with `newLast`, also where a new entry of an existing
     /// folder would lie.
     std::optional<std::string> find(const Place& asked, bool newLast = false) const;
@@ -79,6 +89,7 @@ private:
     bool isReadOnly(const std::string& path) const;
 
     Faults& faults_;
+    SimCodePage& codePage_;
     const std::string root_;
     std::set<std::string> locked_;
     std::set<std::string> readOnly_;

@@ -18,8 +18,8 @@ namespace {
 constexpr std::int32_t success = 0;
 constexpr Registry::Key firstKey = 0x100;
 
-std::vector<std::string> namesIn(const std::string& path) {
-    std::vector<std::string> names = split(path.c_str(), '\\');
+std::vector<std::string> namesIn(const std::string& utf8Path) {
+    std::vector<std::string> names = split(utf8Path.c_str(), '\\');
     std::erase(names, "");
     return names;
 }
@@ -58,15 +58,15 @@ struct SimRegistry::Node {
     std::uint32_t denied = 0;
 
     auto valueLike(const std::string& asked) {
-        return std::ranges::find_if(values,
-                                    [wanted = SimCodePage::capitals(asked.c_str())](const NamedValue& value) {
-                                        return SimCodePage::capitals(value.name) == wanted;
-                                    });
+        return std::ranges::find_if(values, [wanted = utf8Capitals(asked.c_str())](const NamedValue& value) {
+            return utf8Capitals(value.name) == wanted;
+        });
     }
 };
 
-SimRegistry::SimRegistry(Faults& faults)
-    : faults_(faults) {
+SimRegistry::SimRegistry(Faults& faults, SimCodePage& codePage)
+    : faults_(faults)
+    , codePage_(codePage) {
     for (const Key root : {currentUser, localMachine}) {
         roots_[root] = std::make_unique<Node>();
     }
@@ -80,8 +80,8 @@ SimRegistry::Node& SimRegistry::make(Key root, const std::string& path) {
         return make(localMachine, "Software\\Classes\\" + path);
     }
     Node* node = roots_.at(root).get();
-    for (const std::string& name : namesIn(path)) {
-        std::unique_ptr<Node>& next = node->keys[SimCodePage::capitals(name)];
+    for (const std::string& name : namesIn(codePage_.toUtf8(path))) {
+        std::unique_ptr<Node>& next = node->keys[utf8Capitals(name)];
         if (!next) {
             next = std::make_unique<Node>();
             next->name = name;
@@ -97,10 +97,11 @@ void SimRegistry::makeKey(Key root, const std::string& path) {
 
 void SimRegistry::setValue(Key root, const std::string& path, const std::string& name, Value value) {
     Node& node = make(root, path);
-    if (const auto existing = node.valueLike(name); existing != node.values.end()) {
-        existing->value = std::move(value);
+    const std::string keptName = codePage_.toUtf8(name);
+    if (const auto existing = node.valueLike(keptName); existing != node.values.end()) {
+        existing->value = kept(std::move(value));
     } else {
-        node.values.push_back({name, std::move(value)});
+        node.values.push_back({keptName, kept(std::move(value))});
     }
 }
 
@@ -118,18 +119,32 @@ std::optional<SimRegistry::Value> SimRegistry::value(Key root, const std::string
     if (!node) {
         return std::nullopt;
     }
-    const auto found = node->valueLike(name);
-    return found == node->values.end() ? std::nullopt : std::optional(found->value);
+    const auto found = node->valueLike(codePage_.toUtf8(name));
+    return found == node->values.end() ? std::nullopt : std::optional(shown(found->value));
 }
 
 void SimRegistry::deny(Key root, const std::string& path, std::uint32_t rights) {
     make(root, path).denied = rights;
 }
 
-SimRegistry::Node* SimRegistry::below(Node& start, const std::string& path) {
+SimRegistry::Value SimRegistry::kept(Value value) const {
+    if (holdsText(value)) {
+        value.bytes = codePage_.toUtf8(value.bytes);
+    }
+    return value;
+}
+
+SimRegistry::Value SimRegistry::shown(Value value) const {
+    if (holdsText(value)) {
+        value.bytes = codePage_.shown(value.bytes);
+    }
+    return value;
+}
+
+SimRegistry::Node* SimRegistry::below(Node& start, const std::string& path) const {
     Node* node = &start;
-    for (const std::string& name : namesIn(path)) {
-        const auto next = node->keys.find(SimCodePage::capitals(name));
+    for (const std::string& name : namesIn(codePage_.toUtf8(path))) {
+        const auto next = node->keys.find(utf8Capitals(name));
         if (next == node->keys.end()) {
             return nullptr;
         }
@@ -188,8 +203,8 @@ std::int32_t SimRegistry::enumKey(Key key, std::uint32_t index, char* name, std:
     if (index >= node->keys.size()) {
         return noMoreItems;
     }
-    const std::string& found =
-        std::next(node->keys.begin(), static_cast<std::ptrdiff_t>(index))->second->name;
+    const std::string found =
+        codePage_.shown(std::next(node->keys.begin(), static_cast<std::ptrdiff_t>(index))->second->name);
     if (found.size() >= size) {
         return moreData;
     }
@@ -209,12 +224,13 @@ std::int32_t SimRegistry::enumValue(Key key, std::uint32_t index, char* name, st
         return noMoreItems;
     }
     const Node::NamedValue& found = node->values[index];
-    result = giveData(found.value, data, dataSize);
-    if (result != success || found.name.size() >= nameSize) {
+    const std::string foundName = codePage_.shown(found.name);
+    result = giveData(shown(found.value), data, dataSize);
+    if (result != success || foundName.size() >= nameSize) {
         return moreData;
     }
-    std::memcpy(name, found.name.c_str(), found.name.size() + 1);
-    nameSize = static_cast<std::uint32_t>(found.name.size());
+    std::memcpy(name, foundName.c_str(), foundName.size() + 1);
+    nameSize = static_cast<std::uint32_t>(foundName.size());
     return success;
 }
 
@@ -225,12 +241,12 @@ std::int32_t SimRegistry::queryValue(Key key, const std::string& name, std::uint
     if (!node) {
         return result;
     }
-    const auto found = node->valueLike(name);
+    const auto found = node->valueLike(codePage_.toUtf8(name));
     if (found == node->values.end()) {
         return fileNotFound;
     }
     type = found->value.type;
-    return giveData(found->value, data, size);
+    return giveData(shown(found->value), data, size);
 }
 
 std::int32_t SimRegistry::deleteValue(Key key, const std::string& name) {
@@ -239,7 +255,7 @@ std::int32_t SimRegistry::deleteValue(Key key, const std::string& name) {
     if (!node) {
         return result;
     }
-    const auto found = node->valueLike(name);
+    const auto found = node->valueLike(codePage_.toUtf8(name));
     if (found == node->values.end()) {
         return fileNotFound;
     }

@@ -9,11 +9,13 @@
 namespace tarvelon {
 
 class Faults;
+class SimCodePage;
 
-/// A registry in memory. Keys and values are found without regard to case, in code page 1252, and keep the
-/// spelling they were made with. Sub-keys are listed by name, values in the order they were made in.
-/// `classesRoot` is the local machine's "Software\Classes". A key that is opened gets the lowest free number,
-/// so that one closed before answers to its old number. A call that is told to fail denies access.
+/// A registry in memory. Names and texts are kept in UTF-8 and come in the code page. Keys and values are
+/// found without regard to case, and keep the spelling they were made with. Sub-keys are listed by name,
+/// values in the order they were made in. `classesRoot` is the local machine's "Software\Classes". A key that
+/// is opened gets the lowest free number, so that one closed before answers to its old number. A call that is
+/// told to fail denies access.
 class SimRegistry : public Registry {
 public:
     enum Type : std::uint32_t {
@@ -37,7 +39,7 @@ public:
     static constexpr std::uint32_t enumerateRight = 0x8;
     static constexpr std::uint32_t allRights = 0xf003f;
 
-    explicit SimRegistry(Faults& faults);
+    SimRegistry(Faults& faults, SimCodePage& codePage);
     ~SimRegistry() override;
 
     /// For tests, past all rights and faults. Keys on the way are made.
@@ -69,13 +71,16 @@ private:
         std::uint32_t rights;
     };
 
+    Value kept(Value value) const;
+    Value shown(Value value) const;
     Node& make(Key root, const std::string& path);
     /// Null when there is no such key.
-    static Node* below(Node& start, const std::string& path);
+    Node* below(Node& start, const std::string& path) const;
     /// The node behind a root or an open key that has these rights; null with `result` telling why not.
     Node* nodeOf(Key key, std::uint32_t rights, std::int32_t& result) const;
 
     Faults& faults_;
+    SimCodePage& codePage_;
     std::map<Key, std::unique_ptr<Node>> roots_;
     std::map<Key, OpenKey> open_;
 };

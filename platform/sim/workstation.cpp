@@ -35,7 +35,7 @@ SimWorkstation::SimWorkstation()
 }
 
 SimWorkstation::SimWorkstation(const std::string& hostFolder)
-    : files(faults, hostFolder) {}
+    : files(faults, codePage, hostFolder) {}
 
 SimWorkstation::~SimWorkstation() {
     if (!ownFolder_.empty()) {

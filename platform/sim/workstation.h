@@ -37,7 +37,8 @@ public:
 
     Faults faults;
     SimClock clock;
-    SimCodePage codePage;
+    SimCodePage codePage{SimCodePage::Page::Utf8}; ///< Of the process.
+    SimCodePage systemPage;                        ///< The ANSI page of the system.
     SimFiles files;
     SimFolders folders{faults};
     SimCrypto crypto{faults};
@@ -45,15 +46,15 @@ public:
     SimMessages messages{clock, view};
     SimDialogs dialogs;
     SimProcesses processes{faults};
-    SimRegistry registry{faults};
+    SimRegistry registry{faults, codePage};
     SimShell shell{faults, files};
     SimShortcuts shortcuts{faults, files};
     SimPower power{faults};
     SimDesktop desktop;
 
 private:
-    Platform platform_{codePage, files, folders, crypto,    messages, dialogs, processes,
-                       registry, clock, shell,   shortcuts, power,    desktop};
+    Platform platform_{codePage,  systemPage, files, folders, crypto,    messages, dialogs,
+                       processes, registry,   clock, shell,   shortcuts, power,    desktop};
     std::string ownFolder_; ///< Empty when the folder was given.
 };
 

@@ -18,7 +18,9 @@ namespace tarvelon {
 
 // Thin calls of the real Windows, each in the file of its name.
 std::unique_ptr<Clock> makeClock();
+/// The process's page, and the system's ANSI page.
 std::unique_ptr<CodePage> makeCodePage();
+std::unique_ptr<CodePage> makeSystemPage();
 std::unique_ptr<CryptoService> makeCryptoService();
 std::unique_ptr<Desktop> makeDesktop();
 std::unique_ptr<Power> makePower();

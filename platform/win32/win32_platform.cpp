@@ -38,8 +38,8 @@ Win32Platform::~Win32Platform() {
 }
 
 Platform Win32Platform::platform() {
-    return {*codePage_, files_,  *folders_, *crypto_,    messages_, dialogs_, *processes_,
-            *registry_, *clock_, *shell_,   *shortcuts_, *power_,   *desktop_};
+    return {*codePage_,  *systemPage_, files_,  *folders_, *crypto_,    messages_, dialogs_,
+            *processes_, *registry_,   *clock_, *shell_,   *shortcuts_, *power_,   *desktop_};
 }
 
 } // namespace tarvelon

@@ -26,6 +26,7 @@ public:
 
 private:
     std::unique_ptr<CodePage> codePage_ = makeCodePage();
+    std::unique_ptr<CodePage> systemPage_ = makeSystemPage();
     Win32Files files_;
     std::unique_ptr<SystemFolders> folders_ = makeSystemFolders();
     std::unique_ptr<CryptoService> crypto_ = makeCryptoService();

@@ -98,21 +98,26 @@ TEST_F(RegistryContract, ListingsEndAfterTheLastName) {
 }
 
 TEST_F(RegistryContract, NamesCountWithoutRegardToCase) {
-    workstation->setValue(key, "Caf\xe9", text, "first\0"s);
-    workstation->setValue(key, "CAF\xc9", text, "second\0"s);
+    const auto name = [this](std::u16string_view units) {
+        return platform.codePage.fromUtf16(units).value();
+    };
+    workstation->setValue(key, name(u"Caf\xe9"), text, "first\0"s);
+    workstation->setValue(key, name(u"CAF\xc9"), text, "second\0"s);
     workstation->setValue(key, "", text, "default\0"s);
     workstation->makeKey(key + "\\Sub");
-    EXPECT_EQ(query(opened, "caf\xe9", 7).buffer, "second\0"s);
+    EXPECT_EQ(query(opened, name(u"caf\xe9"), 7).buffer, "second\0"s);
     EXPECT_EQ(query(opened, "", 8).buffer, "default\0"s);
-    EXPECT_EQ(registry.deleteValue(opened, "cAF\xc9"), success);
-    EXPECT_EQ(registry.deleteValue(opened, "Caf\xe9"), Registry::fileNotFound);
+    EXPECT_EQ(registry.deleteValue(opened, name(u"cAF\xc9")), success);
+    EXPECT_EQ(registry.deleteValue(opened, name(u"Caf\xe9")), Registry::fileNotFound);
     EXPECT_EQ(enumerate(opened, 0).name, "") << "The default value alone is left";
 
     Registry::Key sub = 0;
     EXPECT_EQ(registry.openKey(opened, "sUB\\", allRights, sub), success) << "From an open key";
     registry.closeKey(sub);
-    EXPECT_EQ(platform.codePage.upper(0xe9), 0xc9);
-    EXPECT_EQ(platform.codePage.lower(0xc9), 0xe9);
+    EXPECT_EQ(platform.codePage.capitals(u"a\xe9\u0434\u3042"), u"A\xc9\u0414\u3042");
+    EXPECT_EQ(platform.codePage.toUtf16(name(u"\xe9")), u"\xe9");
+    EXPECT_EQ(platform.systemPage.fromUtf16(u"\xe9"), "\xe9");
+    EXPECT_EQ(platform.systemPage.fromUtf16(u"\u0434"), std::nullopt) << "no letter that looks like it";
 }
 
 TEST_F(RegistryContract, WhatTheRegistryOpensAndRefuses) {

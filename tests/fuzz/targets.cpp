@@ -12,8 +12,8 @@
 namespace tarvelon::fuzz {
 namespace {
 using std::string, std::string_view;
-SimCodePage codePage;
-const CaseRules cases(codePage);
+SimCodePage codePage(SimCodePage::Page::Utf8);
+const TextRules texts(codePage);
 
 void demand(bool holds, const char* rule) {
     if (!holds) {
@@ -61,7 +61,7 @@ struct Machine : SimWorkstation {
 
 /// The value as a fresh look at the text gives it.
 std::optional<string> searched(const string& text, const string& section, const string& key) {
-    ProfileImage image(cases);
+    ProfileImage image(texts);
     image.setText(text);
     return image.read(section, key);
 }
@@ -69,7 +69,7 @@ std::optional<string> searched(const string& text, const string& section, const 
 /// A profile file's text, a section and key to look at, and three times section, key and value to write.
 void profile(string_view input) {
     const auto parts = fields(input, 12);
-    ProfileImage kept(cases);
+    ProfileImage kept(texts);
     kept.setText(parts[0]);
     for (std::size_t i = 3; i < parts.size(); i += 3) {
         const string &section = parts[i], &key = parts[i + 1], &value = parts[i + 2], before = kept.text();
@@ -114,8 +114,8 @@ void baseline(string_view input) {
     if (section.empty()) { // Its head is torn, or there is none.
         return;
     }
-    const string block = cases.upper(held.sectionText[0].text());
-    const bool isNew = !contains(block, cases.upper("\r\n" + name)) && contains(block, "\r\nNULL*E\r\n");
+    const string block = texts.upper(held.sectionText[0].text());
+    const bool isNew = !contains(block, texts.upper("\r\n" + name)) && contains(block, "\r\nNULL*E\r\n");
     pc.app.settingsFile.writeEntry(pc.baselinePath, name, value + "*E", section);
     demand(!isNew || data.getEntry(name, section) == trim(value), "an accepted entry is found");
     demand(name.starts_with('[') || survives(sections("\f")), "an accepted entry is saved and loaded again");

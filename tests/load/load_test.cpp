@@ -63,8 +63,9 @@ TEST_F(Load, SixtyFourThousandFilesInOneFolder) {
 TEST_F(Load, ThreeHundredRunsInARowFindWhatChangedAndNothingElse) {
     std::mt19937 random(20061121);
     const auto oneOf = [&](const Rows& texts) { return texts[random() % texts.size()]; };
-    const Rows stems = {"some blanks", "kernel", "na=me", ";note", "\xe9t\xe9", " blank"};
-    const Folders folders = {{2, "C:\\Tools\\"}, {9, "C:\\\xdf \xe4\\"}, {20, "C:\\T\\"}};
+    const Rows stems = {"some blanks", "kernel", "na=me", ";note", "\u00e9t\u00e9", "\u0401\u6f22\U0001f600",
+                        " blank"};
+    const Folders folders = {{2, "C:\\Tools\\"}, {9, "C:\\\u00df \u00e4\\"}, {20, "C:\\T\\"}};
     for (const auto& [slot, path] : folders) {
         pc.files.makeFolders(path);
         pc.files.put(dataFolder + std::to_string(slot) + ".dat", "");
@@ -77,7 +78,7 @@ TEST_F(Load, ThreeHundredRunsInARowFindWhatChangedAndNothingElse) {
         for (auto changes = random() % 12; changes > 0; --changes) {
             const std::string name = oneOf(stems) + "." + oneOf(types); // Of one folder each.
             const std::string path =
-                oneOf({systemFolder, "C:\\Tools\\s", "C:\\\xdf \xe4\\9", "C:\\T\\t"}) + name;
+                oneOf({systemFolder, "C:\\Tools\\s", "C:\\\u00df \u00e4\\9", "C:\\T\\t"}) + name;
             pc.files.remove(path);
             files.erase(path);
             if (random() % 3 != 0) {

@@ -13,8 +13,8 @@ namespace {
 const std::string path = R"(C:\X\Data\Tarvelon.dat)";
 
 TEST(ProfileImage, ReadsAsTheSystemDoesAndWritesOneLine) {
-    const CaseRules cases;
-    ProfileImage profile(cases);
+    const TextRules texts;
+    ProfileImage profile(texts);
     profile.write("S", "k", "v");
     EXPECT_EQ(profile.text(), "[S]\r\nk=v\r\n");
     profile.setText("stray=0\r\n[Main]\r\n; note=1\r\n  Path  =  C:\\My Folder  \r\nquoted=\" two \"\r\n\r\n"
@@ -109,29 +109,34 @@ TEST_F(SettingsTest, AFailedWriteLosesNothing) {
 }
 
 TEST_F(SettingsTest, EntriesOfABaselineAreGatheredAsIfEachReplacedItsLineInTheText) {
-    const CaseRules& cases = globals.cases;
+    SimCodePage unicode(SimCodePage::Page::Utf8);
+    globals.texts = TextRules(unicode);
+    const TextRules& texts = globals.texts;
     EntryBlock& dll = globals.baselines.sectionText[0];
     globals.baselines.sectionName[0] = "DLL";
     std::mt19937 random(20061122);
-    const auto oneOf = [&](const std::vector<std::string>& texts) { return texts[random() % texts.size()]; };
+    const auto oneOf = [&](const std::vector<std::string>& all) { return all[random() % all.size()]; };
     const std::string end = "\r\nNULL*E\r\n", mark = "*E\r\n";
     for (int round = 0; round < 3000; ++round) {
         std::string text = "[DLL]\r\n";
         for (auto lines = random() % 6; lines > 0; --lines) {
-            text += oneOf({"a=1*E", "A=1*e", "ab=2*E", "a=b=1*E", "b=3", "a*E\r", "Null*E"}) + "\r\n";
+            text += oneOf({"a=1*E", "A=1*e", "ab=2*E", "\u2c65=1*E", "\u2c65b=1*E", "a=b=1*E", "b=3", "a*E\r",
+                           "Null*E"}) +
+                    "\r\n";
         }
         dll.setText(text += oneOf({"NULL*E\r\n", "NULL*E\r\n", "null*E\r\n", "NULL*E"}));
         for (int count = 0; count < 9; ++count) {
-            const std::string name = oneOf({"a", "A", "ab", "a=b", "b", "B", "NULL", "", "b=3\r\na"});
+            const std::string name =
+                oneOf({"a", "A", "ab", "a=b", "b", "B", "\u023a", "\u2c65", "NULL", "", "b=3\r\na"});
             const std::string head = "\r\n" + name + "=", value = oneOf({"1*E", "2*E", "b=1*E", "odd"});
             EXPECT_EQ(settings.writeEntry(R"(C:\X\Data\Integrity.dat)", name, value, "dll"), std::nullopt);
-            const std::string old = head + getBetween(cases, text, 1, head, mark) + mark;
+            const std::string old = head + getBetween(texts, text, 1, head, mark) + mark;
             text = text.find("\r\n" + name) == std::string::npos
-                       ? cases.replaceAll(text, end, head + value + end)
-                       : cases.replaceAll(text, old, head + value + "\r\n");
+                       ? texts.replaceAll(text, end, head + value + end)
+                       : texts.replaceAll(text, old, head + value + "\r\n");
         }
         const std::string name = oneOf({"a", "A=B", "b=3\r\na"});
-        ASSERT_EQ(dll.find(cases, name), getBetween(cases, text, 1, "\r\n" + name + "=", mark));
+        ASSERT_EQ(dll.find(texts, name), getBetween(texts, text, 1, "\r\n" + name + "=", mark));
         ASSERT_EQ(dll.text(), text);
     }
 }

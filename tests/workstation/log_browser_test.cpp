@@ -82,7 +82,7 @@ TEST_F(Reports, AReportIsShownUpToItsFirstEmptyField) {
     for (const auto& [text, rows] : {std::pair<std::string, Rows>{"", {}},
                                      {"Heading, x ,,never shown\r\n", {"Heading", "x"}},
                                      {"\r\nnever shown", {}},
-                                     {"  a b \r\n\xff\r\n, ,x", {"a b", "\xff"}},
+                                     {"  a b \r\n\xff\r\n, ,x", {"a b", "\u00ff"}},
                                      {"\x01|\"\n", {"\x01|\"\n"}},
                                      {big, split(big, ',')}}) {
         report("03-05-2006(3_04_07PM)", text);

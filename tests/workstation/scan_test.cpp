@@ -4,6 +4,10 @@
 #include "core/failure.h"
 #include "tests/workstation/session.h"
 
+#include <filesystem>
+#include <iomanip>
+#include <sstream>
+
 namespace tarvelon {
 namespace {
 
@@ -104,6 +108,89 @@ TEST_F(Scan, SortsItsFindingsAndOneClickAcceptsThem) {
     ASSERT_FALSE(start("/r"));
     EXPECT_TRUE(settle()) << "the second scan is clean";
 }
+
+struct Naming {
+    SimCodePage::Page page;
+    bool shortNames;
+    Rows shown; ///< The names below, as they are listed.
+};
+
+class Names : public Scan, public testing::WithParamInterface<Naming> {};
+
+TEST_P(Names, HideNoFile) {
+    using Page = SimCodePage::Page;
+    const auto& [page, shortNames, shown] = GetParam();
+    pc.codePage.use(page);
+    pc.systemPage.use(page == Page::Japanese ? page : Page::Western);
+    pc.files.withoutShortNames = !shortNames;
+    const auto putAll = [&](const std::string& bytes) {
+        for (const char* name : {"plain.dll", "\u0436\u0451.dll", "\u03b1\u03b2.sys", "\u30bd\u8868.exe",
+                                 "\u00e9t\u00e9.ocx", "\U0001f600.drv"}) {
+            pc.files.putByUtf8(systemFolder + name, name + bytes);
+        }
+    };
+    // What cannot be opened by its name is new in each run, also if it was accepted.
+    const auto finds = [&](bool changed) {
+        Rows rows;
+        for (const std::string& name : GetParam().shown) {
+            const bool isLost = name.find('?') != std::string::npos;
+            if (changed || isLost) {
+                rows.push_back(systemFolder + name + (isLost ? " *NEW*" : ""));
+            }
+        }
+        const bool ended = start("/r") || settle();
+        EXPECT_EQ(ended, rows.empty());
+        EXPECT_THAT(screen().List1.items(), testing::UnorderedElementsAreArray(rows));
+    };
+    putAll("");
+    makeBaseline();
+    configure({.settings = withReports});
+    finds(false);
+    const std::string host = pc.files.hostPath(systemFolder) + "/";
+    std::filesystem::rename(host + "\u0436\u0451.dll", host + "\u0416\u0401.dll");
+    finds(false);
+    std::filesystem::rename(host + "\u0416\u0401.dll", host + "\u0436\u0451.dll");
+    putAll("changed");
+    finds(true);
+    accept();
+    std::istringstream files(lines().at(0).substr(std::string("C:\\av\\scan.exe /s ").size()));
+    for (std::string path; files >> std::quoted(path, '"', '\0');) {
+        EXPECT_TRUE(path.find('?') != std::string::npos || pc.files.get(path)) << path;
+        EXPECT_TRUE(pc.systemPage.toUtf16(path)) << path;
+    }
+    EXPECT_THAT(file(report), HasSubstr("," + systemFolder + shown[3]));
+    finds(false);
+    if (page != Page::Utf8) {
+        return;
+    }
+    // The same system before it had UTF-8 to give, and after: new once are those that it had to list by other
+    // names.
+    pc.codePage.use(Page::Western);
+    find(4);
+    accept();
+    pc.files.put(systemFolder + "\xe9t\xe9.ocx", "by another page");
+    find(1);
+    accept();
+    pc.codePage.use(Page::Utf8);
+    finds(false);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Under, Names,
+    testing::Values(Naming{SimCodePage::Page::Utf8,
+                           true,
+                           {"plain.dll", "\u0436\u0451.dll", "\u03b1\u03b2.sys", "\u30bd\u8868.exe",
+                            "\u00e9t\u00e9.ocx", "\U0001f600.drv"}},
+                    Naming{SimCodePage::Page::Japanese,
+                           true,
+                           {"plain.dll", "\x84\x77\x84\x76.dll", "\x83\xbf\x83\xc0.sys",
+                            "\x83\x5c\x95\x5c.exe", "_T_~1.OCX", "_~1.DRV"}},
+                    Naming{SimCodePage::Page::Western,
+                           true,
+                           {"plain.dll", "__~1.DLL", "__~1.SYS", "__~1.EXE", "\xe9t\xe9.ocx", "_~1.DRV"}},
+                    Naming{SimCodePage::Page::Western,
+                           false,
+                           {"plain.dll", "??.dll", "??.sys", "??.exe", "\xe9t\xe9.ocx", "??.drv"}}));
 
 TEST_F(Scan, TypesNotWantedAreLeftOut) {
     live({"a.dll", "b.drv", "s.scr"}, {.settings = "1,0,0,0,0,1,0,0"});
