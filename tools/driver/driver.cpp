@@ -103,7 +103,7 @@ void Form::fill(std::size_t field, const std::string& text) const {
     if (!comesTrue([&] { return (edits = childrenOfClass(window_, "Edit")).size() > field; })) {
         throw NotSeen("no text field to write \"" + text + "\" into on " + describe());
     }
-    send(edits[field], WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()));
+    send(edits[field], WM_SETTEXT, 0, reinterpret_cast<LPARAM>(wide(text).c_str()));
 }
 
 HWND Form::tree() const {

@@ -4,7 +4,13 @@ namespace e2e {
 
 std::string narrow(const wchar_t* wide) {
     char text[4096] = {};
-    WideCharToMultiByte(CP_ACP, 0, wide, -1, text, sizeof text, nullptr, nullptr);
+    WideCharToMultiByte(CP_UTF8, 0, wide, -1, text, sizeof text, nullptr, nullptr);
+    return text;
+}
+
+std::wstring wide(const std::string& narrow) {
+    wchar_t text[4096] = {};
+    MultiByteToWideChar(CP_UTF8, 0, narrow.c_str(), -1, text, 4096);
     return text;
 }
 
@@ -20,20 +26,20 @@ bool isOfClass(HWND window, const char* name) {
 
 LRESULT send(HWND window, UINT message, WPARAM first, LPARAM second) {
     DWORD_PTR result = 0;
-    SendMessageTimeoutA(window, message, first, second, SMTO_NORMAL, answerTime, &result);
+    SendMessageTimeoutW(window, message, first, second, SMTO_NORMAL, answerTime, &result);
     return static_cast<LRESULT>(result);
 }
 
 std::string textOf(HWND window) {
-    char text[4096] = {};
-    send(window, WM_GETTEXT, sizeof text, reinterpret_cast<LPARAM>(text));
-    return text;
+    wchar_t text[1024] = {};
+    send(window, WM_GETTEXT, 1024, reinterpret_cast<LPARAM>(text));
+    return narrow(text);
 }
 
 std::string shownText(HWND window) {
-    wchar_t wide[1024] = {};
-    InternalGetWindowText(window, wide, 1024);
-    return narrow(wide);
+    wchar_t text[1024] = {};
+    InternalGetWindowText(window, text, 1024);
+    return narrow(text);
 }
 
 std::string withoutMarks(const std::string& text) {
@@ -75,11 +81,9 @@ std::vector<std::string> rowsOf(HWND list) {
     std::vector<std::string> rows;
     const LRESULT count = send(list, LB_GETCOUNT, 0, 0);
     for (WPARAM row = 0; static_cast<LRESULT>(row) < count; ++row) {
-        // Wide, since the narrow message comes back unconverted from another process.
-        wchar_t wide[1024] = {};
-        SendMessageTimeoutW(list, LB_GETTEXT, row, reinterpret_cast<LPARAM>(wide), SMTO_NORMAL, answerTime,
-                            nullptr);
-        rows.push_back(narrow(wide));
+        wchar_t text[1024] = {};
+        send(list, LB_GETTEXT, row, reinterpret_cast<LPARAM>(text));
+        rows.push_back(narrow(text));
     }
     return rows;
 }

@@ -12,13 +12,15 @@ namespace e2e {
 /// Milliseconds that a busy window may take for one message.
 inline constexpr UINT answerTime = 5'000;
 
+// Texts are UTF-8 on this side.
 std::string narrow(const wchar_t* wide);
+std::wstring wide(const std::string& narrow);
 
 std::string classOf(HWND window);
 /// Without regard to case.
 bool isOfClass(HWND window, const char* name);
 
-/// The window's answer; 0 when it gives none in time.
+/// The window's answer to a message, whose texts are wide; 0 when it gives none in time.
 LRESULT send(HWND window, UINT message, WPARAM first, LPARAM second);
 
 /// The window's own text.

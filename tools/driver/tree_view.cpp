@@ -1,5 +1,7 @@
 #include "tree_view.h"
 
+#include "seen_windows.h"
+
 namespace e2e {
 
 TreeView::TreeView(HWND window)
@@ -43,9 +45,7 @@ std::string TreeView::textOf(HTREEITEM item) const {
     WriteProcessMemory(process_, there_, &page, sizeof page, nullptr);
     SendMessageA(window_, TVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&there_->item));
     ReadProcessMemory(process_, there_, &page, sizeof page, nullptr);
-    char text[MAX_PATH] = {};
-    WideCharToMultiByte(CP_ACP, 0, page.text, -1, text, sizeof text, nullptr, nullptr);
-    return text;
+    return narrow(page.text);
 }
 
 std::string TreeView::describe(HTREEITEM parent) const {
