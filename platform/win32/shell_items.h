@@ -1,24 +1,19 @@
 #pragma once
 
-#include "platform/win32/owned.h"
+#include "platform/win32/windows_api.h"
 
-#include <objbase.h>
 #include <shlobj.h>
 
-#include <cstring>
+#include <string_view>
 
 namespace tarvelon {
 
 /// Fills `buffer` (at least 260 bytes) with the path of what the shell's item list names, and frees the list.
-/// False when it is null or names no path; the buffer is then as it was.
-inline bool pathFromItems(LPITEMIDLIST items, char* buffer) {
-    const Owned<LPITEMIDLIST, CoTaskMemFree> freed(items);
-    char path[MAX_PATH];
-    if (!items || !SHGetPathFromIDListA(items, path)) {
-        return false;
-    }
-    std::memcpy(buffer, path, std::strlen(path) + 1);
-    return true;
-}
+/// False when it is null or names no path, or one that takes more even by its short names; the buffer is then
+/// as it was.
+bool pathFromItems(LPITEMIDLIST items, char* buffer);
+
+/// Fills a buffer of `size` bytes with a path that the user has chosen, likewise.
+bool fillPath(char* buffer, std::size_t size, std::wstring_view path);
 
 } // namespace tarvelon

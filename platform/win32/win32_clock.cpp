@@ -1,26 +1,31 @@
 #include "platform/win32/parts.h"
 
+#include "platform/win32/wide.h"
 #include "platform/win32/windows_api.h"
 
 namespace tarvelon {
 
 namespace {
 
-constexpr int longestText = 256;
+/// Now, as one of the two forms of a call writes it for the user.
+template<class WideCall, class NarrowCall>
+std::string formatted(WideCall wideCall, NarrowCall narrowCall, DWORD flags) {
+    constexpr int longest = 256;
+    if (hasWideCalls()) {
+        wchar_t text[longest] = L"";
+        wideCall(LOCALE_USER_DEFAULT, flags, nullptr, nullptr, text, longest);
+        return narrowText(text);
+    }
+    char text[longest] = "";
+    narrowCall(LOCALE_USER_DEFAULT, flags, nullptr, nullptr, text, longest);
+    return text;
+}
 
 class Win32Clock : public Clock {
 public:
-    std::string dateText() override {
-        char text[longestText] = "";
-        GetDateFormatA(LOCALE_USER_DEFAULT, DATE_SHORTDATE, nullptr, nullptr, text, longestText);
-        return text;
-    }
+    std::string dateText() override { return formatted(GetDateFormatW, GetDateFormatA, DATE_SHORTDATE); }
 
-    std::string timeText() override {
-        char text[longestText] = "";
-        GetTimeFormatA(LOCALE_USER_DEFAULT, 0, nullptr, nullptr, text, longestText);
-        return text;
-    }
+    std::string timeText() override { return formatted(GetTimeFormatW, GetTimeFormatA, 0); }
 
     double secondsSinceMidnight() override {
         SYSTEMTIME now;

@@ -3,6 +3,7 @@
 #include "platform/win32/common_controls.h"
 #include "platform/win32/foremost.h"
 #include "platform/win32/shell_items.h"
+#include "platform/win32/wide.h"
 #include "platform/win32/window_host.h"
 #include "platform/win32/windows_api.h"
 
@@ -13,6 +14,7 @@ namespace tarvelon {
 namespace {
 
 constexpr const char* applicationTitle = "TarvelonLow";
+constexpr DWORD longestPath = 32768; ///< In UTF-16 units, with its final zero.
 
 UINT buttonFlags(Buttons buttons) {
     switch (buttons) {
@@ -51,6 +53,18 @@ Answer answerFrom(int button) {
     }
 }
 
+template<class Record, class Text>
+Record openFileRequest(const OpenFileRecord& record, const Text& filter, const Text& title, Text& path) {
+    Record request{};
+    request.hInstance = GetModuleHandleA(nullptr);
+    request.lpstrFilter = filter.c_str();
+    request.nFilterIndex = record.filterIndex;
+    request.lpstrFile = path.data();
+    request.lpstrTitle = title.empty() ? nullptr : title.c_str();
+    request.Flags = record.flags;
+    return request;
+}
+
 /// What a box or dialog belongs to and stands in front of; for as long as it lives, nothing else of the
 /// program can be used.
 class Owner {
@@ -81,38 +95,54 @@ Answer Win32Dialogs::message(const MessageBox& box) {
     const Owner owner(windows_);
     const UINT modality =
         (owner.window() ? 0 : MB_TASKMODAL) | (owner.isInBackground() ? MB_SETFOREGROUND : 0);
-    const char* title = box.title.empty() ? applicationTitle : box.title.c_str();
-    return answerFrom(MessageBoxA(owner.window(), box.text.c_str(), title,
-                                  buttonFlags(box.buttons) | iconFlags(box.icon) | modality));
+    const UINT flags = buttonFlags(box.buttons) | iconFlags(box.icon) | modality;
+    const std::string title = box.title.empty() ? applicationTitle : box.title;
+    return answerFrom(hasWideCalls() ? MessageBoxW(owner.window(), wideText(box.text).c_str(),
+                                                   wideText(title).c_str(), flags)
+                                     : MessageBoxA(owner.window(), box.text.c_str(), title.c_str(), flags));
 }
 
 bool Win32Dialogs::getOpenFileName(OpenFileRecord& record) {
     const Owner owner(windows_);
-    OPENFILENAMEA request{};
-    // The record without its newer tail: the form of it that every Windows takes.
-    request.lStructSize = OPENFILENAME_SIZE_VERSION_400A;
-    request.hwndOwner = owner.window();
-    request.hInstance = GetModuleHandleA(nullptr);
-    request.lpstrFilter = record.filter.c_str();
-    request.nFilterIndex = record.filterIndex;
-    request.lpstrFile = record.file.data();
-    request.nMaxFile = record.maxFile;
-    request.lpstrTitle = record.title.empty() ? nullptr : record.title.c_str();
-    request.Flags = record.flags;
     if (!commonDialogs_) {
         commonDialogs_.emplace("comdlg32.dll");
     }
-    const auto ask = commonDialogs_->find<BOOL WINAPI(OPENFILENAMEA*)>("GetOpenFileNameA");
-    return ask && ask(&request) != FALSE;
+    // The records without their newer tails: the form of them that every Windows takes.
+    if (!hasWideCalls()) {
+        auto request = openFileRequest<OPENFILENAMEA>(record, record.filter, record.title, record.file);
+        request.lStructSize = OPENFILENAME_SIZE_VERSION_400A;
+        request.hwndOwner = owner.window();
+        request.nMaxFile = record.maxFile;
+        const auto ask = commonDialogs_->find<BOOL WINAPI(OPENFILENAMEA*)>("GetOpenFileNameA");
+        return ask && ask(&request) != FALSE;
+    }
+    const std::wstring filter = wideText(record.filter);
+    const std::wstring title = wideText(record.title);
+    std::wstring path = wideText(record.file.c_str());
+    path.resize(longestPath);
+    auto request = openFileRequest<OPENFILENAMEW>(record, filter, title, path);
+    request.lStructSize = OPENFILENAME_SIZE_VERSION_400W;
+    request.hwndOwner = owner.window();
+    request.nMaxFile = longestPath;
+    const auto ask = commonDialogs_->find<BOOL WINAPI(OPENFILENAMEW*)>("GetOpenFileNameW");
+    return ask && ask(&request) != FALSE && fillPath(record.file.data(), record.maxFile, path.c_str());
 }
 
 bool Win32Dialogs::browseForFolder(const std::string& title, std::uint32_t flags, char* buffer) {
     const Owner owner(windows_);
-    BROWSEINFOA request{};
+    if (!hasWideCalls()) {
+        BROWSEINFOA request{};
+        request.hwndOwner = owner.window();
+        request.lpszTitle = title.c_str();
+        request.ulFlags = flags;
+        return pathFromItems(SHBrowseForFolderA(&request), buffer);
+    }
+    const std::wstring wideTitle = wideText(title);
+    BROWSEINFOW request{};
     request.hwndOwner = owner.window();
-    request.lpszTitle = title.c_str();
+    request.lpszTitle = wideTitle.c_str();
     request.ulFlags = flags;
-    return pathFromItems(SHBrowseForFolderA(&request), buffer);
+    return pathFromItems(SHBrowseForFolderW(&request), buffer);
 }
 
 } // namespace tarvelon
