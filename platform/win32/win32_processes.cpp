@@ -127,8 +127,8 @@ public:
     bool start(const std::string& program, const std::string& arguments, WindowStyle style) override {
         // A bare name is looked for in the current folder too, and what is started looks there for its
         // libraries: it must not be a folder that the user has last opened or that a link has chosen.
-        const std::string own = programFile();
-        const std::string ownFolder = own.substr(0, own.rfind('\\') + 1);
+        const std::wstring own = wideText(programFile());
+        const std::string ownFolder = narrowText(own.substr(0, own.rfind(L'\\') + 1));
         hasWideCalls() ? SetCurrentDirectoryW(briefPath(ownFolder).c_str())
                        : SetCurrentDirectoryA(ownFolder.c_str());
         const std::string file = fileOf(program);
