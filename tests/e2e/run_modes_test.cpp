@@ -9,6 +9,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <memory>
+
 namespace e2e {
 namespace {
 
@@ -123,6 +125,60 @@ TEST_F(RunModes, AtShutDown) {
     program.play({{"", "Cancel Shutdown?"}, {"Yes"}});
     EXPECT_TRUE(program.ends()) << program.describe();
     expectAccepted({quoted(replaced.path()), quoted(doomed.path()), both_});
+}
+
+TEST_F(RunModes, WithNamesOfEveryScriptAndALongPath) {
+    const std::string folder =
+        folder_.path() + "\u041f\u0430\u043f\u043a\u0430\u30bd" + std::string(170, 'f') + "\\";
+    ASSERT_NE(CreateDirectoryA(folder.c_str(), nullptr), 0);
+    std::string ideographs; // As many as the disks below Wine can hold.
+    for (int i = 0; i < 83; ++i) {
+        ideographs += "\u6f22";
+    }
+    std::vector<std::unique_ptr<PlantedFile>> files;
+    Rows found;
+    Rows added;
+    for (const std::string& name :
+         {std::string("\u0436\u0451\u043b\u0442\u044b\u0439.dll"), std::string("\u03b1\u03b2\u03b3.sys"),
+          std::string("\u30bd\u8868.exe"), std::string("\u00e9t\u00e9.ocx"), std::string("\U0001f600.scr"),
+          ideographs + ".com", std::string(190, 'n') + ".drv"}) {
+        files.push_back(std::make_unique<PlantedFile>("\\\\?\\" + folder + name, name));
+        found.push_back(folder + name);
+        added.push_back(folder + name + " *NEW*");
+    }
+    folder_.writeData("Integrity.dat", systemBaseline());
+    folder_.writeSettings({{"settings", "0,0,0,0,0,0,0,1"},
+                           {"antivirus", first_.path() + "|"},
+                           {"3/path", folder},
+                           {"3/args", "1,1,1,1,1,1,1"}});
+    const auto acceptFindings = [&](const Rows& expected) {
+        const Program program(folder_.program(), "/r");
+        program.play({{"", "Results"}, {"Repair and Update Failed Files...", "Failed Files List"}});
+        EXPECT_THAT(program.form("AutoCheck").rows(), testing::UnorderedElementsAreArray(expected));
+        program.play({{"Scan Failing Files...", "Integrity File Updated"}, {"Close Integrity Window"}});
+        EXPECT_TRUE(program.ends()) << program.describe();
+    };
+    const auto isClean = [&] {
+        const Program program(folder_.program(), "/r");
+        EXPECT_TRUE(program.ends()) << program.describe();
+    };
+    acceptFindings(added);
+    isClean();
+    for (const auto& file : files) {
+        file->rewrite("changed");
+    }
+    acceptFindings(found);
+    MoveFileA((folder + "\u0436\u0451\u043b\u0442\u044b\u0439.dll").c_str(),
+              (folder + "\u0416\u0401\u043b\u0442\u044b\u0439.dll").c_str());
+    isClean();
+    for (const std::string& line : first_.records(2)) {
+        EXPECT_EQ(line.find(" !"), std::string::npos) << "could not be opened: " << line;
+    }
+    for (const std::string& report : folder_.logs()) {
+        for (const std::string& path : found) {
+            EXPECT_THAT(report, HasSubstr(path.substr(path.rfind('\\'))));
+        }
+    }
 }
 
 TEST_F(RunModes, OnSchedule) {
