@@ -67,10 +67,10 @@ TEST_F(Contract, WindowsAreMetFoundAndClosed) {
 
 TEST_F(Contract, OnlyTheProgramThatIsNamedIsStartedAndNotAwaited) {
     // On Windows this very test, which lists itself.
-    put("two three.exe", read(platform.processes.programFile()));
+    put("two \xd0\xb0.exe", read(platform.processes.programFile()));
     ASSERT_TRUE(put("two.exe", "in the other's place"));
     const std::string made = folder + "made.json";
-    const std::string program = folder + "two three";
+    const std::string program = folder + "two \xd0\xb0";
     std::string arguments = "--gtest_list_tests --gtest_output=json:" + made + " ";
     arguments.resize(Processes::longestCommandLine - program.size() - 1, 'x');
     EXPECT_FALSE(platform.processes.start(program, arguments + "x", WindowStyle::MinimizedFocus));
@@ -79,21 +79,23 @@ TEST_F(Contract, OnlyTheProgramThatIsNamedIsStartedAndNotAwaited) {
 }
 
 TEST_F(Contract, DocumentsAreOpenedInTheirFolder) {
-    ASSERT_TRUE(put("open.bat", "@echo opened> opened.txt\r\n"));
+    ASSERT_TRUE(put("\xe8\xa1\xa8.bat", "@echo opened> opened.txt\r\n"));
     EXPECT_EQ(platform.shell.open("missing.html", folder), Shell::fileNotFound);
     EXPECT_EQ(platform.shell.open(folder + "missing.html", ""), Shell::fileNotFound);
-    EXPECT_GT(platform.shell.open("open.bat", folder), Shell::lastFailure);
-    EXPECT_TRUE(workstation->hasMade(folder + "opened.txt", "open.bat"));
+    EXPECT_GT(platform.shell.open("\xe8\xa1\xa8.bat", folder), Shell::lastFailure);
+    EXPECT_TRUE(workstation->hasMade(folder + "opened.txt", "\xe8\xa1\xa8.bat"));
 }
 
 TEST_F(Contract, LinkFilesKeepWhatTheyWereTold) {
     const std::string own = platform.processes.programFile();
-    const std::string description("Access Shortcut\0cut", 19);
-    EXPECT_TRUE(platform.shortcuts.saveShellLink(
-        folder + "Full.lnk", {own, "C:\\", " /r", description, own, /* iconIndex */ 3, /* showCmd */ 5, 4}));
-    EXPECT_TRUE(platform.shortcuts.saveScripted(folder + "Scripted.lnk", {"/r", "Tarvelon", own, 7}));
-    EXPECT_EQ(workstation->readLink(folder + "Full.lnk"), own + "|C:\\| /r|Access Shortcut|" + own + "|3|5");
-    EXPECT_EQ(workstation->readLink(folder + "Scripted.lnk"), own + "||/r|Tarvelon||0|7");
+    const std::string description("Access \xd0\xb0\0cut", 13);
+    EXPECT_TRUE(
+        platform.shortcuts.saveShellLink(folder + "\xd0\xb0.lnk", {own, "C:\\", " /r", description, own,
+                                                                   /* iconIndex */ 3, /* showCmd */ 5, 4}));
+    EXPECT_TRUE(platform.shortcuts.saveScripted(folder + "\xe8\xa1\xa8.lnk", {"/r", "\xd0\xb0", own, 7}));
+    EXPECT_EQ(workstation->readLink(folder + "\xd0\xb0.lnk"),
+              own + "|C:\\| /r|Access \xd0\xb0|" + own + "|3|5");
+    EXPECT_EQ(workstation->readLink(folder + "\xe8\xa1\xa8.lnk"), own + "||/r|\xd0\xb0||0|7");
 
     const std::string nowhere = folder + "missing\\A.lnk";
     EXPECT_FALSE(platform.shortcuts.saveShellLink(nowhere, {.path = own, .description = "A"}));

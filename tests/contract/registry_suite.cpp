@@ -59,16 +59,19 @@ TEST_F(RegistryContract, AValueComesWholeOrTellsItsSize) {
         for (const std::uint32_t length : {0u, 4u, 239u, 240u, 241u, 255u, 256u, 257u}) {
             SCOPED_TRACE(std::to_string(length) + " bytes of type " + std::to_string(type));
             std::string bytes(length, 'x');
+            for (std::uint32_t at = (length - 2) % 3; at + 5 <= length; at += 3) {
+                bytes.replace(at, 3, "\xe8\xa1\xa8");
+            }
             bytes.replace(length - std::min(length, 2u), 2, std::string(std::min(length, 2u), '\0'));
-            workstation->setValue(key, "value", type, bytes);
+            workstation->setValue(key, "\xd0\xb0", type, bytes);
 
             for (const std::uint32_t room : {256u, 240u}) {
-                const Answer given = room == 256 ? query(opened, "value") : enumerate(opened, 0);
+                const Answer given = room == 256 ? query(opened, "\xd0\xb0") : enumerate(opened, 0);
                 EXPECT_TRUE(given.size == length && (room == 240 || given.type == type));
                 EXPECT_EQ(given.code, length <= room ? success : Registry::moreData);
                 if (length <= room) {
                     EXPECT_EQ(given.buffer, bytes + std::string(room - length, ' ')) << "The rest stays";
-                    EXPECT_EQ(given.name, room == 240 ? "value" : "");
+                    EXPECT_EQ(given.name, room == 240 ? "\xd0\xb0" : "");
                 }
             }
         }
@@ -98,24 +101,27 @@ TEST_F(RegistryContract, ListingsEndAfterTheLastName) {
 }
 
 TEST_F(RegistryContract, NamesCountWithoutRegardToCase) {
-    const auto name = [this](std::u16string_view units) {
+    const bool western = platform.codePage.fromUtf16(u"\xe9").has_value(); // Else Japanese, with Cyrillic.
+    const std::u16string letter = western ? u"\xe9" : u"\u0434";
+    const std::u16string capital = western ? u"\xc9" : u"\u0414";
+    const auto name = [this](const std::u16string& units) {
         return platform.codePage.fromUtf16(units).value();
     };
-    workstation->setValue(key, name(u"Caf\xe9"), text, "first\0"s);
-    workstation->setValue(key, name(u"CAF\xc9"), text, "second\0"s);
+    workstation->setValue(key, name(u"Caf" + letter), text, "first\0"s);
+    workstation->setValue(key, name(u"CAF" + capital), text, "second\0"s);
     workstation->setValue(key, "", text, "default\0"s);
     workstation->makeKey(key + "\\Sub");
-    EXPECT_EQ(query(opened, name(u"caf\xe9"), 7).buffer, "second\0"s);
+    EXPECT_EQ(query(opened, name(u"caf" + letter), 7).buffer, "second\0"s);
     EXPECT_EQ(query(opened, "", 8).buffer, "default\0"s);
-    EXPECT_EQ(registry.deleteValue(opened, name(u"cAF\xc9")), success);
-    EXPECT_EQ(registry.deleteValue(opened, name(u"Caf\xe9")), Registry::fileNotFound);
+    EXPECT_EQ(registry.deleteValue(opened, name(u"cAF" + capital)), success);
+    EXPECT_EQ(registry.deleteValue(opened, name(u"Caf" + letter)), Registry::fileNotFound);
     EXPECT_EQ(enumerate(opened, 0).name, "") << "The default value alone is left";
 
     Registry::Key sub = 0;
     EXPECT_EQ(registry.openKey(opened, "sUB\\", allRights, sub), success) << "From an open key";
     registry.closeKey(sub);
     EXPECT_EQ(platform.codePage.capitals(u"a\xe9\u0434\u3042"), u"A\xc9\u0414\u3042");
-    EXPECT_EQ(platform.codePage.toUtf16(name(u"\xe9")), u"\xe9");
+    EXPECT_EQ(platform.codePage.toUtf16(name(letter)), letter);
     EXPECT_EQ(platform.systemPage.fromUtf16(u"\xe9"), "\xe9");
     EXPECT_EQ(platform.systemPage.fromUtf16(u"\u0434"), std::nullopt) << "no letter that looks like it";
 }
