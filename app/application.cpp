@@ -27,7 +27,7 @@ void Application::tellFailures() {
             try {
                 handler();
             } catch (const Failure& failure) {
-                platform.dialogs.message({.text = failure.what(), .icon = Icon::Warning});
+                platform.dialogs.message({.text = failure.what(), .icon = BoxIcon::Warning});
             }
         };
     }

@@ -9,7 +9,7 @@ namespace tarvelon {
 void tellUnscanned(Platform& platform, const Failure& failure) {
     platform.dialogs.message(
         {.text = std::string(failure.what()) + "\r\n\r\nThe Integrity Check was not made.",
-         .icon = Icon::Warning});
+         .icon = BoxIcon::Warning});
 }
 
 } // namespace tarvelon

@@ -187,7 +187,7 @@ void ICust::addFolder() {
         platform.dialogs.message(
             {.text = "The path of this folder is too long to be saved, and the folder cannot be added:\r\n" +
                      folder,
-             .icon = Icon::Warning});
+             .icon = BoxIcon::Warning});
         return;
     }
     if (texts.equal(folder, funcMod.getSysDir())) {

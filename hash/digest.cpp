@@ -29,7 +29,7 @@ MessageBox noProviderBox() {
     }
     box.text.append("Without them, EzCryptoApi won't work.");
     box.title = "Fatal Error [EzCryptoApi]";
-    box.icon = Icon::Stop;
+    box.icon = BoxIcon::Stop;
     return box;
 }
 

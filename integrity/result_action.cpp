@@ -221,8 +221,8 @@ bool ResultAction::UpdateDatFile() {
     if (!failures.empty()) {
         screen_.Caption = caption;
         screen_.Label13.Caption = "Failed Files List";
-        platform.dialogs.message(
-            {.text = failures + "The files stay listed and can be accepted again.", .icon = Icon::Warning});
+        platform.dialogs.message({.text = failures + "The files stay listed and can be accepted again.",
+                                  .icon = BoxIcon::Warning});
         return false;
     }
     screen_.Caption = "Integrity File(s) Updated";

@@ -6,7 +6,7 @@
 namespace tarvelon {
 
 enum class Buttons { Ok, OkCancel, YesNo };
-enum class Icon { None, Warning, Stop };
+enum class BoxIcon { None, Warning, Stop };
 enum class Answer { Ok, Cancel, Yes, No };
 
 /// A question or a notice. An empty title stands for the application's title.
@@ -14,7 +14,7 @@ struct MessageBox {
     std::string text{};
     std::string title{};
     Buttons buttons = Buttons::Ok;
-    Icon icon = Icon::None;
+    BoxIcon icon = BoxIcon::None;
 };
 
 /// The record of `GetOpenFileNameA`. `file` is the buffer, zeros included, and comes back filled.

@@ -48,7 +48,7 @@ void ControlWindow::create(HWND parent, int id, bool beginsGroup) {
     setTypeSize();
     applyItems(Aspect::Items);
     applyValue();
-    applyToolTip();
+    showToolTip(control_.ToolTip());
     follow();
 }
 
@@ -94,7 +94,7 @@ void ControlWindow::changed(Aspect aspect) {
         applyCaption();
         break;
     case Aspect::ToolTip:
-        applyToolTip();
+        showToolTip(control_.ToolTip());
         return;
     case Aspect::TextColor:
         break;
@@ -166,6 +166,7 @@ LRESULT ControlWindow::handleAsClass(UINT message, WPARAM wide, LPARAM low) {
 }
 
 LRESULT ControlWindow::handle(UINT message, WPARAM wide, LPARAM low) {
+    toolTip_.see(window_, message, wide, low);
     if (kind_.textIsCaption) {
         if (const auto answer = answerText(control_.captionOrName(), message, wide, low)) {
             return *answer;

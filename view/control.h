@@ -3,6 +3,7 @@
 #include "platform/win32/window_calls.h"
 #include "ui/controls/controls.h"
 #include "view/canvas.h"
+#include "view/tip.h"
 
 #include <optional>
 
@@ -85,7 +86,6 @@ protected:
     virtual void applyCaption() {}
     virtual void applyValue() {}
     virtual void applyItems(Aspect) {}
-    virtual void applyToolTip() {}
     /// Has a class that keeps more than a caption keep what the control has by now.
     virtual void follow() {}
     /// The place or the type size is a new one.
@@ -99,6 +99,7 @@ protected:
     void repaint() const { InvalidateRect(window_, nullptr, FALSE); }
     /// For measuring normal text.
     HDC textDc() const;
+    void showToolTip(const std::string& text) { toolTip_.set(text, scale()(480)); }
     /// The square of a check box or the circle of an option button.
     struct Mark {
         bool round = false;
@@ -147,6 +148,7 @@ private:
     Kind kind_;
     HWND window_ = nullptr;
     WNDPROC classProcedure_ = nullptr;
+    ToolTip toolTip_;
 };
 
 /// A window that knows its control's own type.

@@ -27,5 +27,8 @@ MadeWindow makeTree(FormWindow& form, Control& control);
 MadeWindow makeComboBox(FormWindow& form, Control& control);
 MadeWindow makeProgressBar(FormWindow& form, Control& control);
 MadeWindow makeBarChart(FormWindow& form, Control& control);
+MadeWindow makeIcon(FormWindow& form, Control& control);
+MadeWindow makeVerdict(FormWindow& form, Control& control);
+MadeWindow makeStepDots(FormWindow& form, Control& control);
 
 } // namespace tarvelon

@@ -11,7 +11,8 @@ namespace tarvelon {
 /// Sizes of text in tenths of a point.
 namespace textSize {
 constexpr int normal = 90;
-constexpr int heading = 130;
+constexpr int heading = 110;
+constexpr int title = 160;
 constexpr int value = 120;
 } // namespace textSize
 

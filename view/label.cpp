@@ -36,6 +36,10 @@ public:
     void paint(Canvas& canvas) override {
         TextLook look{.color = textColor()};
         switch (control().style()) {
+        case TextStyle::Title:
+            look.tenthPoints = textSize::title;
+            look.weight = FW_SEMIBOLD;
+            break;
         case TextStyle::Heading:
             look.tenthPoints = textSize::heading;
             look.weight = FW_SEMIBOLD;

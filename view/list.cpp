@@ -1,6 +1,5 @@
 #include "view/create.h"
 #include "view/form.h"
-#include "view/tip.h"
 
 #include <algorithm>
 #include <utility>
@@ -148,11 +147,6 @@ public:
     }
 
 protected:
-    LRESULT handle(UINT message, WPARAM wide, LPARAM low) override {
-        toolTip_.see(window(), message, wide, low);
-        return ItemsWindow::handle(message, wide, low);
-    }
-
     void arranged() override {
         handleAsClass(LB_SETITEMHEIGHT, 0, rowHeight());
         rowsAdded(0);
@@ -169,10 +163,8 @@ protected:
     }
 
     int rowWidth() const override { return rowStartWidth() + longestText_ + scale()(12); }
-    void applyToolTip() override { toolTip_.set(control().ToolTip(), scale()(480)); }
 
 private:
-    ToolTip toolTip_;
     int longestText_ = 0; ///< In pixels.
 };
 

@@ -42,6 +42,9 @@ struct Theme {
     Face standby;
     Face turnOff;
     Face restart;
+    Color good; ///< Drawn signs and figures that say so.
+    Color attention;
+    Color bad;
     Color track; ///< The part of a bar that is still to come.
     Color bar;
     Color navigationHover;

@@ -23,7 +23,7 @@ struct ExpectedBox {
     Answer answer = Answer::Ok;
     std::optional<std::string> title = std::nullopt;
     std::optional<Buttons> buttons = std::nullopt;
-    std::optional<Icon> icon = std::nullopt;
+    std::optional<BoxIcon> icon = std::nullopt;
 };
 
 /// One file or folder dialog that the script awaits. No choice stands for Cancel.

@@ -28,13 +28,13 @@ UINT buttonFlags(Buttons buttons) {
     return MB_OK;
 }
 
-UINT iconFlags(Icon icon) {
+UINT iconFlags(BoxIcon icon) {
     switch (icon) {
-    case Icon::Warning:
+    case BoxIcon::Warning:
         return MB_ICONWARNING;
-    case Icon::Stop:
+    case BoxIcon::Stop:
         return MB_ICONSTOP;
-    case Icon::None:
+    case BoxIcon::None:
         break;
     }
     return 0;

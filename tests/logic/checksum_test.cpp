@@ -164,7 +164,7 @@ TEST_F(Hashing, TellsTheUserPerFileThatThereIsNoServiceAndGoesOn) {
                             "Microsoft Enhanced Cryptographic Provider v1.0\r\n"
                             "Without them, EzCryptoApi won't work.";
     for (int i = 0; i < 2; ++i) {
-        machine.dialogs.expect({box, Answer::Ok, "Fatal Error [EzCryptoApi]", Buttons::Ok, Icon::Stop});
+        machine.dialogs.expect({box, Answer::Ok, "Fatal Error [EzCryptoApi]", Buttons::Ok, BoxIcon::Stop});
         EXPECT_EQ(checksumOf("abc", "MD4"), "");
     }
     EXPECT_EQ(machine.dialogs.problems(), "");

@@ -15,6 +15,7 @@ Control::Control(ControlKind kind, ControlParent parent, std::string caption, Re
     : Caption(*this, std::move(caption))
     , Visible(*this, true)
     , Enabled(*this, true)
+    , ToolTip(*this, "")
     , kind_(kind)
     , screen_(parent.screen)
     , frame_(parent.frame)
@@ -58,8 +59,28 @@ Label::Label(ControlParent parent, std::string caption, Rect place, TextStyle st
     Visible = visible;
 }
 
-cButton::cButton(ControlParent parent, std::string caption, Rect place)
-    : Control(ControlKind::FlatButton, parent, std::move(caption), place) {}
+Label::Label(ControlParent parent, std::string caption, Rect place, Rank rank, bool visible)
+    : Label(parent, std::move(caption), place, TextStyle::Action, visible) {
+    rank_ = rank;
+}
+
+Icon::Icon(ControlParent parent, Rect place, std::string picture, Tone toneAtFirst)
+    : Control(ControlKind::Icon, parent, "", place)
+    , image(*this, std::move(picture))
+    , tone(*this, toneAtFirst) {}
+
+Verdict::Verdict(ControlParent parent, std::string caption, Rect place, bool visible)
+    : Control(ControlKind::Verdict, parent, std::move(caption), place) {
+    Visible = visible;
+}
+
+StepDots::StepDots(ControlParent parent, Rect place, int count)
+    : Control(ControlKind::StepDots, parent, "", place)
+    , count_(count) {}
+
+cButton::cButton(ControlParent parent, std::string caption, Rect place, Rank rank)
+    : Control(ControlKind::FlatButton, parent, std::move(caption), place)
+    , rank_(rank) {}
 
 Color cButton::foreColor() const {
     return pressed_ || !Enabled() ? colors::white : colors::black;
@@ -196,8 +217,9 @@ void ItemControl::select(int index) {
     }
 }
 
-ListBox::ListBox(ControlParent parent, Rect place, bool visible)
-    : ItemControl(ControlKind::ListBox, parent, "", place) {
+ListBox::ListBox(ControlParent parent, Rect place, bool visible, std::string whenEmpty)
+    : ItemControl(ControlKind::ListBox, parent, "", place)
+    , whenEmpty_(std::move(whenEmpty)) {
     Visible = visible;
 }
 

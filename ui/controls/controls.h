@@ -3,6 +3,7 @@
 #include "ui/controls/screen.h"
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -25,8 +26,22 @@ enum class ControlKind {
     ComboBox,
     ProgressBar,
     BarChart,
+    Icon,
+    Verdict,
+    StepDots,
     Timer,
 };
+
+/// How much a button weighs beside its neighbours.
+enum class Rank {
+    Ordinary,
+    Primary,     ///< What most people come to the page for.
+    Quiet,       ///< Changes what is chosen, no more: the page's ground, the text at the left.
+    Destructive, ///< Takes something away.
+};
+
+/// What a drawn sign says.
+enum class Tone { Plain, Good, Attention, Bad, Quiet };
 
 class Frame;
 
@@ -64,6 +79,14 @@ public:
     std::string name;
     const std::string& captionOrName() const { return Caption().empty() ? name : Caption(); }
 
+    /// Shown while the mouse rests on the control; empty for none.
+    Property<std::string, Control, Aspect::ToolTip> ToolTip;
+
+    /// The letter of the caption that with Alt does what a click does, or 0.
+    char accessKey = 0;
+    /// Esc does what a click on it does.
+    bool isCancel = false;
+
     Screen::Handler onMouseMove;
     /// The left button of the mouse, or what stands for it.
     virtual void mouseDown() {}
@@ -96,13 +119,17 @@ public:
 
     Look look() const { return look_; }
 
+    /// What goes on now is in it: its ground is tinted.
+    Property<bool, Control, Aspect::Value> Current{*this, false};
+
 private:
     Look look_;
 };
 
 enum class TextStyle {
     Normal,
-    Heading,
+    Title,   ///< Of a page or a form.
+    Heading, ///< Of a part of a page.
     Value,   ///< A figure that people look for: large, to the right.
     Gauge,   ///< A percentage such as "57%", drawn as a bar behind its text as well.
     Hint,    ///< Explanations: quieter than the texts around them.
@@ -116,8 +143,11 @@ class Label : public Control {
 public:
     Label(ControlParent parent, std::string caption, Rect place, TextStyle style = TextStyle::Normal,
           bool visible = true);
+    /// One that is clicked like a button of that rank.
+    Label(ControlParent parent, std::string caption, Rect place, Rank rank, bool visible = true);
 
     TextStyle style() const { return style_; }
+    Rank rank() const { return rank_; }
 
     Property<Color, Control, Aspect::TextColor> ForeColor{*this, colors::black};
     Property<bool, Control, Aspect::TextColor> Underlined{*this, false};
@@ -132,14 +162,47 @@ public:
 
 private:
     TextStyle style_;
+    Rank rank_ = Rank::Ordinary;
+};
+
+/// A drawn picture that nobody clicks.
+class Icon : public Control {
+public:
+    Icon(ControlParent parent, Rect place, std::string picture, Tone toneAtFirst = Tone::Plain);
+
+    /// Name of the picture, such as "integrity"; empty for none.
+    Property<std::string, Control, Aspect::Value> image;
+    Property<Tone, Control, Aspect::Value> tone;
+};
+
+/// What comes of a scan, in a sentence on a band of its colour, with a drawn shield.
+class Verdict : public Control {
+public:
+    Verdict(ControlParent parent, std::string caption, Rect place, bool visible = true);
+
+    Property<Tone, Control, Aspect::Value> tone{*this, Tone::Plain};
+};
+
+/// The way through some pages, a dot for each.
+class StepDots : public Control {
+public:
+    StepDots(ControlParent parent, Rect place, int count);
+
+    int count() const { return count_; }
+    /// From 0.
+    Property<int, Control, Aspect::Value> current{*this, 0};
+
+private:
+    int count_;
 };
 
 /// The flat button that stands for nearly every button. Its caption is white while it is pressed
 /// or disabled, else black.
 class cButton : public Control {
 public:
-    cButton(ControlParent parent, std::string caption, Rect place);
+    cButton(ControlParent parent, std::string caption, Rect place, Rank rank = Rank::Ordinary);
 
+    Rank rank() const { return rank_; }
     /// The caption's colour now.
     Color foreColor() const;
 
@@ -155,6 +218,7 @@ public:
 private:
     void press(bool pressed);
 
+    Rank rank_;
     bool pressed_ = false;
 };
 
@@ -292,9 +356,6 @@ public:
     /// The selected row's text, or empty.
     std::string text() const { return item(listIndex_); }
 
-    /// Shown while the mouse rests on the list; empty for none.
-    Property<std::string, Control, Aspect::ToolTip> ToolTip{*this, ""};
-
     Screen::Handler onClick;
     /// The user selected a row.
     void select(int index);
@@ -307,9 +368,22 @@ private:
     int listIndex_ = -1;
 };
 
+/// What stands before a row that is a finding.
+enum class RowMark { None, New, Changed };
+
 class ListBox : public ItemControl {
 public:
-    ListBox(ControlParent parent, Rect place, bool visible = true);
+    /// `whenEmpty`: what fills the list, shown while there is nothing in it.
+    ListBox(ControlParent parent, Rect place, bool visible = true, std::string whenEmpty = "");
+
+    const std::string& whenEmpty() const { return whenEmpty_; }
+
+    /// By a row's text. With it the rows are paths: long ones are shortened in the middle, and the whole row
+    /// shows while the mouse rests on it.
+    std::function<RowMark(const std::string& row)> rowMark;
+
+private:
+    std::string whenEmpty_;
 };
 
 /// A list whose rows carry a tick each. A click on a row flips its tick and then tells of the click.

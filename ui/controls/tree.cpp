@@ -1,9 +1,12 @@
 #include "ui/controls/tree.h"
 
+#include <utility>
+
 namespace tarvelon {
 
-Tree::Tree(ControlParent parent, Rect place, bool visible)
-    : Control(ControlKind::Tree, parent, "", place) {
+Tree::Tree(ControlParent parent, Rect place, bool visible, std::string whenEmpty)
+    : Control(ControlKind::Tree, parent, "", place)
+    , whenEmpty_(std::move(whenEmpty)) {
     Visible = visible;
 }
 

@@ -17,7 +17,10 @@ public:
         Node* parent; ///< Null for a root.
     };
 
-    Tree(ControlParent parent, Rect place, bool visible = true);
+    /// `whenEmpty`: what fills the tree, shown while there is nothing in it.
+    Tree(ControlParent parent, Rect place, bool visible = true, std::string whenEmpty = "");
+
+    const std::string& whenEmpty() const { return whenEmpty_; }
 
     /// The nodes in the order of their making.
     const std::deque<Node>& nodes() const { return nodes_; }
@@ -50,6 +53,7 @@ public:
 private:
     bool add(Node* parent, const std::string& key, const std::string& text);
 
+    std::string whenEmpty_;
     std::deque<Node> nodes_; ///< Grows without moving its nodes.
     std::unordered_map<std::string, Node*> byKey_;
     const Node* selected_ = nullptr;
