@@ -14,19 +14,6 @@ bool isPair(wchar_t first, wchar_t second) {
     return IS_SURROGATE_PAIR(first, second);
 }
 
-/// The text without halves of pairs that stand alone.
-std::wstring wholeCharacters(const std::wstring& text) {
-    std::wstring whole;
-    for (std::size_t at = 0; at < text.size(); ++at) {
-        if (!IS_HIGH_SURROGATE(text[at]) && !IS_LOW_SURROGATE(text[at])) {
-            whole += text[at];
-        } else if (at + 1 < text.size() && isPair(text[at], text[at + 1])) {
-            whole += text.substr(at++, 2);
-        }
-    }
-    return whole;
-}
-
 template<class Font, class Text>
 Font fontOf(const Text& face, int height = 0, int weight = FW_DONTCARE, bool underlined = false) {
     Font font{};
@@ -118,15 +105,32 @@ void WindowText::drawShortened(HDC dc, RECT place, UINT flags) const {
         draw(dc, place, flags);
         return;
     }
-    // The system cuts off between any two units. First it only says what it would show.
-    constexpr std::size_t roomForDots = 4;
-    std::wstring shown = wide_ + std::wstring(roomForDots + 1, L'\0');
-    RECT measured = place;
-    DrawTextW(dc, shown.data(), static_cast<int>(wide_.size()), &measured,
-              flags | DT_CALCRECT | DT_MODIFYSTRING);
-    shown = wholeCharacters(shown.c_str());
-    DrawTextW(dc, shown.c_str(), static_cast<int>(shown.size()), &place,
-              flags & ~UINT{DT_END_ELLIPSIS | DT_PATH_ELLIPSIS});
+    // The system would cut between any two units. Here the end goes, or what is in front of a path's last
+    // name.
+    const bool oneLine = (flags & DT_SINGLELINE) != 0;
+    const UINT plainFlags = flags & ~UINT{DT_END_ELLIPSIS | DT_PATH_ELLIPSIS};
+    const auto fits = [&](const std::wstring& text) {
+        RECT taken{0, 0, place.right - place.left, 0};
+        DrawTextW(dc, text.c_str(), static_cast<int>(text.size()), &taken, plainFlags | DT_CALCRECT);
+        return taken.right <= place.right - place.left &&
+               (oneLine || taken.bottom <= place.bottom - place.top);
+    };
+    std::wstring head = wide_;
+    std::wstring tail = L"...";
+    const std::size_t lastName = wide_.rfind(L'\\');
+    if (fits(head)) {
+        tail.clear();
+    } else if ((flags & DT_PATH_ELLIPSIS) != 0 && lastName != std::wstring::npos &&
+               fits(tail + wide_.substr(lastName))) {
+        head.resize(lastName);
+        tail += wide_.substr(lastName);
+    }
+    while (!head.empty() && !fits(head + tail)) {
+        const bool two = head.size() > 1 && isPair(head[head.size() - 2], head.back());
+        head.resize(head.size() - (two ? 2 : 1));
+    }
+    head += tail;
+    DrawTextW(dc, head.c_str(), static_cast<int>(head.size()), &place, plainFlags);
 }
 
 std::string askedText(const std::function<LRESULT(UINT, WPARAM, LPARAM)>& ask) {
