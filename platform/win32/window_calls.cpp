@@ -105,8 +105,7 @@ void WindowText::drawShortened(HDC dc, RECT place, UINT flags) const {
         draw(dc, place, flags);
         return;
     }
-    // The system would cut between any two units. Here the end goes, or what is in front of a path's last
-    // name.
+    // The system would cut between any two units. Either the end goes, or what a path's last name follows.
     const bool oneLine = (flags & DT_SINGLELINE) != 0;
     const UINT plainFlags = flags & ~UINT{DT_END_ELLIPSIS | DT_PATH_ELLIPSIS};
     const auto fits = [&](const std::wstring& text) {
