@@ -110,8 +110,12 @@ bool Win32Files::moveAtOnce(const std::string& from, const std::string& to) {
     if (hasWideCalls()) {
         return MoveFileExW(widePath(from).c_str(), widePath(to).c_str(), MOVEFILE_REPLACE_EXISTING) != FALSE;
     }
-    DeleteFileA(to.c_str()); // Windows 98 knows only the way in two steps.
-    return MoveFileA(from.c_str(), to.c_str()) != FALSE;
+    if (MoveFileA(from.c_str(), to.c_str())) {
+        return true;
+    }
+    // Windows 98 knows only the way in two steps.
+    return GetLastError() == ERROR_ALREADY_EXISTS && DeleteFileA(to.c_str()) &&
+           MoveFileA(from.c_str(), to.c_str());
 }
 
 bool Win32Files::remove(const std::string& path) {
