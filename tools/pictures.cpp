@@ -1,5 +1,6 @@
 #include "pictures.h"
 
+#include "tools/driver/seen_windows.h"
 #include "tools/driver/workplace.h"
 
 #include <cstdio>
@@ -14,7 +15,10 @@ void say(const std::string& line) {
 
 void Pictures::take(const std::string& name) const {
     Sleep(300); // the last paint reaches the screen
-    say("@picture " + name + ".png");
+    const RECT front = placeOf(GetForegroundWindow());
+    say("@picture " + name + ".png " + std::to_string(front.right - front.left) + "x" +
+        std::to_string(front.bottom - front.top) + "+" + std::to_string(front.left) + "+" +
+        std::to_string(front.top));
     comesTrue([&] { return readFile(folder_ + name + ".png").has_value(); });
 }
 

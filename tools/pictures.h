@@ -10,7 +10,8 @@ namespace e2e {
 /// Prints a line at once, for the script that started this program and for the person who reads along.
 void say(const std::string& line);
 
-/// Asks the script that started this program for pictures of the screen: a line "@picture NAME" each.
+/// Asks the script that started this program for pictures of the screen: a line "@picture NAME PLACE" each,
+/// with the place of the window in front, as "WIDTHxHEIGHT+LEFT+TOP".
 class Pictures {
 public:
     /// `folder`, with a backslash, is where the script puts them.

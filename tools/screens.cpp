@@ -9,11 +9,13 @@
 namespace e2e {
 namespace {
 
+constexpr const char* absent = "C:\\Program Files\\My scanner\\scan.exe|/deep"; ///< Nothing is started.
+
 class Walk {
 public:
     explicit Walk(const Pictures& pictures)
         : pictures_(pictures) {
-        writeSettings("C:\\no scanner.exe|/deep");
+        writeSettings(absent);
     }
 
     /// Leaves a baseline behind.
@@ -31,10 +33,10 @@ public:
 
     void findings() {
         CreateDirectoryA(long_.c_str(), nullptr);
-        writeSettings("C:\\no scanner.exe|/deep", {{"1/path", long_},
-                                                   {"1/args", "1,1,1,1,1,1,1"},
-                                                   {"2/path", "C:\\Program Files\\"},
-                                                   {"2/args", "0,0,0,0,1,0,0"}});
+        writeSettings(absent, {{"1/path", long_},
+                               {"1/args", "1,1,1,1,1,1,1"},
+                               {"2/path", "C:\\Program Files\\"},
+                               {"2/args", "0,0,0,0,1,0,0"}});
         folder_.writeData("1.dat", smallBaseline("EXE", ""));
         folder_.writeData("2.dat", smallBaseline("EXE", ""));
         planted_.rewrite("changed");
@@ -108,7 +110,11 @@ private:
         program.play({{"RegWatch"}, {"Refresh"}});
         comesTrue([&] { return window.rows().size() == 2; });
         visit(program, {window.rows().at(1)}, "registry");
-        program.play({{"Check for modifications/deletions on reboot"}, {"OK"}});
+        const PlantedFile wininit("C:\\windows\\wininit.ini",
+                                  "[Rename]\r\nNUL=C:\\windows\\temp\\setup.tmp\r\n"
+                                  "C:\\windows\\system32\\new.dll=C:\\windows\\system32\\old.dll\r\n");
+        program.press("Check for modifications/deletions on reboot");
+        comesTrue([&] { return program.shows("C:\\windows\\temp\\setup.tmp {To be Deleted}"); });
         take("pending");
     }
 
