@@ -22,18 +22,8 @@ public:
     }
 
     void paint(Canvas& canvas) override {
-        const Scale& scaled = canvas.scale();
         const bool pressed = control().Enabled() && control().foreColor() == colors::white;
-        const Color face = pressed ? theme().button.pressed : faceColor(theme().button);
-        if (theme().highContrast) {
-            canvas.roundedBox(canvas.area(), scaled(4), face, theme().button.border, scaled(pressed ? 2 : 1));
-        } else {
-            canvas.roundedBox(canvas.area(), scaled(4), face);
-        }
-        canvas.text(
-            control().Caption(), inset(canvas.area(), scaled(6), scaled(1)),
-            {.color = textOn(theme().button, control().foreColor()), .align = DT_CENTER, .mnemonics = true});
-        paintFocusOnFace(canvas, 2);
+        paintButton(canvas, control().rank(), pressed, control().foreColor());
     }
 };
 
@@ -52,7 +42,7 @@ public:
             text = theme().navigationCurrentText;
         }
         if (!control().isUsable()) {
-            text = theme().disabledText;
+            text = theme().navigation.disabledText;
         }
         canvas.fill(area, ground);
         if (control().Current()) {
@@ -63,10 +53,11 @@ public:
         const int gap = scaled(4);
         const int left = (widthOf(area) - size) / 2;
         const int top = (heightOf(area) - size - gap - line) / 2;
-        canvas.drawing(drawing_, {left, top, left + size, top + size}, text);
+        canvas.drawing(drawing_, {left, top, left + size, top + size}, text, ground);
         const RECT caption{scaled(8), top + size + gap, area.right - scaled(8), top + size + gap + line};
-        canvas.text(control().Caption(), caption, {.color = text, .align = DT_CENTER, .mnemonics = true});
-        paintFocus(canvas, inset(area, scaled(2), scaled(2)), theme().navigation.quietText);
+        canvas.text(control().Caption(), caption,
+                    {.color = text, .align = DT_CENTER, .mnemonics = true, .accessKey = shownKey()});
+        paintFocus(canvas, inset(area, scaled(2), scaled(2)), ground);
     }
     const LineDrawing& drawing_ = drawingNamed(control().icon());
 };

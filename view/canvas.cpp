@@ -81,8 +81,35 @@ float polylineDistance(Iterator first, Iterator last, Spot spot) {
     return nearest;
 }
 
+/// By how often a ray from the spot crosses the closed line.
+bool isInside(const std::vector<Spot>& line, Spot spot) {
+    bool inside = false;
+    for (std::size_t i = 1; i < line.size(); ++i) {
+        const Spot& from = line[i - 1];
+        const Spot& to = line[i];
+        if ((from.y > spot.y) != (to.y > spot.y) &&
+            spot.x < (to.x - from.x) * (spot.y - from.y) / (to.y - from.y) + from.x) {
+            inside = !inside;
+        }
+    }
+    return inside;
+}
+
 UINT prefixFlag(const TextLook& look) {
+    if (look.accessKey != 0) {
+        return 0;
+    }
     return look.mnemonics ? DT_HIDEPREFIX : DT_NOPREFIX;
+}
+
+/// The caption with the system's mark before the letter, if it has that.
+std::string withAccessKey(std::string caption, char key) {
+    const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
+    const auto found = std::ranges::find(caption, lower(key), lower);
+    if (key != 0 && found != caption.end()) {
+        caption.insert(found, '&');
+    }
+    return caption;
 }
 
 } // namespace
@@ -132,21 +159,22 @@ void Canvas::stroke(std::initializer_list<Spot> spots, float thickness, Color co
           [&](Spot spot) { return polylineDistance(spots.begin(), spots.end(), spot) - thickness / 2; });
 }
 
-void Canvas::drawing(const LineDrawing& drawing, const RECT& rect, Color color) {
+void Canvas::drawing(const LineDrawing& drawing, const RECT& rect, Color color, Color ground) {
     if (drawing.side <= 0) {
         return;
     }
     const float zoom = static_cast<float>(widthOf(rect)) / drawing.side;
-    const auto distance = [&](Spot spot) {
-        const Spot there{(spot.x - static_cast<float>(rect.left)) / zoom,
-                         (spot.y - static_cast<float>(rect.top)) / zoom};
-        float nearest = std::numeric_limits<float>::max();
-        for (const std::vector<Spot>& line : drawing.lines) {
-            nearest = std::min(nearest, polylineDistance(line.begin(), line.end(), there));
-        }
-        return (nearest - drawing.thickness / 2) * zoom;
-    };
-    shape(rect, color, distance);
+    for (const LineDrawing::Part& part : drawing.parts) {
+        shape(rect, part.ink == Ink::Cut ? ground : color, [&](Spot spot) {
+            const Spot there{(spot.x - static_cast<float>(rect.left)) / zoom,
+                             (spot.y - static_cast<float>(rect.top)) / zoom};
+            const float away = polylineDistance(part.line.begin(), part.line.end(), there);
+            if (part.ink != Ink::Solid) {
+                return (away - drawing.thickness / 2) * zoom;
+            }
+            return (isInside(part.line, there) ? -away : away) * zoom;
+        });
+    }
 }
 
 void Canvas::ring(Spot middle, float radius, float thickness, Color color) {
@@ -179,7 +207,7 @@ void Canvas::text(const std::string& text, const RECT& rect, const TextLook& loo
     if (text.empty()) {
         return;
     }
-    const WindowText shown(text);
+    const WindowText shown(look.accessKey != 0 ? withAccessKey(text, look.accessKey) : text);
     const bool isPath = text.find('\\') != std::string::npos;
     const int wanted = scale_.letters(look.tenthPoints);
     UINT lines = DT_SINGLELINE;
@@ -190,7 +218,7 @@ void Canvas::text(const std::string& text, const RECT& rect, const TextLook& loo
         return size.cx <= widthOf(rect) && size.cy <= heightOf(rect);
     };
     bool fits = fit(wanted, DT_SINGLELINE);
-    const bool paragraph = heightOf(rect) >= 3 * size.cy;
+    const bool paragraph = !look.middle && heightOf(rect) >= 3 * size.cy;
     const auto shrink = [&](int height, int smallest, UINT by) {
         for (; !fits && height >= smallest; --height) {
             fits = fit(height, by);

@@ -38,6 +38,8 @@ struct TextLook {
     UINT align = DT_LEFT;
     bool underlined = false;
     bool mnemonics = false; ///< "&&" shows as one "&", as captions of buttons have it.
+    char accessKey = 0;     ///< Its first place in such a caption is underlined; 0 for none.
+    bool middle = false;    ///< Of the rectangle's height, however many lines there is room for.
 };
 
 /// Draws one control, from its top left corner on, with smooth edges.
@@ -60,8 +62,8 @@ public:
     void roundedBox(const RECT& rect, int radius, Color color, Color edge, int thickness);
     /// Straight lines from spot to spot, with round ends.
     void stroke(std::initializer_list<Spot> spots, float thickness, Color color);
-    /// Fills the square of the rectangle's width with the drawing.
-    void drawing(const LineDrawing& drawing, const RECT& rect, Color color);
+    /// Fills the square of the rectangle's width with the drawing; `ground` shows where it is cut out.
+    void drawing(const LineDrawing& drawing, const RECT& rect, Color color, Color ground);
     void ring(Spot middle, float radius, float thickness, Color color);
     /// Light around a disc, that fades towards `width` pixels from it.
     void glow(Spot middle, float radius, float width, Color color);

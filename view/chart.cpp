@@ -16,7 +16,7 @@ public:
     void paint(Canvas& canvas) override {
         const Scale& scaled = canvas.scale();
         const RECT area = canvas.area();
-        canvas.roundedBox(area, scaled(4), theme().card.ground, theme().border, scaled(1));
+        canvas.roundedBox(area, scaled(4), theme().card.ground, theme().line, scaled(1));
         canvas.text(control().Caption(), {area.left, scaled(3), area.right, scaled(21)},
                     {.color = theme().card.text, .weight = FW_SEMIBOLD, .align = DT_CENTER});
 
@@ -35,8 +35,7 @@ private:
     void paintBar(Canvas& canvas, const RECT& slot, int index) const {
         const Scale& scaled = canvas.scale();
         const bool marked = index == control().marked();
-        const Color plain = theme().highContrast ? theme().border : theme().button.normal;
-        const Color color = marked ? theme().bar : plain;
+        const Color color = marked ? theme().bar : theme().chartBar;
 
         const int tickRoom = scaled(14);
         const int tallest = heightOf(slot) - tickRoom;

@@ -129,8 +129,7 @@ std::optional<LRESULT> ControlWindow::reflect(UINT message, WPARAM wide, LPARAM 
     case WM_NOTIFY: {
         const auto& header = *reinterpret_cast<const NMHDR*>(low);
         if (ControlWindow* child = from(header.hwndFrom)) {
-            child->notifiedWith(header);
-            return 0;
+            return child->notifiedWith(header);
         }
         break;
     }
@@ -189,7 +188,8 @@ LRESULT ControlWindow::handle(UINT message, WPARAM wide, LPARAM low) {
         OffsetRect(&whole, -whole.left, -whole.top);
         const OwnedWindowDc dc(GetWindowDC(window_), {window_});
         paintEdge(dc.get(), whole, tools().brushes.get(isFocused() ? theme().focus : theme().border));
-    } else if (message == WM_SETFOCUS || message == WM_KILLFOCUS || message == WM_ENABLE) {
+    } else if (message == WM_SETFOCUS || message == WM_KILLFOCUS || message == WM_ENABLE ||
+               message == WM_UPDATEUISTATE) {
         RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME);
     }
     return result;
@@ -224,41 +224,61 @@ void ControlWindow::paintEdge(HDC dc, const RECT& whole, HBRUSH edge) {
     FrameRect(dc, &whole, edge);
 }
 
-void ControlWindow::paintMark(Canvas& canvas, int left, const Mark& mark) const {
+void ControlWindow::paintMark(Canvas& canvas, int left, const Mark& mark, const MarkColors& looks) const {
     const Scale& scaled = canvas.scale();
     const int size = scaled(Mark::size);
     const int top = (heightOf(canvas.area()) - size) / 2;
     const RECT place{left, top, left + size, top + size};
     const int radius = mark.round ? size / 2 : scaled(3);
-    const Color strong = mark.usable ? theme().selected : theme().disabledText;
-    const Color edge = mark.hovered || mark.ticked ? strong : theme().disabledText;
-    canvas.roundedBox(place, radius, mark.ticked ? strong : theme().field, edge, scaled(1));
+    const Color strong = mark.usable ? looks.ticked : looks.edge;
+    const Color edge = mark.hovered || mark.ticked ? strong : looks.edge;
+    canvas.roundedBox(place, radius, mark.ticked ? strong : looks.field, edge, scaled(1));
     if (!mark.ticked) {
         return;
     }
     if (mark.round) {
         const int dot = scaled(5);
-        canvas.roundedBox(inset(place, dot, dot), (size - 2 * dot) / 2, theme().selectedText);
+        canvas.roundedBox(inset(place, dot, dot), (size - 2 * dot) / 2, looks.tick);
         return;
     }
     const float unit = static_cast<float>(size) / Mark::size;
     const auto at = [&](float x, float y) {
         return Spot{static_cast<float>(place.left) + x * unit, static_cast<float>(place.top) + y * unit};
     };
-    canvas.stroke({at(3.8F, 8.3F), at(6.8F, 11.2F), at(12.2F, 5.0F)}, 1.9F * unit, theme().selectedText);
+    canvas.stroke({at(3.8F, 8.3F), at(6.8F, 11.2F), at(12.2F, 5.0F)}, 1.9F * unit, looks.tick);
 }
 
-void ControlWindow::paintFocus(Canvas& canvas, const RECT& around, Color color) const {
+void ControlWindow::paintFocus(Canvas& canvas, const RECT& around, Color ground) const {
     if (!isFocused()) {
         return;
     }
-    const int thickness = std::max(canvas.scale()(2) * 3 / 4, 1);
+    const int thickness = canvas.scale()(2);
     const float half = static_cast<float>(thickness) / 2;
     const float left = static_cast<float>(around.left) + half;
     const float top = static_cast<float>(around.top) + half;
     const float right = static_cast<float>(around.right) - half;
     const float bottom = static_cast<float>(around.bottom) - half;
-    canvas.stroke({{left, top}, {right, top}, {right, bottom}, {left, bottom}, {left, top}}, 2 * half, color);
+    canvas.stroke({{left, top}, {right, top}, {right, bottom}, {left, bottom}, {left, top}}, 2 * half,
+                  seenOn(ground, theme().focus));
+}
+
+char ControlWindow::shownKey() const {
+    const LRESULT state = windowCalls().sendMessage(window_, WM_QUERYUISTATE, 0, 0);
+    return (state & UISF_HIDEACCEL) == 0 ? control_.accessKey : '\0';
+}
+
+void ControlWindow::paintWhenEmpty(const std::string& text) {
+    RECT area;
+    GetClientRect(window_, &area);
+    if (!isEmpty() || text.empty() || !tools().buffer.reserve(area.right, area.bottom)) {
+        return;
+    }
+    Canvas canvas(tools().buffer, tools().fonts, scale(), area.right, area.bottom);
+    canvas.fill(area, theme().field);
+    canvas.text(text, inset(area, scale()(16), scale()(8)),
+                {.color = theme().fieldQuietText, .align = DT_CENTER, .middle = true});
+    const OwnedWindowDc dc(GetDC(window_), {window_});
+    BitBlt(dc.get(), 0, 0, area.right, area.bottom, canvas.dc(), 0, 0, SRCCOPY);
 }
 
 const Scale& ControlWindow::scale() const {
@@ -273,6 +293,9 @@ const Surface& ControlWindow::surface() const {
     for (const Frame* frame = control_.frame(); frame; frame = frame->frame()) {
         if (form_.isNavigation(*frame)) {
             return theme().navigation;
+        }
+        if (frame->Current()) {
+            return theme().current;
         }
         if (frame->look() == Frame::Look::Group) {
             return theme().card;

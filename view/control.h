@@ -11,7 +11,10 @@ namespace tarvelon {
 
 /// What all forms share.
 struct ViewTools {
-    Theme theme = currentTheme();
+    explicit ViewTools(const Theme& colours)
+        : theme(colours) {}
+
+    Theme theme;
     Fonts fonts;
     Brushes brushes;
     BackBuffer buffer;
@@ -60,7 +63,7 @@ public:
     static std::optional<LRESULT> reflect(UINT message, WPARAM wide, LPARAM low);
     /// What the window sends to its parent about itself.
     virtual void notified(int) {}
-    virtual void notifiedWith(const NMHDR&) {}
+    virtual LRESULT notifiedWith(const NMHDR&) { return 0; }
     virtual void drawRow(const DRAWITEMSTRUCT&) {}
     /// The colours of a standard window's own drawing; null for the system's.
     virtual HBRUSH colorStandardWindow(HDC) { return nullptr; }
@@ -111,9 +114,13 @@ protected:
         static constexpr int size = 16;
     };
     /// Draws the mark with its left edge at `left` pixels, in the middle of the canvas's height.
-    void paintMark(Canvas& canvas, int left, const Mark& mark) const;
+    void paintMark(Canvas& canvas, int left, const Mark& mark, const MarkColors& looks) const;
     /// The ring around what the keyboard goes to, while it does.
-    void paintFocus(Canvas& canvas, const RECT& around, Color color) const;
+    void paintFocus(Canvas& canvas, const RECT& around, Color ground) const;
+    /// The control's access key while the user wants to see those, else 0.
+    char shownKey() const;
+    /// What would fill an empty list, in the middle of it.
+    void paintWhenEmpty(const std::string& text);
 
     /// Drawing is put off while it lives: rows come in one piece.
     class DrawingHeld {

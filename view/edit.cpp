@@ -18,7 +18,7 @@ public:
     }
 
     HBRUSH colorStandardWindow(HDC dc) override {
-        SetTextColor(dc, control().isUsable() ? theme().fieldText : theme().disabledText);
+        SetTextColor(dc, control().isUsable() ? theme().fieldText : surface().disabledText);
         SetBkColor(dc, ground());
         return tools().brushes.get(ground());
     }

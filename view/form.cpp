@@ -48,6 +48,7 @@ void FormWindow::createWindow() {
         makeWindow(extendedStyle, formWindowClass, screen_.Caption(), styleOf(screen_), RECT{}, nullptr));
     calls.setWindowLongPtr(window(), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
     calls.setWindowLongPtr(window(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure));
+    darkenTitleBar(window(), tools_.theme);
     scale_ = Scale(tools_.scaling.dotsPerInch(window()));
     const SIZE size = outerSize();
     RECT desktop;
@@ -269,6 +270,7 @@ void FormWindow::scaleTo(unsigned dotsPerInch, const RECT& place) {
 }
 
 void FormWindow::themeChanged() {
+    darkenTitleBar(window(), tools_.theme);
     RedrawWindow(window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
 }
 

@@ -65,7 +65,7 @@ LRESULT FormWindow::handle(UINT message, WPARAM wide, LPARAM low) {
     }
     case WM_SETTINGCHANGE:
     case WM_SYSCOLORCHANGE:
-        tools_.theme = currentTheme();
+        tools_.theme = themeFor(wantedTheme());
         themeChanged();
         break;
     case dotsPerInchChanged:

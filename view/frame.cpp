@@ -18,12 +18,16 @@ public:
     void paint(Canvas& canvas) override {
         if (form().isNavigation(control())) {
             canvas.fill(canvas.area(), theme().navigation.ground);
+        } else if (control().Current()) {
+            canvas.roundedBox(canvas.area(), canvas.scale()(4), theme().current.ground);
+        } else if (control().place().height == 1) {
+            canvas.fill(canvas.area(), theme().line);
         }
         if (control().look() != Frame::Look::Group) {
             return;
         }
         const Scale& scaled = canvas.scale();
-        canvas.roundedBox(canvas.area(), scaled(6), theme().card.ground, theme().border, scaled(1));
+        canvas.roundedBox(canvas.area(), scaled(6), theme().card.ground, theme().line, scaled(1));
         const RECT title{scaled(12), scaled(4), widthOf(canvas.area()) - scaled(12), scaled(22)};
         canvas.text(control().Caption(), title, {.color = theme().card.text, .weight = FW_SEMIBOLD});
     }

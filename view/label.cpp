@@ -23,8 +23,9 @@ public:
     LRESULT handle(UINT message, WPARAM wide, LPARAM low) override {
         switch (message) {
         case WM_NCHITTEST:
-            // A label that nothing is bound to lets the mouse through to what stands under it.
-            return control().onClick || control().onMouseMove ? HTCLIENT : HTTRANSPARENT;
+            // A label that has nothing for the mouse lets the mouse through to what stands under it.
+            return control().onClick || control().onMouseMove || !control().ToolTip().empty() ? HTCLIENT
+                                                                                              : HTTRANSPARENT;
         case WM_LBUTTONUP:
             control().click();
             return 0;
@@ -65,28 +66,35 @@ public:
 private:
     Color textColor() const {
         if (!control().isUsable()) {
-            return theme().disabledText;
+            return surface().disabledText;
         }
-        const bool plain = control().ForeColor() == colors::black;
-        if (theme().highContrast || plain) {
-            return control().style() == TextStyle::Hint ? surface().quietText : surface().text;
+        const Color own = control().ForeColor();
+        const bool isSeen = own != colors::black && contrast(own, surface().ground) >= 3;
+        if (isSeen && !theme().highContrast) {
+            return own;
         }
-        return control().ForeColor();
+        if (control().tone() != Tone::Plain) {
+            return theme().tone(control().tone()).sign;
+        }
+        return control().style() == TextStyle::Hint ? surface().quietText : surface().text;
     }
 
     void paintGauge(Canvas& canvas, const TextLook& look) const {
         const Scale& scaled = canvas.scale();
         const int percent = percentFrom(control().Caption());
-        const int height = scaled(6);
+        const int height = scaled(8);
         const int top = (heightOf(canvas.area()) - height) / 2;
         const int width = widthOf(canvas.area()) - canvas.textWidth("100%", look) - scaled(8);
         if (percent < 0 || width < scaled(16)) {
             return;
         }
-        canvas.roundedBox({0, top, width, top + height}, height / 2, theme().track);
+        canvas.roundedBox({0, top, width, top + height}, height / 2, theme().track, theme().border,
+                          scaled(1));
         if (percent > 0) {
-            const int done = std::max(MulDiv(width, percent, 100), height);
-            canvas.roundedBox({0, top, done, top + height}, height / 2, theme().bar);
+            const int edge = scaled(1);
+            const int thick = height - 2 * edge;
+            const int done = std::max(MulDiv(width - 2 * edge, percent, 100), thick);
+            canvas.roundedBox({edge, top + edge, edge + done, top + edge + thick}, thick / 2, theme().bar);
         }
     }
 };
@@ -97,26 +105,44 @@ public:
     using WindowOf::WindowOf;
 
     void paint(Canvas& canvas) override {
-        if (control().style() != TextStyle::Action) {
+        if (control().style() == TextStyle::Link) {
             paintLink(canvas);
             return;
         }
-        const Scale& scaled = canvas.scale();
-        canvas.roundedBox(canvas.area(), scaled(4), faceColor(theme().action), theme().action.border,
-                          scaled(1));
+        if (control().style() == TextStyle::Step) {
+            paintStep(canvas);
+            return;
+        }
+        // A caption that is white while the mouse is over it needs a face that is dark.
         const Color own = control().isUsable() ? control().ForeColor() : colors::white;
-        canvas.text(control().Caption(), inset(canvas.area(), scaled(8), scaled(1)),
-                    {.color = textOn(theme().action, own), .align = DT_CENTER});
-        paintFocusOnFace(canvas, 3);
+        paintButton(canvas, control().rank(), isHeld() || own == colors::white, own);
     }
 
 private:
-    void paintLink(Canvas& canvas) const {
-        const bool step = control().style() == TextStyle::Step;
-        TextLook look{.color = step ? surface().text : theme().link,
-                      .underlined = !step || control().Underlined()};
+    /// Plain text in the middle of an area that can be pressed.
+    void paintStep(Canvas& canvas) const {
+        const Scale& scaled = canvas.scale();
+        const Surface& under = theme().captions ? *theme().captions : surface();
+        const Face& face = under.button(control().rank() == Rank::Primary ? Rank::Primary : Rank::Ordinary);
+        const Color ground = theme().highContrast || isHovered() ? face.hovered : face.normal;
+        canvas.roundedBox(canvas.area(), scaled(4), ground, face.edge, scaled(1));
+        TextLook look{.color = textOn(face, control().ForeColor()),
+                      .align = DT_CENTER,
+                      .underlined = control().Underlined(),
+                      .mnemonics = true,
+                      .accessKey = shownKey()};
         if (!control().isUsable()) {
-            look.color = theme().disabledText;
+            look.color = under.disabledText;
+        }
+        canvas.text(control().Caption(), inset(canvas.area(), scaled(4), scaled(1)), look);
+        const int margin = scaled(2);
+        paintFocus(canvas, inset(canvas.area(), margin, margin), ground);
+    }
+
+    void paintLink(Canvas& canvas) const {
+        TextLook look{.color = theme().link, .underlined = true};
+        if (!control().isUsable()) {
+            look.color = surface().disabledText;
         } else if (control().ForeColor() != colors::black && !theme().highContrast) {
             look.color = control().ForeColor();
         }
@@ -126,7 +152,7 @@ private:
         text.left = 0;
         text.right =
             std::min<LONG>(canvas.textWidth(control().Caption(), look) + canvas.scale()(5), text.right);
-        paintFocus(canvas, text, theme().focus);
+        paintFocus(canvas, text, surface().ground);
     }
 };
 

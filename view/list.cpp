@@ -52,13 +52,20 @@ public:
             return;
         }
         const bool selected = (item.itemState & ODS_SELECTED) != 0;
-        const Color plain = control().isUsable() ? theme().fieldText : theme().disabledText;
+        const bool elsewhere = selected && !isFocused() && !theme().highContrast;
+        const Color ground = elsewhere  ? theme().selectedElsewhere
+                             : selected ? theme().selected
+                                        : theme().field;
+        const Color plain = control().isUsable() ? theme().fieldText : surface().disabledText;
         Canvas canvas(tools().buffer, tools().fonts, scale(), width, height);
-        canvas.fill(canvas.area(), selected ? theme().selected : theme().field);
+        canvas.fill(canvas.area(), ground);
         RECT text = inset(canvas.area(), scale()(6), 0);
-        paintRowStart(canvas, row);
+        paintRowStart(canvas, row, ground);
         text.left += rowStartWidth();
-        canvas.text(control().item(row), text, {.color = selected ? theme().selectedText : plain});
+        canvas.text(control().item(row), text,
+                    {.color = elsewhere  ? theme().selectedElsewhereText
+                              : selected ? theme().selectedText
+                                         : plain});
         BitBlt(item.hDC, item.rcItem.left, item.rcItem.top, width, height, canvas.dc(), 0, 0, SRCCOPY);
     }
 
@@ -90,7 +97,7 @@ protected:
     }
 
     /// What stands before a row's text, and its width in pixels.
-    virtual void paintRowStart(Canvas&, int) {}
+    virtual void paintRowStart(Canvas&, int, Color /*ground*/) {}
     virtual int rowStartWidth() const { return 0; }
     /// Pixels of the longest row with all that is around it, where rows can be scrolled sideways.
     virtual int rowWidth() const { return 0; }
@@ -141,12 +148,25 @@ public:
 
     void drawRow(const DRAWITEMSTRUCT& item) override {
         ItemsWindow::drawRow(item);
-        if ((item.itemState & ODS_FOCUS) != 0 && control().count() > 0) {
-            DrawFocusRect(item.hDC, &item.rcItem);
+        if ((item.itemState & (ODS_FOCUS | ODS_SELECTED)) == ODS_FOCUS && control().count() > 0) {
+            DrawFocusRect(item.hDC, &item.rcItem); // On no row the keyboard is seen otherwise.
         }
     }
 
 protected:
+    LRESULT handle(UINT message, WPARAM wide, LPARAM low) override {
+        if (message == WM_MOUSEMOVE && list().rowMark) {
+            tellRowAt(low);
+        }
+        const LRESULT result = ItemsWindow::handle(message, wide, low);
+        if (message == WM_PAINT) {
+            paintWhenEmpty(list().whenEmpty());
+        } else if (message == WM_MOUSELEAVE) {
+            told_ = -1;
+        }
+        return result;
+    }
+
     void arranged() override {
         handleAsClass(LB_SETITEMHEIGHT, 0, rowHeight());
         rowsAdded(0);
@@ -162,9 +182,37 @@ protected:
         handleAsClass(LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(rowWidth()), 0);
     }
 
-    int rowWidth() const override { return rowStartWidth() + longestText_ + scale()(12); }
+    int rowWidth() const override {
+        return list().rowMark ? 0 : rowStartWidth() + longestText_ + scale()(12);
+    }
+
+    void paintRowStart(Canvas& canvas, int row, Color ground) override {
+        const RowMark mark = list().rowMark ? list().rowMark(control().item(row)) : RowMark::None;
+        if (mark == RowMark::None) {
+            return;
+        }
+        const int size = scale()(Mark::size);
+        const int top = (heightOf(canvas.area()) - size) / 2;
+        const int left = scale()(6);
+        const bool isNew = mark == RowMark::New;
+        canvas.drawing(drawingNamed(isNew ? "new" : "changed"), {left, top, left + size, top + size},
+                       seenOn(ground, theme().tone(isNew ? Tone::Attention : Tone::Bad).sign), ground);
+    }
+    int rowStartWidth() const override { return list().rowMark ? scale()(Mark::size + 6) : 0; }
 
 private:
+    const ListBox& list() const { return static_cast<const ListBox&>(control()); }
+
+    void tellRowAt(LPARAM where) {
+        const LRESULT hit = handleAsClass(LB_ITEMFROMPOINT, 0, where);
+        const int row = HIWORD(hit) == 0 ? LOWORD(hit) : -1;
+        if (row != told_) {
+            told_ = row;
+            showToolTip(control().item(row));
+        }
+    }
+
+    int told_ = -1;       ///< The row whose text is the tool tip.
     int longestText_ = 0; ///< In pixels.
 };
 
@@ -196,9 +244,9 @@ public:
         return result;
     }
 
-    void paintRowStart(Canvas& canvas, int row) override {
+    void paintRowStart(Canvas& canvas, int row, Color) override {
         paintMark(canvas, canvas.scale()(6),
-                  {.ticked = control().ticked(row), .usable = control().isUsable()});
+                  {.ticked = control().ticked(row), .usable = control().isUsable()}, surface().mark);
     }
     int rowStartWidth() const override { return scale()(Mark::size + 6); }
 };
@@ -234,7 +282,7 @@ public:
         const bool usable = control().isUsable();
         canvas.roundedBox(area, scaled(4), usable ? theme().field : surface().ground,
                           isFocused() ? theme().focus : theme().border, scaled(1));
-        const Color color = usable ? theme().fieldText : theme().disabledText;
+        const Color color = usable ? theme().fieldText : surface().disabledText;
         const RECT text{scaled(7), 1, area.right - scaled(26), area.bottom - 1};
         canvas.text(control().text(), text, {.color = color});
         const float half = static_cast<float>(scaled(8)) / 2;

@@ -72,7 +72,7 @@ public:
             canvas.glow(middle, edge, static_cast<float>(halo), face().hovered);
         }
         Color ground = isLit() ? face().hovered : face().normal;
-        Color lines = contrast ? face().border : colors::white;
+        Color lines = contrast ? face().edge : colors::white;
         if (!control().isUsable()) {
             ground = face().disabled;
         } else if (isHeld()) {
@@ -82,9 +82,9 @@ public:
             ground = theme().selected;
             lines = theme().selectedText;
         }
-        canvas.roundedBox(disc, radius, ground, contrast ? face().border : ground, scaled(2));
+        canvas.roundedBox(disc, radius, ground, contrast ? face().edge : ground, scaled(2));
         const int margin = widthOf(disc) * 2 / 9;
-        canvas.drawing(drawing_, inset(disc, margin, margin), lines);
+        canvas.drawing(drawing_, inset(disc, margin, margin), lines, ground);
         if (isSamePlace(GetFocus())) {
             const auto thickness = static_cast<float>(scaled(4)) / 2;
             canvas.ring(middle, edge + static_cast<float>(halo) / 2, thickness, theme().focus);
@@ -98,7 +98,7 @@ private:
         return name_ == "standby"   ? theme().standby
                : name_ == "turnoff" ? theme().turnOff
                : name_ == "restart" ? theme().restart
-                                    : theme().button;
+                                    : theme().page.button(Rank::Primary);
     }
 
     bool isOnDisc(POINT onDesktop) const {

@@ -143,14 +143,26 @@ const Color& PressWindow::faceColor(const Face& face) const {
 }
 
 Color PressWindow::textOn(const Face& face, Color own) const {
-    const Color system = control().isUsable() ? face.border : theme().disabledText;
+    const Color system = control().isUsable() ? face.edge : surface().disabledText;
     return theme().highContrast ? system : own;
 }
 
-void PressWindow::paintFocusOnFace(Canvas& canvas, int margin) const {
-    const int edge = canvas.scale()(margin);
-    paintFocus(canvas, inset(canvas.area(), edge, edge),
-               theme().highContrast ? theme().focus : colors::white);
+void PressWindow::paintButton(Canvas& canvas, Rank rank, bool pressed, Color caption) const {
+    const Scale& scaled = canvas.scale();
+    const Face& face = surface().button(rank);
+    const Color ground = pressed ? face.pressed : faceColor(face);
+    const bool hasEdge = theme().highContrast || (control().isUsable() && !pressed);
+    canvas.roundedBox(canvas.area(), scaled(4), ground, hasEdge ? face.edge : ground,
+                      scaled(theme().highContrast && pressed ? 2 : 1));
+    const bool quiet = rank == Rank::Quiet;
+    canvas.text(control().Caption(), inset(canvas.area(), scaled(quiet ? 12 : 6), scaled(1)),
+                {.color = textOn(face, caption),
+                 .weight = rank == Rank::Primary ? FW_SEMIBOLD : FW_NORMAL,
+                 .align = static_cast<UINT>(quiet ? DT_LEFT : DT_CENTER),
+                 .mnemonics = true,
+                 .accessKey = shownKey()});
+    const int margin = scaled(2);
+    paintFocus(canvas, inset(canvas.area(), margin, margin), ground);
 }
 
 } // namespace tarvelon

@@ -35,7 +35,8 @@ protected:
     const Color& faceColor(const Face& face) const;
     /// A text's colour on the face; `own` where the user's scheme does not decide.
     Color textOn(const Face& face, Color own) const;
-    void paintFocusOnFace(Canvas& canvas, int margin) const;
+    /// The face of the rank with the control's caption on it.
+    void paintButton(Canvas& canvas, Rank rank, bool pressed, Color caption) const;
 
 private:
     enum class Held { No, ByMouse, ByKey };

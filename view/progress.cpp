@@ -22,9 +22,12 @@ public:
         const RECT area = canvas.area();
         const int radius = std::min(heightOf(area) / 2, canvas.scale()(4));
         canvas.roundedBox(area, radius, theme().track, theme().border, canvas.scale()(1));
+        const RECT inside = inset(area, canvas.scale()(1), canvas.scale()(1));
         if (control().value() > 0 && control().max() > 0) {
-            const int done = std::max(MulDiv(widthOf(area), control().value(), control().max()), 2 * radius);
-            canvas.roundedBox({area.left, area.top, area.left + done, area.bottom}, radius, theme().bar);
+            const int done =
+                std::max(MulDiv(widthOf(inside), control().value(), control().max()), 2 * radius);
+            canvas.roundedBox({inside.left, inside.top, inside.left + done, inside.bottom}, radius,
+                              theme().bar);
         }
     }
 };

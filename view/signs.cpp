@@ -8,31 +8,31 @@ namespace tarvelon {
 
 namespace {
 
-Color colorOf(Tone tone, const Theme& theme, const Surface& surface) {
-    switch (tone) {
-    case Tone::Good:
-        return theme.good;
-    case Tone::Attention:
-        return theme.attention;
-    case Tone::Bad:
-        return theme.bad;
-    case Tone::Quiet:
-        return surface.quietText;
-    case Tone::Plain:
-        break;
-    }
-    return surface.text;
-}
-
 class IconWindow : public WindowOf<Icon> {
 public:
     using WindowOf::WindowOf;
 
     void paint(Canvas& canvas) override {
+        const Tone tone = control().tone();
+        const Color plain = surface().text;
         canvas.drawing(drawingNamed(control().image()), canvas.area(),
-                       colorOf(control().tone(), theme(), surface()));
+                       seenOn(surface().ground, tone == Tone::Plain ? plain : theme().tone(tone).sign),
+                       surface().ground);
     }
 };
+
+const char* shieldOf(Tone tone) {
+    switch (tone) {
+    case Tone::Good:
+        return "shield-good";
+    case Tone::Attention:
+        return "shield-attention";
+    case Tone::Bad:
+        return "shield-bad";
+    default:
+        return "shield";
+    }
+}
 
 class VerdictWindow : public WindowOf<Verdict> {
 public:
@@ -41,14 +41,15 @@ public:
     void paint(Canvas& canvas) override {
         const Scale& scaled = canvas.scale();
         const RECT area = canvas.area();
-        const Color color = colorOf(control().tone(), theme(), theme().card);
-        canvas.roundedBox(area, scaled(6), theme().card.ground, color, scaled(1));
-        const int side = std::min(heightOf(area) - scaled(16), scaled(32));
+        const auto& [color, band] = theme().tone(control().tone());
+        canvas.roundedBox(area, scaled(6), band, color, scaled(1));
+        const int side = std::min(heightOf(area) - scaled(16), scaled(40));
         const int top = (heightOf(area) - side) / 2;
-        canvas.drawing(drawingNamed("integrity"), {scaled(16), top, scaled(16) + side, top + side}, color);
+        canvas.drawing(drawingNamed(shieldOf(control().tone())),
+                       {scaled(16), top, scaled(16) + side, top + side}, color, band);
         const RECT text{scaled(32) + side, scaled(4), area.right - scaled(16), area.bottom - scaled(4)};
         canvas.text(control().Caption(), text,
-                    {.color = theme().card.text, .tenthPoints = textSize::heading, .weight = FW_SEMIBOLD});
+                    {.color = theme().page.text, .tenthPoints = textSize::heading, .weight = FW_SEMIBOLD});
     }
 };
 
@@ -65,7 +66,7 @@ public:
             const int radius = scaled(here ? 5 : 3);
             const int x = pitch / 2 + step * pitch;
             canvas.roundedBox({x - radius, middle - radius, x + radius, middle + radius}, radius,
-                              step <= control().current() ? theme().focus : theme().border);
+                              step <= control().current() ? theme().page.mark.ticked : theme().border);
         }
     }
 };

@@ -1,13 +1,10 @@
 #include "view/theme.h"
 
+#include "platform/win32/system_library.h"
+
 namespace tarvelon {
 
 namespace {
-
-/// From the usual notation 0xRRGGBB.
-constexpr Color rgb(std::uint32_t notation) {
-    return ((notation & 0xff) << 16) | (notation & 0xff00) | (notation >> 16);
-}
 
 bool isHighContrast() {
     HIGHCONTRASTA state{};
@@ -16,75 +13,115 @@ bool isHighContrast() {
            (state.dwFlags & HCF_HIGHCONTRASTON) != 0;
 }
 
-/// Black and white both read well on the faces of buttons: their captions change between the two.
-Theme ownTheme() {
-    return {
-        .highContrast = false,
-        .page = {rgb(0xEEF2F6), colors::black, rgb(0x55626F)},
-        .card = {rgb(0xFAFCFE), colors::black, rgb(0x55626F)},
-        .navigation = {rgb(0x1F2C3A), rgb(0xF2F6FA), rgb(0xB4C2D0)},
-        .border = rgb(0xB9C6D3),
-        .focus = rgb(0x1668C1),
-        .field = rgb(0xFFFFFF),
-        .fieldText = colors::black,
-        .selected = rgb(0x3A6391),
-        .selectedText = colors::white,
-        .disabledText = rgb(0x8A939D),
-        .link = colors::hoverBlue,
-        .button = {rgb(0x5484B3), rgb(0x6D9AC8), rgb(0x365C85), rgb(0x7F8A95), rgb(0x5484B3)},
-        .action = {rgb(0x5484B3), rgb(0x5C8BBA), rgb(0x365C85), rgb(0x7F8A95), rgb(0x2F5479)},
-        .standby = {rgb(0xC4820E), rgb(0xDC9823), rgb(0x976308), rgb(0x7F8A95), rgb(0xC4820E)},
-        .turnOff = {rgb(0xC24A42), rgb(0xDB5F55), rgb(0x93332C), rgb(0x7F8A95), rgb(0xC24A42)},
-        .restart = {rgb(0x3F8F6B), rgb(0x4FA982), rgb(0x2C694D), rgb(0x7F8A95), rgb(0x3F8F6B)},
-        .good = rgb(0x1E7145),
-        .attention = rgb(0x8A5A00),
-        .bad = rgb(0xB01C1C),
-        .track = rgb(0xD5DEE7),
-        .bar = rgb(0x3F8F6B),
-        .navigationHover = rgb(0x2B3C4E),
-        .navigationCurrent = rgb(0x365C85),
-        .navigationCurrentText = colors::white,
-    };
+/// The user has chosen dark programs. Older systems know no such choice.
+bool isDark() {
+    HKEY key = nullptr;
+    if (RegOpenKeyExA(HKEY_CURRENT_USER, "Software\\Microsoft\\Windows\\CurrentVersion\\Themes\\Personalize",
+                      0, KEY_QUERY_VALUE, &key) != ERROR_SUCCESS) {
+        return false;
+    }
+    DWORD type = 0;
+    DWORD light = 1;
+    DWORD size = sizeof light;
+    const LONG result =
+        RegQueryValueExA(key, "AppsUseLightTheme", nullptr, &type, reinterpret_cast<BYTE*>(&light), &size);
+    RegCloseKey(key);
+    return result == ERROR_SUCCESS && type == REG_DWORD && light == 0;
 }
 
 Theme systemTheme() {
     const auto system = [](int index) { return static_cast<Color>(GetSysColor(index)); };
-    const Surface window{system(COLOR_WINDOW), system(COLOR_WINDOWTEXT), system(COLOR_WINDOWTEXT)};
+    const Color ground = system(COLOR_WINDOW);
+    const Color text = system(COLOR_WINDOWTEXT);
+    const Color chosen = system(COLOR_HIGHLIGHT);
+    const Color chosenText = system(COLOR_HIGHLIGHTTEXT);
     const Color face = system(COLOR_BTNFACE);
     const Face plain{face, face, face, face, system(COLOR_BTNTEXT)};
+    const Surface window{.ground = ground,
+                         .text = text,
+                         .quietText = text,
+                         .disabledText = system(COLOR_GRAYTEXT),
+                         .mark = {ground, text, chosen, chosenText},
+                         .buttons = {plain, plain, plain, plain}};
+    const ToneColors sign{text, ground};
     return {
         .highContrast = true,
         .page = window,
         .card = window,
+        .current = window,
         .navigation = window,
-        .border = system(COLOR_WINDOWTEXT),
-        .focus = system(COLOR_HIGHLIGHT),
-        .field = system(COLOR_WINDOW),
-        .fieldText = system(COLOR_WINDOWTEXT),
-        .selected = system(COLOR_HIGHLIGHT),
-        .selectedText = system(COLOR_HIGHLIGHTTEXT),
-        .disabledText = system(COLOR_GRAYTEXT),
+        .captions = std::nullopt,
+        .tones = {sign, sign, sign, sign, sign},
+        .line = text,
+        .border = text,
+        .focus = chosen,
+        .field = ground,
+        .fieldText = text,
+        .fieldQuietText = text,
+        .selected = chosen,
+        .selectedText = chosenText,
+        .selectedElsewhere = face,
+        .selectedElsewhereText = system(COLOR_BTNTEXT),
         .link = system(COLOR_HOTLIGHT),
-        .button = plain,
-        .action = plain,
         .standby = plain,
         .turnOff = plain,
         .restart = plain,
-        .good = system(COLOR_WINDOWTEXT),
-        .attention = system(COLOR_WINDOWTEXT),
-        .bad = system(COLOR_WINDOWTEXT),
-        .track = system(COLOR_WINDOW),
-        .bar = system(COLOR_HIGHLIGHT),
-        .navigationHover = system(COLOR_WINDOW),
-        .navigationCurrent = system(COLOR_HIGHLIGHT),
-        .navigationCurrentText = system(COLOR_HIGHLIGHTTEXT),
+        .track = ground,
+        .bar = chosen,
+        .chartBar = text,
+        .navigationHover = ground,
+        .navigationCurrent = chosen,
+        .navigationCurrentText = chosenText,
     };
 }
 
 } // namespace
 
-Theme currentTheme() {
-    return isHighContrast() ? systemTheme() : ownTheme();
+ThemeKind wantedTheme() {
+    if (isHighContrast()) {
+        return ThemeKind::HighContrast;
+    }
+    return isDark() ? ThemeKind::Dark : ThemeKind::Light;
+}
+
+Theme themeFor(ThemeKind kind) {
+    switch (kind) {
+    case ThemeKind::HighContrast:
+        return systemTheme();
+    case ThemeKind::Dark:
+        return darkTheme;
+    case ThemeKind::Light:
+        break;
+    }
+    return lightTheme;
+}
+
+void darkenTitleBar(HWND window, const Theme& theme) {
+    using DwmSetWindowAttribute = HRESULT WINAPI(HWND, DWORD, LPCVOID, DWORD);
+    constexpr DWORD useImmersiveDarkMode = 20;
+    static bool wasDark = false;
+    if (!theme.dark && !wasDark) {
+        return; // Nothing to load a library for.
+    }
+    wasDark = true;
+    static const SystemLibrary manager("dwmapi.dll");
+    if (auto* const set = manager.find<DwmSetWindowAttribute>("DwmSetWindowAttribute")) {
+        const BOOL dark = theme.dark;
+        set(window, useImmersiveDarkMode, &dark, sizeof dark);
+    }
+}
+
+void darkenScrollBars(HWND window, const Theme& theme) {
+    using SetWindowTheme = HRESULT WINAPI(HWND, LPCWSTR, LPCWSTR);
+    static bool wasDark = false;
+    if (!theme.dark && !wasDark) {
+        return;
+    }
+    wasDark = true;
+    static const SystemLibrary themes("uxtheme.dll");
+    if (auto* const set = themes.find<SetWindowTheme>("SetWindowTheme")) {
+        set(window, theme.dark ? L"DarkMode_Explorer" : nullptr, nullptr);
+    }
 }
 
 } // namespace tarvelon

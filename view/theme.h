@@ -1,58 +1,22 @@
 #pragma once
 
 #include "platform/win32/owned.h"
-#include "ui/controls/geometry.h"
+#include "view/palette.h"
 
 #include <map>
 
 namespace tarvelon {
 
-/// What stands under a control decides its background and its quiet colours.
-struct Surface {
-    Color ground;
-    Color text;
-    Color quietText;
-};
+enum class ThemeKind { Light, Dark, HighContrast };
 
-/// A face that is pressed: its colour as it lies, under the mouse, pressed, and when it cannot be used.
-struct Face {
-    Color normal;
-    Color hovered;
-    Color pressed;
-    Color disabled;
-    Color border;
-};
+/// What the user has chosen for programs.
+ThemeKind wantedTheme();
+/// That of high contrast is made of the system's colours.
+Theme themeFor(ThemeKind kind);
 
-/// All colours of the view. The user's own when the system is set to high contrast.
-struct Theme {
-    bool highContrast;
-    Surface page;
-    Surface card; ///< Inside a box with a title.
-    Surface navigation;
-    Color border;
-    Color focus;
-    Color field; ///< Behind typed text and rows.
-    Color fieldText;
-    Color selected;
-    Color selectedText;
-    Color disabledText;
-    Color link; ///< A check's label under the mouse.
-    Face button;
-    Face action; ///< Labels that are clicked.
-    Face standby;
-    Face turnOff;
-    Face restart;
-    Color good; ///< Drawn signs and figures that say so.
-    Color attention;
-    Color bad;
-    Color track; ///< The part of a bar that is still to come.
-    Color bar;
-    Color navigationHover;
-    Color navigationCurrent;
-    Color navigationCurrentText;
-};
-
-Theme currentTheme();
+/// Has the window's title bar, or the scroll bars of a list, follow a dark theme where the system can.
+void darkenTitleBar(HWND window, const Theme& theme);
+void darkenScrollBars(HWND window, const Theme& theme);
 
 /// The brushes of the colours that were asked for so far.
 class Brushes {

@@ -16,26 +16,28 @@ public:
         , isRound_(style == BS_AUTORADIOBUTTON) {}
 
 protected:
-    void paint(Canvas& canvas) override {
+    void paint(Canvas& canvas) override { paintOn(canvas, surface(), surface().ground); }
+
+    void paintOn(Canvas& canvas, const Surface& under, Color ground) {
         const Scale& scaled = canvas.scale();
         const std::string& caption = control().Caption();
-        paintMark(canvas, scaled(1),
-                  {.round = isRound_,
-                   .ticked = isTicked(),
-                   .usable = control().isUsable(),
-                   .hovered = isHovered()});
-        TextLook look{.color = textColor(), .underlined = isLink(), .mnemonics = true};
+        paintMark(
+            canvas, scaled(1),
+            {.round = isRound_, .ticked = isTicked(), .usable = control().isUsable(), .hovered = isHovered()},
+            under.mark);
+        TextLook look{
+            .color = textColor(under), .underlined = isLink(), .mnemonics = true, .accessKey = shownKey()};
         if (!control().isUsable()) {
-            look.color = theme().disabledText;
+            look.color = under.disabledText;
         } else if (isLink()) {
-            look.color = theme().link;
+            look.color = theme().highContrast ? theme().link : colors::hoverBlue;
         }
         RECT text = canvas.area();
         text.left = textLeft();
         text.right -= scaled(2);
         canvas.text(caption, text, look);
         if (caption.empty()) {
-            paintFocus(canvas, canvas.area(), theme().focus);
+            paintFocus(canvas, canvas.area(), ground);
             return;
         }
         const LONG textEnd = text.left + canvas.textWidth(caption, look) + scaled(6) - scaled(2);
@@ -44,11 +46,11 @@ protected:
         paintFocus(
             canvas,
             {text.left - scaled(4), middle - half, std::min(textEnd, canvas.area().right), middle + half},
-            theme().focus);
+            ground);
     }
 
     virtual bool isLink() const { return false; }
-    virtual Color textColor() const { return surface().text; }
+    virtual Color textColor(const Surface& under) const { return under.text; }
     /// Where the text begins, in pixels.
     int textLeft() const { return scale()(24); }
 
@@ -63,6 +65,19 @@ public:
     void leave() override { control().mouseMoveBox(); }
     bool isTicked() const override { return control().value() != 0; }
     bool isLink() const override { return control().hovered(); }
+
+    void paint(Canvas& canvas) override {
+        if (!theme().captions || control().Caption().empty()) {
+            TickWindow::paint(canvas);
+            return;
+        }
+        const Surface& under = *theme().captions;
+        RECT behind = canvas.area();
+        behind.right = std::min<LONG>(behind.right, textLeft() + canvas.scale()(8) +
+                                                        canvas.textWidth(control().Caption(), {}));
+        canvas.roundedBox(behind, canvas.scale()(4), under.ground);
+        paintOn(canvas, under, under.ground);
+    }
 
     void hover(POINT where) override {
         if (isHovered() && where.x >= textLeft()) {
@@ -79,16 +94,19 @@ public:
 
     bool isTicked() const override { return control().value() != 0; }
 
-    Color textColor() const override {
+    Color textColor(const Surface& under) const override {
         const bool plain = control().ForeColor() == colors::black && !control().BackColor();
-        return plain || theme().highContrast ? surface().text : control().ForeColor();
+        return plain || theme().highContrast ? under.text : control().ForeColor();
     }
 
     void paint(Canvas& canvas) override {
-        if (control().BackColor() && !theme().highContrast) {
-            canvas.roundedBox(canvas.area(), canvas.scale()(4), *control().BackColor());
+        const auto& own = control().BackColor();
+        if (!own || theme().highContrast) {
+            TickWindow::paint(canvas);
+            return;
         }
-        TickWindow::paint(canvas);
+        canvas.roundedBox(canvas.area(), canvas.scale()(4), *own);
+        paintOn(canvas, surface(), *own);
     }
 };
 

@@ -20,9 +20,12 @@ class TreeWindow : public WindowOf<Tree> {
 public:
     using WindowOf::WindowOf;
 
-    void notifiedWith(const NMHDR& header) override {
+    LRESULT notifiedWith(const NMHDR& header) override {
+        if (header.code == NM_CUSTOMDRAW) {
+            return colourRow(reinterpret_cast<NMTVCUSTOMDRAW&>(const_cast<NMHDR&>(header)));
+        }
         if (following_) {
-            return; // The window changes by itself.
+            return 0; // The window changes by itself.
         }
         ++raising_;
         raise(header);
@@ -30,7 +33,10 @@ public:
         if (stale_ && raising_ == 0) {
             form().refreshLater(*this);
         }
+        return 0;
     }
+
+    bool isEmpty() const override { return control().nodes().empty(); }
 
     void follow() override {
         colour();
@@ -49,7 +55,11 @@ public:
         } else if (message == WM_PAINT) {
             colour();
         }
-        return ControlWindow::handle(message, wide, low);
+        const LRESULT result = ControlWindow::handle(message, wide, low);
+        if (message == WM_PAINT) {
+            paintWhenEmpty(control().whenEmpty());
+        }
+        return result;
     }
 
     void applyItems(Aspect aspect) override {
@@ -58,7 +68,7 @@ public:
     }
 
     void arranged() override {
-        handleAsClass(TVM_SETITEMHEIGHT, static_cast<WPARAM>(scale()(22)), 0);
+        handleAsClass(TVM_SETITEMHEIGHT, static_cast<WPARAM>(scale()(20)), 0);
         handleAsClass(TVM_SETINDENT, static_cast<WPARAM>(scale()(20)), 0);
         // Older systems pass this over.
         constexpr UINT setExtendedStyle = TV_FIRST + 44;
@@ -73,6 +83,19 @@ private:
         std::string first;    ///< At the upper edge.
         std::vector<std::string> open;
     };
+
+    /// Selected rows look as those of lists do.
+    LRESULT colourRow(NMTVCUSTOMDRAW& drawn) const {
+        if (drawn.nmcd.dwDrawStage == CDDS_PREPAINT) {
+            return CDRF_NOTIFYITEMDRAW;
+        }
+        if (drawn.nmcd.dwDrawStage == CDDS_ITEMPREPAINT && (drawn.nmcd.uItemState & CDIS_SELECTED) != 0) {
+            const bool here = isFocused() || theme().highContrast;
+            drawn.clrTextBk = here ? theme().selected : theme().selectedElsewhere;
+            drawn.clrText = here ? theme().selectedText : theme().selectedElsewhereText;
+        }
+        return CDRF_DODEFAULT;
+    }
 
     void colour() {
         if (ground_ != theme().field || text_ != theme().fieldText) {
@@ -222,8 +245,8 @@ private:
 MadeWindow makeTree(FormWindow& form, Control& control) {
     return std::make_unique<TreeWindow>(form, control,
                                         ControlWindow::Kind{.windowClass = WC_TREEVIEWA,
-                                                            .style = TVS_HASBUTTONS | TVS_HASLINES |
-                                                                     TVS_LINESATROOT | TVS_SHOWSELALWAYS |
+                                                            .style = TVS_HASBUTTONS | TVS_LINESATROOT |
+                                                                     TVS_FULLROWSELECT | TVS_SHOWSELALWAYS |
                                                                      WS_BORDER | WS_TABSTOP,
                                                             .drawnByClass = true});
 }

@@ -22,8 +22,8 @@ void registerWindowClasses() {
 
 } // namespace
 
-Win32View::Win32View()
-    : tools_(std::make_unique<ViewTools>()) {
+Win32View::Win32View(ThemeKind theme)
+    : tools_(std::make_unique<ViewTools>(themeFor(theme))) {
     registerWindowClasses();
 }
 

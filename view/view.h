@@ -2,6 +2,7 @@
 
 #include "platform/win32/window_host.h"
 #include "ui/controls/screen.h"
+#include "view/theme.h"
 
 #include <memory>
 #include <vector>
@@ -15,7 +16,7 @@ struct ViewTools;
 /// first comes to light; they go with the view.
 class Win32View : public ScreenListener, public WindowHost {
 public:
-    Win32View();
+    explicit Win32View(ThemeKind theme = wantedTheme());
     Win32View(const Win32View&) = delete;
     ~Win32View() override;
 

@@ -121,12 +121,12 @@ protected:
         }
     }
 
-    Win32View view;
+    Win32View view{ThemeKind::Light};
     Win32Platform platform{view};
     SampleScreen screen;
     HWND form = nullptr;
     std::string heard;
-    const Theme theme = currentTheme();
+    const Theme theme = themeFor(ThemeKind::Light);
 };
 
 TEST_F(View, TextsOfEveryScriptAnswerAtOnceAndWhole) {
@@ -185,14 +185,14 @@ TEST_F(View, ControlsAreDrawnInTheirLastState) {
     screen.bar.setValue(300);
     screen.second.setValue(true);
     expectDrawn({{screen.gauge, 100, theme.track},
-                 {screen.button, 4, theme.button.normal},
-                 {screen.action, 4, theme.action.normal},
+                 {screen.button, 4, theme.card.button(Rank::Ordinary).normal},
+                 {screen.action, 4, theme.card.button(Rank::Ordinary).normal},
                  {screen.check, 9, theme.field},
                  {screen.check, 110, theme.card.ground},
                  {screen.chart, 90, theme.bar},
                  {screen.entry, 110, theme.navigationCurrent},
-                 {screen.second, 4, RGB(0x3A, 0x63, 0x91)},
-                 {screen.list, 2, theme.selected},
+                 {screen.second, 4, theme.card.mark.ticked},
+                 {screen.list, 2, theme.selectedElsewhere},
                  {screen.bar, 60, theme.bar},
                  {screen.bar, 110, theme.track},
                  {screen.plain, 15, theme.restart.normal}});
@@ -203,10 +203,10 @@ TEST_F(View, ControlsAreDrawnInTheirLastState) {
     ask(screen.check, BM_CLICK);
     screen.second.Enabled = screen.plain.Enabled = false;
     expectDrawn({{screen.gauge, 100, theme.bar},
-                 {screen.button, 4, theme.button.hovered},
-                 {screen.action, 4, theme.action.pressed},
-                 {screen.check, 10, theme.selectedText},
-                 {screen.second, 4, theme.disabledText},
+                 {screen.button, 4, theme.card.button(Rank::Ordinary).hovered},
+                 {screen.action, 4, theme.card.button(Rank::Ordinary).pressed},
+                 {screen.check, 10, theme.card.mark.tick},
+                 {screen.second, 4, theme.card.mark.edge},
                  {screen.plain, 15, theme.restart.disabled}});
 }
 

@@ -218,13 +218,16 @@ void ItemControl::select(int index) {
 }
 
 ListBox::ListBox(ControlParent parent, Rect place, bool visible, std::string whenEmpty)
-    : ItemControl(ControlKind::ListBox, parent, "", place)
-    , whenEmpty_(std::move(whenEmpty)) {
+    : ListBox(ControlKind::ListBox, parent, place, std::move(whenEmpty)) {
     Visible = visible;
 }
 
+ListBox::ListBox(ControlKind kind, ControlParent parent, Rect place, std::string whenEmpty)
+    : ItemControl(kind, parent, "", place)
+    , whenEmpty_(std::move(whenEmpty)) {}
+
 CheckListBox::CheckListBox(ControlParent parent, Rect place)
-    : ItemControl(ControlKind::CheckList, parent, "", place) {}
+    : ListBox(ControlKind::CheckList, parent, place, "") {}
 
 bool CheckListBox::ticked(int index) const {
     return index >= 0 && static_cast<std::size_t>(index) < ticks_.size() &&

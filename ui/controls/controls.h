@@ -151,6 +151,8 @@ public:
 
     Property<Color, Control, Aspect::TextColor> ForeColor{*this, colors::black};
     Property<bool, Control, Aspect::TextColor> Underlined{*this, false};
+    /// What the text says: its colour, where `ForeColor` is black.
+    Property<Tone, Control, Aspect::TextColor> tone{*this, Tone::Plain};
 
     Screen::Handler onMouseDown;
     /// The mouse button is up again, in front of the click.
@@ -382,12 +384,15 @@ public:
     /// shows while the mouse rests on it.
     std::function<RowMark(const std::string& row)> rowMark;
 
+protected:
+    ListBox(ControlKind kind, ControlParent parent, Rect place, std::string whenEmpty);
+
 private:
     std::string whenEmpty_;
 };
 
 /// A list whose rows carry a tick each. A click on a row flips its tick and then tells of the click.
-class CheckListBox : public ItemControl {
+class CheckListBox : public ListBox {
 public:
     CheckListBox(ControlParent parent, Rect place);
 
