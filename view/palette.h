@@ -94,7 +94,7 @@ inline double contrast(Color one, Color other) {
         };
         return part(0, 0.2126) + part(8, 0.7152) + part(16, 0.0722) + 0.05;
     };
-    const auto [darker, lighter] = std::minmax(light(one), light(other));
+    const auto [darker, lighter] = std::minmax({light(one), light(other)});
     return lighter / darker;
 }
 
@@ -109,7 +109,7 @@ inline Color seenOn(Color ground, Color wanted) {
 constexpr std::array<Face, 4> lightFaces(Color ground) {
     constexpr Color pressed = rgb(0x24588F);
     constexpr Color disabled = rgb(0x6C7784);
-    return {{{rgb(0xFDFEFF), rgb(0xDCEAF8), pressed, disabled, rgb(0x7A8898)},
+    return {{{rgb(0xFDFEFF), rgb(0xDCEAF8), pressed, disabled, rgb(0x6F7D8C)},
              {rgb(0x79B4EC), rgb(0x94C6F5), pressed, disabled, rgb(0x2A6CB0)},
              {ground, rgb(0xDCEAF8), pressed, disabled, rgb(0xB7C3CF)},
              {rgb(0xFDFEFF), rgb(0xFBE4E1), rgb(0x93332C), disabled, rgb(0xC0281E)}}};
@@ -129,7 +129,7 @@ constexpr Surface lightSurface(Color ground) {
     return {.ground = ground,
             .text = colors::black,
             .quietText = rgb(0x55626F),
-            .disabledText = rgb(0x606B76),
+            .disabledText = rgb(0x58636E),
             .mark = {colors::white, rgb(0x6B7988), rgb(0x2F6BA8), colors::white},
             .buttons = lightFaces(ground)};
 }
@@ -165,12 +165,12 @@ inline constexpr Theme lightTheme{
     .selectedElsewhere = rgb(0xD3E1EF),
     .selectedElsewhereText = colors::black,
     .link = rgb(0x0B4A94),
-    .standby = {rgb(0xB87A0C), rgb(0xC98A1C), rgb(0x8E5D08), rgb(0x6C7784), rgb(0xB87A0C)},
+    .standby = {rgb(0xB87A0C), rgb(0xC5861A), rgb(0x8E5D08), rgb(0x6C7784), rgb(0xB87A0C)},
     .turnOff = {rgb(0xC24A42), rgb(0xD25A50), rgb(0x93332C), rgb(0x6C7784), rgb(0xC24A42)},
     .restart = {rgb(0x3F8F6B), rgb(0x469A74), rgb(0x2C694D), rgb(0x6C7784), rgb(0x3F8F6B)},
     .track = rgb(0xE8EEF4),
     .bar = rgb(0x2E7D57),
-    .chartBar = rgb(0x7F93A8),
+    .chartBar = rgb(0x7A8EA3),
     .navigationHover = rgb(0x2B3C4E),
     .navigationCurrent = rgb(0x365C85),
     .navigationCurrentText = colors::white,
@@ -180,9 +180,9 @@ inline constexpr Theme darkTheme{
     .dark = true,
     .page = duskSurface(rgb(0x1B2129)),
     .card = duskSurface(rgb(0x242C36)),
-    .current = lightSurface(rgb(0xC9D7E6)),
+    .current = lightSurface(rgb(0xD6E1EC)),
     .navigation = duskSurface(rgb(0x131920)),
-    .captions = lightSurface(rgb(0xC9D7E6)),
+    .captions = lightSurface(rgb(0xD6E1EC)),
     .tones = {{{rgb(0xF0F4F8), rgb(0x2F3944)},
                {rgb(0x5CC48C), rgb(0x1C3A2B)},
                {rgb(0xE8B04A), rgb(0x40330F)},
