@@ -3,6 +3,7 @@
 #include "core/globals.h"
 #include "core/other_page.h"
 #include "core/settings_file.h"
+#include "platform/codepage.h"
 #include "platform/messages.h"
 #include "platform/platform.h"
 #include "regwatch/locations.h"
@@ -103,10 +104,18 @@ Detection::Found Detection::checkRegEntry(std::string& name, std::string& stored
         std::replace(text->begin(), text->end(), '\r', ' ');
         std::replace(text->begin(), text->end(), '\n', ' ');
     }
+    // A name that the code page cannot hold does not lead to its value: nobody can say that it is as it was.
+    const bool isOutOfReach = storedText == " ()" && name.find('?') != std::string::npos &&
+                              platform.codePage.kind() != CodePage::Kind::Utf8;
     const std::string& file = globals.app.regFile;
     if (globals.regWatch.regNew) {
-        settings.writeEntry(file, name, storedText, location.section);
+        if (!isOutOfReach) {
+            settings.writeEntry(file, name, storedText, location.section);
+        }
         return Found::Nothing;
+    }
+    if (isOutOfReach) {
+        return Found::New;
     }
     // The snapshot may have been made when the process had another code page.
     const auto otherName = inOtherPage(platform, name);

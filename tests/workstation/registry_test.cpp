@@ -113,6 +113,12 @@ TEST_F(RegistryWatch, NewAndModifiedEntriesWarnInTheirOrder) {
     EXPECT_EQ(Tree::fullPath(*form().TreeView1.find(R"(#1 (C:\OLD.exe))")),
               R"(HKEY_LOCAL_MACHINE\Loaded in Run\Old (C:\OLD.exe))")
         << "the tree shows the first of two";
+    set(user, run, "\u0436", "x.exe");
+    pc.codePage.use(SimCodePage::Page::Western);
+    app->globals.regWatch.regNew = true; // Accepts all.
+    refresh();
+    EXPECT_EQ(refresh(), Rows{R"(HKEY_CURRENT_USER|Loaded in \? () New Entry!)"})
+        << "its value is out of reach";
 }
 
 TEST_F(RegistryWatch, WhatIsSelectedCanBeDeleted) {
