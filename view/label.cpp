@@ -140,7 +140,7 @@ private:
     }
 
     void paintLink(Canvas& canvas) const {
-        TextLook look{.color = theme().link, .underlined = true};
+        TextLook look{.color = seenOn(surface().ground, theme().link), .underlined = true};
         if (!control().isUsable()) {
             look.color = surface().disabledText;
         } else if (control().ForeColor() != colors::black && !theme().highContrast) {

@@ -52,7 +52,7 @@ public:
             return;
         }
         const bool selected = (item.itemState & ODS_SELECTED) != 0;
-        const bool elsewhere = selected && !isFocused() && !theme().highContrast;
+        const bool elsewhere = selected && !isFocused();
         const Color ground = elsewhere  ? theme().selectedElsewhere
                              : selected ? theme().selected
                                         : theme().field;

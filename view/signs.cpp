@@ -13,11 +13,9 @@ public:
     using WindowOf::WindowOf;
 
     void paint(Canvas& canvas) override {
-        const Tone tone = control().tone();
-        const Color plain = surface().text;
+        const Color ground = surface().ground;
         canvas.drawing(drawingNamed(control().image()), canvas.area(),
-                       seenOn(surface().ground, tone == Tone::Plain ? plain : theme().tone(tone).sign),
-                       surface().ground);
+                       seenOn(ground, theme().tone(control().tone()).sign), ground);
     }
 };
 

@@ -90,7 +90,7 @@ private:
             return CDRF_NOTIFYITEMDRAW;
         }
         if (drawn.nmcd.dwDrawStage == CDDS_ITEMPREPAINT && (drawn.nmcd.uItemState & CDIS_SELECTED) != 0) {
-            const bool here = isFocused() || theme().highContrast;
+            const bool here = isFocused();
             drawn.clrTextBk = here ? theme().selected : theme().selectedElsewhere;
             drawn.clrText = here ? theme().selectedText : theme().selectedElsewhereText;
         }

@@ -61,7 +61,9 @@ struct SampleScreen : Screen {
 
 class View : public testing::Test {
 protected:
-    View() {
+    explicit View(ThemeKind kind = ThemeKind::Light)
+        : view(kind)
+        , theme(themeFor(kind)) {
         view.attach(screen);
         screen.lit.Visible = false;
         screen.checkList.Enabled = false;
@@ -121,12 +123,12 @@ protected:
         }
     }
 
-    Win32View view{ThemeKind::Light};
+    Win32View view;
     Win32Platform platform{view};
     SampleScreen screen;
     HWND form = nullptr;
     std::string heard;
-    const Theme theme = themeFor(ThemeKind::Light);
+    const Theme theme;
 };
 
 TEST_F(View, TextsOfEveryScriptAnswerAtOnceAndWhole) {
@@ -170,7 +172,16 @@ TEST_F(View, TextsOfEveryScriptAnswerAtOnceAndWhole) {
     EXPECT_EQ(given, wide.substr(0, 4)) << "Cut to the buffer, at the end of a character";
 }
 
-TEST_F(View, ControlsAreDrawnInTheirLastState) {
+struct ThemedView : View, testing::WithParamInterface<ThemeKind> {
+    ThemedView()
+        : View(GetParam()) {}
+};
+
+INSTANTIATE_TEST_SUITE_P(Each, ThemedView,
+                         testing::Values(ThemeKind::Light, ThemeKind::Dark, ThemeKind::HighContrast));
+
+TEST_P(ThemedView, ControlsAreDrawnInTheirLastState) {
+    const Surface captions = theme.captions.value_or(theme.card);
     EXPECT_EQ(ChildWindowFromPoint(windowOf(screen.page), {383, 247}), windowOf(screen.checkList));
     for (const char* row : {"one", "two", "three"}) {
         screen.list.add(row);
@@ -187,7 +198,7 @@ TEST_F(View, ControlsAreDrawnInTheirLastState) {
     expectDrawn({{screen.gauge, 100, theme.track},
                  {screen.button, 4, theme.card.button(Rank::Ordinary).normal},
                  {screen.action, 4, theme.card.button(Rank::Ordinary).normal},
-                 {screen.check, 9, theme.field},
+                 {screen.check, 9, captions.mark.field},
                  {screen.check, 110, theme.card.ground},
                  {screen.chart, 90, theme.bar},
                  {screen.entry, 110, theme.navigationCurrent},
@@ -205,7 +216,7 @@ TEST_F(View, ControlsAreDrawnInTheirLastState) {
     expectDrawn({{screen.gauge, 100, theme.bar},
                  {screen.button, 4, theme.card.button(Rank::Ordinary).hovered},
                  {screen.action, 4, theme.card.button(Rank::Ordinary).pressed},
-                 {screen.check, 10, theme.card.mark.tick},
+                 {screen.check, 10, captions.mark.tick},
                  {screen.second, 4, theme.card.mark.edge},
                  {screen.plain, 15, theme.restart.disabled}});
 }
