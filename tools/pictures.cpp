@@ -3,10 +3,22 @@
 #include "tools/driver/seen_windows.h"
 #include "tools/driver/workplace.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <exception>
 
 namespace e2e {
+
+namespace {
+
+/// No part of the window waits to be painted.
+bool isPainted(HWND window) {
+    std::vector<HWND> parts = visibleChildren(window);
+    parts.push_back(window);
+    return std::ranges::all_of(parts, [](HWND part) { return GetUpdateRect(part, nullptr, FALSE) == FALSE; });
+}
+
+} // namespace
 
 void say(const std::string& line) {
     std::printf("%s\n", line.c_str());
@@ -14,7 +26,13 @@ void say(const std::string& line) {
 }
 
 void Pictures::take(const std::string& name) const {
-    Sleep(300); // the last paint reaches the screen
+    SetCursorPos(0, 0); // Where it rests on a row, a tip comes.
+    int still = 0;
+    comesTrue([&] {
+        still = isPainted(GetForegroundWindow()) ? still + 1 : 0;
+        Sleep(100); // The last paint reaches the screen.
+        return still == 5;
+    });
     const RECT front = placeOf(GetForegroundWindow());
     say("@picture " + name + ".png " + std::to_string(front.right - front.left) + "x" +
         std::to_string(front.bottom - front.top) + "+" + std::to_string(front.left) + "+" +
