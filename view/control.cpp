@@ -46,6 +46,7 @@ void ControlWindow::create(HWND parent, int id, bool beginsGroup) {
     classProcedure_ = reinterpret_cast<WNDPROC>(
         calls.setWindowLongPtr(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure)));
     setTypeSize();
+    followTheme();
     applyItems(Aspect::Items);
     applyValue();
     showToolTip(control_.ToolTip());
@@ -57,6 +58,12 @@ void ControlWindow::arrange() {
     SetWindowPos(window_, nullptr, place.left, place.top, widthOf(place), heightOf(place),
                  SWP_NOZORDER | SWP_NOACTIVATE);
     setTypeSize();
+}
+
+void ControlWindow::followTheme() {
+    if (kind_.drawnByClass) {
+        darkenScrollBars(window_, theme());
+    }
 }
 
 void ControlWindow::setTypeSize() {

@@ -48,6 +48,8 @@ public:
     /// Moves the window to its place and sets its type size, when the scale has changed.
     void arrange();
 
+    /// The theme is another one.
+    void followTheme();
     /// The control has changed. What other programs and the keyboard can see is done at once.
     void changed(Aspect aspect);
     /// Shows the gathered changes.

@@ -34,7 +34,8 @@ public:
 
     void paintEdge(HDC dc, const RECT& whole, HBRUSH edge) override {
         const RECT line = lineIn(whole);
-        const RECT withoutEdge = inset(whole, scale()(1), scale()(1));
+        const int thickness = scale()(isFocused() ? 2 : 1);
+        const RECT withoutEdge = inset(whole, thickness, thickness);
         ExcludeClipRect(dc, line.left, line.top, line.right, line.bottom);
         FillRect(dc, &whole, edge);
         FillRect(dc, &withoutEdge, tools().brushes.get(ground()));
@@ -50,7 +51,7 @@ public:
     }
 
     void arranged() override {
-        handleAsClass(EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, MAKELPARAM(scale()(5), scale()(5)));
+        handleAsClass(EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, MAKELPARAM(scale()(4), scale()(4)));
         // Has the line centred anew.
         SetWindowPos(window(), nullptr, 0, 0, 0, 0,
                      SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
@@ -69,7 +70,7 @@ private:
         TEXTMETRICA metrics;
         GetTextMetricsA(textDc(), &metrics);
         const int spare = std::max((heightOf(area) - static_cast<int>(metrics.tmHeight)) / 2, 1);
-        return inset(area, scale()(1), std::min(spare, heightOf(area) / 2));
+        return inset(area, scale()(2), std::min(spare, heightOf(area) / 2));
     }
     bool setting_ = false; ///< The text comes from the control, not from the keyboard.
 };

@@ -271,6 +271,9 @@ void FormWindow::scaleTo(unsigned dotsPerInch, const RECT& place) {
 
 void FormWindow::themeChanged() {
     darkenTitleBar(window(), tools_.theme);
+    for (const auto& [control, window] : controls_) {
+        window->followTheme();
+    }
     RedrawWindow(window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
 }
 

@@ -244,9 +244,14 @@ public:
         return result;
     }
 
-    void paintRowStart(Canvas& canvas, int row, Color) override {
+    void paintRowStart(Canvas& canvas, int row, Color ground) override {
+        MarkColors looks = surface().mark;
+        if (contrast(looks.ticked, ground) < 3) { // On a selected row.
+            const Color seen = seenOn(ground, looks.tick);
+            looks = {ground, seen, seen, ground};
+        }
         paintMark(canvas, canvas.scale()(6),
-                  {.ticked = control().ticked(row), .usable = control().isUsable()}, surface().mark);
+                  {.ticked = control().ticked(row), .usable = control().isUsable()}, looks);
     }
     int rowStartWidth() const override { return scale()(Mark::size + 6); }
 };
@@ -281,7 +286,7 @@ public:
         const RECT area = canvas.area();
         const bool usable = control().isUsable();
         canvas.roundedBox(area, scaled(4), usable ? theme().field : surface().ground,
-                          isFocused() ? theme().focus : theme().border, scaled(1));
+                          isFocused() ? theme().focus : theme().border, scaled(isFocused() ? 2 : 1));
         const Color color = usable ? theme().fieldText : surface().disabledText;
         const RECT text{scaled(7), 1, area.right - scaled(26), area.bottom - 1};
         canvas.text(control().text(), text, {.color = color});
