@@ -154,6 +154,14 @@ void Canvas::roundedBox(const RECT& rect, int radius, Color color, Color edge, i
     roundedBox(inset(rect, thickness, thickness), std::max(radius - thickness, 0), color);
 }
 
+void Canvas::roundedEdge(const RECT& rect, int radius, int thickness, Color color) {
+    const auto corner = static_cast<float>(radius);
+    shape(rect, color, [&](Spot spot) {
+        const float away = boxDistance(rect, corner, spot);
+        return std::max(away, -away - static_cast<float>(thickness));
+    });
+}
+
 void Canvas::stroke(std::initializer_list<Spot> spots, float thickness, Color color) {
     shape(area(), color,
           [&](Spot spot) { return polylineDistance(spots.begin(), spots.end(), spot) - thickness / 2; });

@@ -60,6 +60,8 @@ public:
     void roundedBox(const RECT& rect, int radius, Color color);
     /// A box with an edge of `thickness` pixels in another colour.
     void roundedBox(const RECT& rect, int radius, Color color, Color edge, int thickness);
+    /// The edge of such a box alone.
+    void roundedEdge(const RECT& rect, int radius, int thickness, Color color);
     /// Straight lines from spot to spot, with round ends.
     void stroke(std::initializer_list<Spot> spots, float thickness, Color color);
     /// Fills the square of the rectangle's width with the drawing; `ground` shows where it is cut out.

@@ -256,17 +256,9 @@ void ControlWindow::paintMark(Canvas& canvas, int left, const Mark& mark, const 
 }
 
 void ControlWindow::paintFocus(Canvas& canvas, const RECT& around, Color ground) const {
-    if (!isFocused()) {
-        return;
+    if (isFocused()) {
+        canvas.roundedEdge(around, canvas.scale()(3), canvas.scale()(2), seenOn(ground, theme().focus));
     }
-    const int thickness = canvas.scale()(2);
-    const float half = static_cast<float>(thickness) / 2;
-    const float left = static_cast<float>(around.left) + half;
-    const float top = static_cast<float>(around.top) + half;
-    const float right = static_cast<float>(around.right) - half;
-    const float bottom = static_cast<float>(around.bottom) - half;
-    canvas.stroke({{left, top}, {right, top}, {right, bottom}, {left, bottom}, {left, top}}, 2 * half,
-                  seenOn(ground, theme().focus));
 }
 
 char ControlWindow::shownKey() const {
