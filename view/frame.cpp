@@ -20,8 +20,9 @@ public:
             canvas.fill(canvas.area(), theme().navigation.ground);
         } else if (control().Current()) {
             canvas.roundedBox(canvas.area(), canvas.scale()(4), theme().current.ground);
-        } else if (control().place().height == 1) {
+        } else if (control().place().height == 1) { // It sets off what is above from what is below.
             canvas.fill(canvas.area(), theme().line);
+            return;
         }
         if (control().look() != Frame::Look::Group) {
             return;

@@ -124,7 +124,9 @@ private:
         const Scale& scaled = canvas.scale();
         const Surface& under = theme().captions ? *theme().captions : surface();
         const Face& face = under.button(control().rank() == Rank::Primary ? Rank::Primary : Rank::Ordinary);
-        const Color ground = theme().highContrast || isHovered() ? face.hovered : face.normal;
+        // What the caption turns while it is held is light, but never white.
+        const Color held = under.button(Rank::Ordinary).normal;
+        const Color ground = isHeld() ? held : isHovered() ? face.hovered : face.normal;
         canvas.roundedBox(canvas.area(), scaled(4), ground, face.edge, scaled(1));
         TextLook look{.color = textOn(face, control().ForeColor()),
                       .align = DT_CENTER,
