@@ -226,7 +226,8 @@ void LogBrowser::backToTree() {
 }
 
 bool LogBrowser::confirms(const std::string& question) const {
-    return platform.dialogs.message({.text = question, .buttons = Buttons::YesNo}) == Answer::Yes;
+    return platform.dialogs.message({.text = question, .buttons = Buttons::YesNo, .destroys = true}) ==
+           Answer::Yes;
 }
 
 std::string LogBrowser::fileOf(const Tree::Node& node) const {

@@ -14,7 +14,8 @@ struct MessageBox {
     std::string text{};
     std::string title{};
     Buttons buttons = Buttons::Ok;
-    BoxIcon icon = BoxIcon::None;
+    BoxIcon icon = BoxIcon::None; ///< None: that of its kind, a question or a notice.
+    bool destroys = false;        ///< What is agreed to cannot be taken back: Enter says no.
 };
 
 /// The record of `GetOpenFileNameA`. `file` is the buffer, zeros included, and comes back filled.

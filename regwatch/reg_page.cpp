@@ -136,7 +136,8 @@ void RegPage::deleteValue(const std::string& root, const std::string& location) 
     const Answer answer = platform.dialogs.message(
         {.text = "WARNING!\r\nYou are about to Delete the key: " + name + "\r\nFrom: " + root + "\\" + path +
                  "\r\nDoing this may have unpredictable results!\r\n\r\nContinue?",
-         .buttons = Buttons::YesNo});
+         .buttons = Buttons::YesNo,
+         .destroys = true});
     if (answer == Answer::No) {
         return;
     }

@@ -28,8 +28,9 @@ UINT buttonFlags(Buttons buttons) {
     return MB_OK;
 }
 
-UINT iconFlags(BoxIcon icon) {
-    switch (icon) {
+/// A box without an icon of its own gets that of its kind.
+UINT iconFlags(const MessageBox& box) {
+    switch (box.icon) {
     case BoxIcon::Warning:
         return MB_ICONWARNING;
     case BoxIcon::Stop:
@@ -37,7 +38,7 @@ UINT iconFlags(BoxIcon icon) {
     case BoxIcon::None:
         break;
     }
-    return 0;
+    return box.buttons == Buttons::Ok ? MB_ICONINFORMATION : MB_ICONQUESTION;
 }
 
 Answer answerFrom(int button) {
@@ -95,7 +96,8 @@ Answer Win32Dialogs::message(const MessageBox& box) {
     const Owner owner(windows_);
     const UINT modality =
         (owner.window() ? 0 : MB_TASKMODAL) | (owner.isInBackground() ? MB_SETFOREGROUND : 0);
-    const UINT flags = buttonFlags(box.buttons) | iconFlags(box.icon) | modality;
+    const UINT flags =
+        buttonFlags(box.buttons) | iconFlags(box) | modality | (box.destroys ? MB_DEFBUTTON2 : 0);
     const std::string title = box.title.empty() ? applicationTitle : box.title;
     return answerFrom(hasWideCalls() ? MessageBoxW(owner.window(), wideText(box.text).c_str(),
                                                    wideText(title).c_str(), flags)
