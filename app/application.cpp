@@ -40,6 +40,9 @@ void Application::bindHooks() {
     bindPages();
     bindScanners();
     bindShutDown();
+    bindKeys();
+    bindFiles();
+    bindPlaces();
 }
 
 void Application::bindScan() {

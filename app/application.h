@@ -36,6 +36,7 @@
 #include "ui/mform1.h"
 #include "ui/mform1_screen.h"
 #include "ui/own_shortcuts.h"
+#include "ui/places.h"
 #include "ui/settings_pages.h"
 #include "ui/speed_comparison.h"
 #include "ui/wizard.h"
@@ -101,6 +102,7 @@ public:
     AdvancedPage advancedPage{mForm1, services, checksum};
     SpeedComparison speedComparison{mForm1, services, checksum};
     MForm1 mainForm{mForm1, globals, platform};
+    Places places{services};
     ICust customFolders{iCust, services, checksum};
     StartUp startUp{*this};
 
@@ -110,6 +112,9 @@ private:
     void bindPages();
     void bindScanners();
     void bindShutDown();
+    void bindKeys();
+    void bindFiles();
+    void bindPlaces();
     void tellFailures();
 };
 

@@ -19,8 +19,8 @@ SAvir::SAvir(SAvirScreen& screen, const Services& services)
 
 void SAvir::bind() {
     screen_.onLoad = [this] { fillBoth(settings, screen_.first, screen_.second); };
-    screen_.cChoose.onClick = [this] { chooseFirst(); };
-    screen_.cButton10.onClick = [this] { chooseSecond(); };
+    screen_.cChoose.onClick = [this] { takeFirst(choose()); };
+    screen_.cButton10.onClick = [this] { takeSecond(choose()); };
     screen_.chlpFind.onClick = [this] { hooks.showHelp(false); };
     screen_.cButton1.onClick = [this] { hooks.showHelp(true); };
     screen_.cButton2.onClick = [this] { screen_.hide(); };
@@ -33,8 +33,7 @@ std::string SAvir::choose() const {
     return file.substr(0, file.find('\0'));
 }
 
-void SAvir::chooseFirst() {
-    const std::string file = choose();
+void SAvir::takeFirst(const std::string& file) {
     if (file.empty()) {
         return;
     }
@@ -43,8 +42,7 @@ void SAvir::chooseFirst() {
     platform.dialogs.message({.text = "Don't forget to Save!"});
 }
 
-void SAvir::chooseSecond() {
-    const std::string file = choose();
+void SAvir::takeSecond(const std::string& file) {
     if (file.empty()) {
         return;
     }

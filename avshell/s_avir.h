@@ -22,11 +22,13 @@ public:
 
     SAvirHooks hooks;
 
+    /// The user has chosen a file; an empty text is none.
+    void takeFirst(const std::string& file);
+    void takeSecond(const std::string& file);
+
 private:
     void bind();
     std::string choose() const;
-    void chooseFirst();
-    void chooseSecond();
     void save();
     const char* argumentsForFirst();
 

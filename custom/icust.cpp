@@ -11,6 +11,7 @@
 #include "platform/platform.h"
 
 #include <array>
+#include <utility>
 #include <vector>
 
 namespace tarvelon {
@@ -178,9 +179,19 @@ void ICust::storeTypes(const Use& use) {
 void ICust::addFolder() {
     custDirty = 1;
     std::string folder = funcMod.browseFolder("Please Choose a Folder to Add");
-    if (folder.empty()) {
-        return;
+    if (!folder.empty()) {
+        add(std::move(folder));
     }
+}
+
+void ICust::addDropped(const std::string& path) {
+    if (!platform.files.length(path)) {
+        custDirty = 1;
+        add(path);
+    }
+}
+
+void ICust::add(std::string folder) {
     const TextRules& texts = globals.texts;
     folder = texts.withBackslash(std::move(folder));
     if (folder.size() > SettingsFile::longestValue) {
@@ -224,7 +235,8 @@ void ICust::removeFolder() {
              "Are you sure you want to remove this folder? Doing so will lose all Integrity Checker data for "
              "this folder!",
          .title = "Caution!",
-         .buttons = Buttons::OkCancel});
+         .buttons = Buttons::OkCancel,
+         .destroys = true});
     if (answer != Answer::Ok) {
         return;
     }
@@ -275,6 +287,11 @@ bool ICust::queryClose() {
     }
     passOver(loadf);
     return true;
+}
+
+std::string ICust::selectedFolder() const {
+    const int row = screen_.List1.listIndex();
+    return row < 0 || isEmptyRow(row) ? std::string() : folderOf(row);
 }
 
 bool ICust::isEmptyRow(int row) const {

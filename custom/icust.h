@@ -30,6 +30,12 @@ public:
     /// Fills the lists from the settings.
     void startup();
 
+    /// Adds a folder as if it had been chosen. A file is passed over.
+    void addDropped(const std::string& path);
+
+    /// That of the selected row, or empty.
+    std::string selectedFolder() const;
+
 private:
     /// One of the two uses of a folder: its box, its types, and the rows where they are kept.
     struct Use {
@@ -48,6 +54,7 @@ private:
     void boxClicked(const Use& use);
     void storeTypes(const Use& use);
     void addFolder();
+    void add(std::string folder);
     void removeFolder();
     void save();
     bool queryClose();

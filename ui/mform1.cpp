@@ -27,7 +27,7 @@ void MForm1::bind() {
     screen_.cButton9.onClick = [this] { screen_.close(); };
     screen_.cAbout.onClick = [this] { showAbout(); };
     screen_.cButton7.onClick = screen_.cAbout.onClick;
-    screen_.cButton4.onClick = [this] { showHelp(); };
+    screen_.cButton4.onClick = [this] { showHelp("index.html"); };
     screen_.cButton6.onClick = screen_.cButton4.onClick;
     screen_.chlp.onClick = screen_.cButton4.onClick;
     screen_.cButton5.onClick = [this] { siteClick(); };
@@ -117,8 +117,8 @@ void MForm1::showAbout() {
     open(nullptr, screen_.Frame2);
 }
 
-void MForm1::showHelp() {
-    if (platform_.shell.open("index.html", globals_.app.appPath + "Help\\") != Shell::fileNotFound) {
+void MForm1::showHelp(const char* page) {
+    if (platform_.shell.open(page, globals_.app.appPath + "Help\\") != Shell::fileNotFound) {
         return;
     }
     const Answer answer =

@@ -32,6 +32,9 @@ public:
     /// Hides all pages.
     void norms2();
 
+    /// A page of the help, by its file's name.
+    void showHelp(const char* page);
+
 private:
     void bind();
     void bindPages();
@@ -40,7 +43,6 @@ private:
     void backToOptions(Frame& page);
 
     void showAbout();
-    void showHelp();
     void siteClick();
     void visitMaker(const char* address);
     void writeToSupport();

@@ -236,7 +236,11 @@ void Wizard::cancel() {
 
 void Wizard::locate() {
     const std::string file = funcMod.openFileBox(scannerBoxTitle, scannerBoxFilter());
-    screen_.vpath.Caption = file.substr(0, file.find('\0'));
+    take(file.substr(0, file.find('\0')));
+}
+
+void Wizard::take(const std::string& file) {
+    screen_.vpath.Caption = file;
     const char* arguments = defaultArguments(scannerFamily(globals.texts, screen_.vpath.Caption()));
     screen_.varg.Caption = arguments;
     scanners_.Text6.Caption = arguments;

@@ -32,6 +32,9 @@ public:
     /// Opens the wizard on its first page, with the settings as they are.
     void LoadUp();
 
+    /// The user has chosen a scanner's file, or none: empty.
+    void take(const std::string& file);
+
     /// Hides the controls of all pages and shows the way on and back.
     void norms();
 

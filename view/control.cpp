@@ -1,6 +1,8 @@
 #include "view/control.h"
 
+#include "view/accessible.h"
 #include "view/form.h"
+#include "view/row_menu.h"
 
 #include <algorithm>
 
@@ -40,8 +42,9 @@ void ControlWindow::create(HWND parent, int id, bool beginsGroup) {
                         (beginsGroup ? WS_GROUP : 0);
     const WindowCalls& calls = windowCalls();
     window_ =
-        makeWindow(kind_.extendedStyle, kind_.windowClass, control_.captionOrName(),
-                   WS_CHILD | WS_CLIPSIBLINGS | kind_.style | state, scale()(control_.place()), parent, id);
+        makeWindow(kind_.extendedStyle, kind_.windowClass,
+                   kind_.textIsCaption ? control_.captionOrName() : control_.Caption(),
+                   WS_CHILD | WS_CLIPSIBLINGS | kind_.style | state, form_.placeOf(control_), parent, id);
     calls.setWindowLongPtr(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
     classProcedure_ = reinterpret_cast<WNDPROC>(
         calls.setWindowLongPtr(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure)));
@@ -54,7 +57,7 @@ void ControlWindow::create(HWND parent, int id, bool beginsGroup) {
 }
 
 void ControlWindow::arrange() {
-    const RECT place = scale()(control_.place());
+    const RECT place = form_.placeOf(control_);
     SetWindowPos(window_, nullptr, place.left, place.top, widthOf(place), heightOf(place),
                  SWP_NOZORDER | SWP_NOACTIVATE);
     setTypeSize();
@@ -118,6 +121,7 @@ void ControlWindow::refresh() {
         windowCalls().defWindowProc(window_, WM_SETTEXT, 0, WindowText(control_.captionOrName()).parameter());
     }
     RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+    NotifyWinEvent(EVENT_OBJECT_STATECHANGE, window_, OBJID_CLIENT, CHILDID_SELF);
 }
 
 void ControlWindow::setStyle(LONG style, bool wanted) const {
@@ -148,6 +152,12 @@ std::optional<LRESULT> ControlWindow::reflect(UINT message, WPARAM wide, LPARAM 
         }
         break;
     }
+    case WM_CONTEXTMENU: // Trees ask their parent for it.
+        if (ControlWindow* child = from(reinterpret_cast<HWND>(wide));
+            child && showRowMenu(child->window(), child->control(), low)) {
+            return 0;
+        }
+        break;
     case WM_CTLCOLOREDIT:
     case WM_CTLCOLORSTATIC:
     case WM_CTLCOLORLISTBOX: {
@@ -178,6 +188,11 @@ LRESULT ControlWindow::handle(UINT message, WPARAM wide, LPARAM low) {
             return *answer;
         }
     }
+    if (message == WM_GETOBJECT && static_cast<LONG>(low) == OBJID_CLIENT) {
+        if (const LRESULT answer = answerReader(*this, wide)) {
+            return answer;
+        }
+    }
     if (message == WM_PAINT && !kind_.drawnByClass) {
         paintNow();
         return 0;
@@ -187,6 +202,9 @@ LRESULT ControlWindow::handle(UINT message, WPARAM wide, LPARAM low) {
     }
     if (message == WM_MOUSEMOVE && control_.onMouseMove && control_.kind() != ControlKind::FlatButton) {
         control_.screen().dispatch(control_.onMouseMove);
+    }
+    if (message == WM_CONTEXTMENU && showRowMenu(window_, control_, low)) {
+        return 0;
     }
     const LRESULT result = handleAsClass(message, wide, low);
     if (message == WM_NCPAINT && kind_.drawnByClass) {

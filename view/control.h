@@ -72,6 +72,9 @@ public:
 
     static ControlWindow* from(HWND window);
 
+    /// What an access key does: presses it, or gives it the keyboard.
+    virtual void use() { SetFocus(window_); }
+
     bool isFocused() const { return GetFocus() == window_; }
     bool takesKeys() const { return (kind_.style & WS_TABSTOP) != 0; }
     /// A list or tree without rows.

@@ -12,7 +12,6 @@ namespace tarvelon {
 
 namespace {
 
-constexpr DWORD extendedStyle = WS_EX_CONTROLPARENT;
 constexpr UINT_PTR refreshTimer = 1;
 constexpr UINT_PTR firstControlTimer = 16;
 constexpr int firstControlId = 100; ///< Above the numbers that Enter and Esc stand for.
@@ -20,7 +19,27 @@ constexpr DWORD refreshEvery = 33;  ///< Milliseconds.
 
 DWORD styleOf(const Screen& screen) {
     return WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN |
-           (screen.canMinimize ? WS_MINIMIZEBOX : 0);
+           (screen.canMinimize ? WS_MINIMIZEBOX : 0) | (screen.canGrow ? WS_THICKFRAME : 0);
+}
+
+/// What can be minimised has a button of its own on the task bar, also while it belongs to another form.
+DWORD extendedStyleOf(const Screen& screen) {
+    return WS_EX_CONTROLPARENT | (screen.canMinimize ? WS_EX_APPWINDOW : 0);
+}
+
+/// The part of the desktop, without the task bar, that most of the rectangle is on or that is nearest to it.
+RECT workAreaAt(const RECT& rect) {
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof monitor;
+    if (!GetMonitorInfoA(MonitorFromRect(&rect, MONITOR_DEFAULTTONEAREST), &monitor)) {
+        SystemParametersInfoA(SPI_GETWORKAREA, 0, &monitor.rcWork, 0);
+    }
+    return monitor.rcWork;
+}
+
+/// Where something of that length begins so that it lies within, or at least begins there.
+LONG moveInside(LONG start, LONG length, LONG from, LONG to) {
+    return std::max(std::min(start, to - length), from);
 }
 
 } // namespace
@@ -44,24 +63,103 @@ FormWindow::~FormWindow() {
 
 void FormWindow::createWindow() {
     const WindowCalls& calls = windowCalls();
-    window_.reset(
-        makeWindow(extendedStyle, formWindowClass, screen_.Caption(), styleOf(screen_), RECT{}, nullptr));
+    window_.reset(makeWindow(extendedStyleOf(screen_), formWindowClass, screen_.Caption(), styleOf(screen_),
+                             RECT{}, nullptr));
     calls.setWindowLongPtr(window(), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
     calls.setWindowLongPtr(window(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure));
     darkenTitleBar(window(), tools_.theme);
     scale_ = Scale(tools_.scaling.dotsPerInch(window()));
-    const SIZE size = outerSize();
+    const SIZE size = outerSize(screen_.width(), screen_.height());
     RECT desktop;
     SystemParametersInfoA(SPI_GETWORKAREA, 0, &desktop, 0);
     const int x = desktop.left + std::max((widthOf(desktop) - static_cast<int>(size.cx)) / 2, 0);
     const int y = desktop.top + std::max((heightOf(desktop) - static_cast<int>(size.cy)) / 2, 0);
     SetWindowPos(window(), nullptr, x, y, size.cx, size.cy, SWP_NOZORDER | SWP_NOACTIVATE);
+    const auto takesFiles = [](const Control* control) { return static_cast<bool>(control->onDrop); };
+    DragAcceptFiles(window(), std::ranges::any_of(screen_.controls(), takesFiles));
+    BOOL always = TRUE; // Systems that cannot hide the marks of keys show them.
+    SystemParametersInfoA(SPI_GETKEYBOARDCUES, 0, &always, 0);
+    if (!always) {
+        calls.sendMessage(window(), WM_CHANGEUISTATE, MAKEWPARAM(UIS_SET, UISF_HIDEACCEL), 0);
+    }
 }
 
-SIZE FormWindow::outerSize() const {
-    RECT frame = scale_(at(0, 0, screen_.width(), screen_.height()));
-    tools_.scaling.addFrame(frame, styleOf(screen_), extendedStyle, scale_.dotsPerInch());
+bool FormWindow::showsAccessKeys() const {
+    return (windowCalls().sendMessage(window(), WM_QUERYUISTATE, 0, 0) & UISF_HIDEACCEL) == 0;
+}
+
+/// With its frame, of an inside at 96 dots an inch.
+SIZE FormWindow::outerSize(int width, int height) const {
+    RECT frame = scale_(at(0, 0, width, height));
+    tools_.scaling.addFrame(frame, styleOf(screen_), extendedStyleOf(screen_), scale_.dotsPerInch());
     return {widthOf(frame), heightOf(frame)};
+}
+
+/// Where it was left, as far as there is still a screen.
+void FormWindow::placeFirst() {
+    if (std::exchange(isPlaced_, true) || !screen_.placeBefore) {
+        return;
+    }
+    const std::optional<ScreenPlace> before = screen_.placeBefore();
+    if (!before) {
+        return;
+    }
+    const bool grows = screen_.canGrow;
+    const SIZE size = outerSize(grows ? std::max(before->width, screen_.width()) : screen_.width(),
+                                grows ? std::max(before->height, screen_.height()) : screen_.height());
+    const RECT area = workAreaAt({before->x, before->y, before->x + size.cx, before->y + size.cy});
+    SetWindowPos(window(), nullptr, moveInside(before->x, size.cx, area.left, area.right),
+                 moveInside(before->y, size.cy, area.top, area.bottom), size.cx, size.cy,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+/// The user has let go of the window's frame.
+void FormWindow::placed() {
+    RECT now;
+    GetWindowRect(window(), &now);
+    if (EqualRect(&now, &placeBefore_) || IsIconic(window()) || !screen_.onPlaced) {
+        return;
+    }
+    RECT inside;
+    GetClientRect(window(), &inside);
+    const int dots = static_cast<int>(scale_.dotsPerInch());
+    const ScreenPlace place{now.left, now.top, MulDiv(inside.right, 96, dots),
+                            MulDiv(inside.bottom, 96, dots)};
+    screen_.dispatch([&] { screen_.onPlaced(place); });
+}
+
+void FormWindow::sized(SIZE inside) {
+    const RECT design = scale_(at(0, 0, screen_.width(), screen_.height()));
+    const SIZE extra{std::max<LONG>(inside.cx - design.right, 0),
+                     std::max<LONG>(inside.cy - design.bottom, 0)};
+    if (!screen_.canGrow || (extra.cx == extra_.cx && extra.cy == extra_.cy)) {
+        return;
+    }
+    extra_ = extra;
+    for (const auto& [control, window] : controls_) {
+        window->arrange();
+    }
+    themeChanged();
+}
+
+/// By how much the frame is larger than its place; null for the form.
+SIZE FormWindow::extraIn(const Frame* frame) const {
+    if (!frame) {
+        return extra_;
+    }
+    const SIZE around = extraIn(frame->frame());
+    return {frame->onGrowth.widens ? around.cx : 0, frame->onGrowth.heightens ? around.cy : 0};
+}
+
+RECT FormWindow::placeOf(const Control& control) const {
+    const SIZE extra = extraIn(control.frame());
+    const auto& [movesRight, movesDown, widens, heightens] = control.onGrowth;
+    RECT place = scale_(control.place());
+    place.left += movesRight ? extra.cx : 0;
+    place.top += movesDown ? extra.cy : 0;
+    place.right += movesRight || widens ? extra.cx : 0;
+    place.bottom += movesDown || heightens ? extra.cy : 0;
+    return place;
 }
 
 /// Makes the windows of the controls in a frame, or of those in none, unless they are there.
@@ -148,9 +246,11 @@ void FormWindow::changed(Control& control, Aspect aspect) {
 
 void FormWindow::applyVisible() {
     if (!screen_.Visible()) {
-        ShowWindow(window(), SW_HIDE);
+        hide();
         return;
     }
+    placeFirst();
+    cameFrom_ = GetActiveWindow();
     if (blocked_ || !screen_.Minimized()) {
         createControls(nullptr);
     }
@@ -162,6 +262,20 @@ void FormWindow::applyVisible() {
     } else {
         bringToFront();
     }
+}
+
+/// The keyboard goes back to where it came from.
+void FormWindow::hide() {
+    const HWND before = std::exchange(cameFrom_, nullptr);
+    if (GetActiveWindow() == window() && before != window() && IsWindowVisible(before) &&
+        IsWindowEnabled(before) && !IsIconic(before)) {
+        SetActiveWindow(before);
+    }
+    ShowWindow(window(), SW_HIDE);
+}
+
+void FormWindow::belongTo(HWND owner) {
+    windowCalls().setWindowLongPtr(window(), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(owner));
 }
 
 void FormWindow::bringToFront() {
@@ -260,8 +374,11 @@ void FormWindow::refresh() {
 }
 
 void FormWindow::scaleTo(unsigned dotsPerInch, const RECT& place) {
+    const int before = static_cast<int>(scale_.dotsPerInch());
+    const auto scaled = [&](LONG pixels) { return MulDiv(pixels, 96, before); };
+    const SIZE extra{scaled(extra_.cx), scaled(extra_.cy)};
     scale_ = Scale(dotsPerInch);
-    const SIZE size = outerSize();
+    const SIZE size = outerSize(screen_.width() + extra.cx, screen_.height() + extra.cy);
     SetWindowPos(window(), nullptr, place.left, place.top, size.cx, size.cy, SWP_NOZORDER | SWP_NOACTIVATE);
     for (const auto& [control, window] : controls_) {
         window->arrange();

@@ -2,6 +2,9 @@
 
 #include "view/control.h"
 
+#include <shellapi.h>
+
+#include <functional>
 #include <memory>
 #include <unordered_map>
 #include <unordered_set>
@@ -38,6 +41,8 @@ public:
     void followFocus(const ControlWindow& window);
     /// A list with the keyboard has lost its rows: unless it has others by then, the next control gets it.
     void leaveIfEmpty(const ControlWindow& list) { emptied_ = &list; }
+    /// Stays in front of the other form's window, and goes with it when that is minimised; null for none.
+    void belongTo(HWND owner);
     /// A box or a system dialog is open, or no longer: the form cannot be used meanwhile.
     void setBlocked(bool blocked);
     void themeChanged();
@@ -46,8 +51,12 @@ public:
     Screen& screen() const { return screen_; }
     ViewTools& tools() const { return tools_; }
     const Scale& scale() const { return scale_; }
+    /// In its parent, in pixels: some controls follow the edges of a window that has been made larger.
+    RECT placeOf(const Control& control) const;
     /// A frame with navigation buttons in it is the navigation column.
     bool isNavigation(const Frame& frame) const;
+    /// The letters that Alt goes with are underlined.
+    bool showsAccessKeys() const;
     ControlWindow* windowOf(const Control& control) const;
 
 private:
@@ -65,17 +74,30 @@ private:
     bool canUseKeys(HWND window) const;
     void applyTimer(const Control& timer);
     void scaleTo(unsigned dotsPerInch, const RECT& place);
-    SIZE outerSize() const;
+    SIZE outerSize(int width, int height) const;
+    void placeFirst();
+    void placed();
+    void sized(SIZE inside);
+    SIZE extraIn(const Frame* frame) const;
+    void hide();
     void timerFired(UINT_PTR id);
     void activated(bool active);
     void giveFocus();
     void moveFocus(WPARAM wide, LPARAM low);
+    bool isOwnKey(const MSG& message);
+    void dropped(HDROP drop);
+    const Control* dropTargetAt(POINT inside) const;
+    bool pressFirst(const std::function<bool(const Control&)>& isWanted);
 
     Screen& screen_;
     ViewTools& tools_;
     Scale scale_{96};
     HWND focusKept_ = nullptr; ///< Had the keyboard when the form was last left.
-    bool focusLost_ = false;   ///< What had the keyboard can have it no longer.
+    HWND cameFrom_ = nullptr;  ///< The form that had the keyboard when this one came to light.
+    SIZE extra_{};             ///< Pixels by which the inside is larger than the screen.
+    RECT placeBefore_{};       ///< Of the window, when the user began to move or size it.
+    bool isPlaced_ = false;
+    bool focusLost_ = false; ///< What had the keyboard can have it no longer.
     bool blocked_ = false;
     const ControlWindow* emptied_ = nullptr;
     const Control* pageShown_ = nullptr; ///< The frame that came to light last.

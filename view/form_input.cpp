@@ -1,6 +1,10 @@
 #include "view/form.h"
 
 #include "platform/win32/foremost.h"
+#include "platform/win32/shell_items.h"
+#include "view/row_menu.h"
+
+#include <cctype>
 
 // What reaches a form from outside: messages, keys, the focus.
 
@@ -9,6 +13,17 @@ namespace tarvelon {
 namespace {
 
 constexpr UINT dotsPerInchChanged = 0x02E0; ///< WM_DPICHANGED, of newer systems.
+
+bool isPrimary(const Control& control) {
+    return (control.kind() == ControlKind::FlatButton &&
+            static_cast<const cButton&>(control).rank() == Rank::Primary) ||
+           (control.kind() == ControlKind::Label &&
+            static_cast<const Label&>(control).rank() == Rank::Primary);
+}
+
+bool isHeld(int key) {
+    return GetKeyState(key) < 0;
+}
 
 } // namespace
 
@@ -33,7 +48,9 @@ LRESULT FormWindow::handle(UINT message, WPARAM wide, LPARAM low) {
         }
         return 0;
     case WM_COMMAND:
-        if (LOWORD(wide) == IDCANCEL && !screen_.canMinimize) {
+        if (LOWORD(wide) == IDOK) {
+            pressFirst(isPrimary);
+        } else if (LOWORD(wide) == IDCANCEL && !pressFirst(&Control::isCancel) && !screen_.canMinimize) {
             screen_.close();
         }
         return 0;
@@ -49,6 +66,28 @@ LRESULT FormWindow::handle(UINT message, WPARAM wide, LPARAM low) {
             createControls(nullptr);
             focusLost_ = true; // It came to the front with nothing in it.
         }
+        if (wide != SIZE_MINIMIZED) {
+            sized({LOWORD(low), HIWORD(low)});
+        }
+        return 0;
+    case WM_GETMINMAXINFO:
+        if (screen_.canGrow) {
+            const SIZE least = outerSize(screen_.width(), screen_.height());
+            reinterpret_cast<MINMAXINFO*>(low)->ptMinTrackSize = {least.cx, least.cy};
+        }
+        return 0;
+    case WM_DROPFILES:
+        dropped(reinterpret_cast<HDROP>(wide));
+        return 0;
+    case WM_ENTERSIZEMOVE:
+        GetWindowRect(window(), &placeBefore_);
+        return 0;
+    case WM_EXITSIZEMOVE:
+        placed();
+        return 0;
+    case WM_UPDATEUISTATE:
+        windowCalls().defWindowProc(window(), message, wide, low);
+        themeChanged(); // The letters of access keys show, or no longer.
         return 0;
     case WM_ACTIVATE:
         windowCalls().defWindowProc(window(), message, wide, low);
@@ -87,7 +126,7 @@ bool FormWindow::takes(MSG& message) {
         screen_.dispatch([&] { screen_.onKeyUp(key); });
     }
     const bool isKey = message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST;
-    if (isKey && !canUseKeys(message.hwnd)) {
+    if (isKey && (!canUseKeys(message.hwnd) || isOwnKey(message))) {
         return true;
     }
     const bool isArrow = key >= VK_LEFT && key <= VK_DOWN;
@@ -95,6 +134,81 @@ bool FormWindow::takes(MSG& message) {
         return true; // No control has the keyboard: there is no group to go round in.
     }
     return windowCalls().isDialogMessage(window(), &message) != FALSE;
+}
+
+/// Keys that mean the same wherever the keyboard is on the form.
+bool FormWindow::isOwnKey(const MSG& message) {
+    const int key = static_cast<int>(message.wParam);
+    if (message.message == WM_SYSCHAR) {
+        const auto letter = static_cast<char>(std::toupper(key));
+        return pressFirst([letter](const Control& control) { return control.accessKey == letter; });
+    }
+    ControlWindow* focused = ControlWindow::from(message.hwnd);
+    if (message.message == WM_SYSKEYDOWN && key == VK_F10 && isHeld(VK_SHIFT)) {
+        return focused && showRowMenu(focused->window(), focused->control(), -1);
+    }
+    if (message.message != WM_KEYDOWN) {
+        return false;
+    }
+    constexpr LPARAM wasDownBefore = 1 << 30;
+    if ((message.lParam & wasDownBefore) != 0) {
+        // Held a little long, these are not meant for what comes to light by them.
+        return key == VK_RETURN || key == VK_ESCAPE || (key >= VK_F1 && key <= VK_F12);
+    }
+    if (key == VK_F1) {
+        screen_.dispatch(screen_.onHelp);
+        return true;
+    }
+    if (key == 'C' && isHeld(VK_CONTROL) && !isHeld(VK_MENU)) {
+        return focused && copyRows(message.hwnd, focused->control(), Rows::Selected);
+    }
+    return pressFirst([key](const Control& control) { return control.shortcutKey == key; });
+}
+
+void FormWindow::dropped(HDROP drop) {
+    POINT spot{};
+    DragQueryPoint(drop, &spot);
+    const Control* target = blocked_ ? nullptr : dropTargetAt(spot);
+    const std::vector<std::string> paths = droppedPaths(drop);
+    DragFinish(drop);
+    for (const std::string& path : paths) {
+        if (target) {
+            screen_.dispatch([&] { target->onDrop(path); });
+        }
+    }
+}
+
+/// What is under the mouse, or wherever that is the only one on the form that takes files; null for none.
+const Control* FormWindow::dropTargetAt(POINT inside) const {
+    std::vector<const Control*> takers;
+    for (const Control* control : screen_.controls()) {
+        const ControlWindow* window = control->onDrop && control->isShown() ? windowOf(*control) : nullptr;
+        if (!window) {
+            continue;
+        }
+        takers.push_back(control);
+        RECT place;
+        GetWindowRect(window->window(), &place);
+        POINT spot = inside;
+        ClientToScreen(this->window(), &spot);
+        if (PtInRect(&place, spot)) {
+            return control;
+        }
+    }
+    return takers.size() == 1 ? takers.front() : nullptr;
+}
+
+/// Presses the first of the controls that can be used now; one that is not pressed gets the keyboard. False
+/// when there is none.
+bool FormWindow::pressFirst(const std::function<bool(const Control&)>& isWanted) {
+    for (const Control* control : screen_.controls()) {
+        ControlWindow* window = windowOf(*control);
+        if (window && isWanted(*control) && control->isShown() && control->isUsable()) {
+            window->use();
+            return true;
+        }
+    }
+    return false;
 }
 
 /// What a key going down has hidden or disabled still gets the messages that belong to the same key. There is

@@ -117,7 +117,8 @@ void PressWindow::mouseMoved(POINT where) {
 LRESULT PressWindow::keyboard(UINT message, WPARAM key, LPARAM low) {
     if (message == WM_GETDLGCODE) {
         const auto* asked = reinterpret_cast<const MSG*>(low);
-        const bool isEnter = asked && asked->message == WM_KEYDOWN && asked->wParam == VK_RETURN;
+        const bool isEnter =
+            takesEnter() && asked && asked->message == WM_KEYDOWN && asked->wParam == VK_RETURN;
         return static_cast<LRESULT>(dialogCode() | (isEnter ? DLGC_WANTMESSAGE : 0U));
     }
     constexpr LPARAM wasDownBefore = 1 << 30;

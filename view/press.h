@@ -17,6 +17,8 @@ public:
         }
     }
 
+    void use() override { windowCalls().sendMessage(window(), BM_CLICK, 0, 0); }
+
 protected:
     LRESULT handle(UINT message, WPARAM wide, LPARAM low) override;
 
@@ -27,6 +29,8 @@ protected:
     virtual void hover(POINT) {}
     virtual void leave() {}
     virtual bool isTicked() const { return false; }
+    /// Else Enter presses the primary button, wherever the keyboard is.
+    virtual bool takesEnter() const { return true; }
     virtual UINT dialogCode() const { return DLGC_BUTTON; }
 
     bool isHovered() const { return hovered_; }

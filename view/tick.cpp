@@ -16,6 +16,8 @@ public:
         , isRound_(style == BS_AUTORADIOBUTTON) {}
 
 protected:
+    bool takesEnter() const override { return false; }
+
     void paint(Canvas& canvas) override { paintOn(canvas, surface(), surface().ground); }
 
     void paintOn(Canvas& canvas, const Surface& under, Color ground) {

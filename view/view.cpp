@@ -29,8 +29,14 @@ Win32View::Win32View(ThemeKind theme)
 
 Win32View::~Win32View() = default;
 
+void Win32View::attach(Screen& screen) {
+    screen.listener = this;
+    main_ = main_ ? main_ : &screen;
+}
+
 void Win32View::loaded(Screen& screen) {
     forms_.push_back(std::make_unique<FormWindow>(screen, *tools_));
+    belongToMain();
     if (blocks_ > 0) {
         forms_.back()->setBlocked(true);
     }
@@ -41,9 +47,22 @@ FormWindow* Win32View::formOf(const Screen& screen) const {
     return found == forms_.end() ? nullptr : found->get();
 }
 
+void Win32View::belongToMain() {
+    const FormWindow* main = main_ ? formOf(*main_) : nullptr;
+    const HWND owner = main && main_->Visible() ? main->window() : nullptr;
+    for (const auto& form : forms_) {
+        if (form.get() != main) {
+            form->belongTo(owner);
+        }
+    }
+}
+
 void Win32View::changed(Screen& screen, Aspect aspect) {
     if (FormWindow* form = formOf(screen)) {
         form->changed(aspect);
+        if (&screen == main_ && aspect == Aspect::Visible) {
+            belongToMain();
+        }
     }
 }
 

@@ -20,8 +20,9 @@ public:
     Win32View(const Win32View&) = delete;
     ~Win32View() override;
 
-    /// From now on the screen is drawn by this view.
-    void attach(Screen& screen) { screen.listener = this; }
+    /// From now on the screen is drawn by this view. The first is the main one: while it is visible, the
+    /// windows of the others belong to its own.
+    void attach(Screen& screen);
 
     void loaded(Screen& screen) override;
     void changed(Screen& screen, Aspect aspect) override;
@@ -36,9 +37,11 @@ public:
 
 private:
     FormWindow* formOf(const Screen& screen) const;
+    void belongToMain();
 
     std::unique_ptr<ViewTools> tools_;
     std::vector<std::unique_ptr<FormWindow>> forms_; ///< Grows while messages are handled.
+    const Screen* main_ = nullptr;
     int blocks_ = 0;
 };
 

@@ -11,4 +11,9 @@ namespace tarvelon {
 std::intptr_t shellExecute(HWND owner, const std::string& verb, const std::string& file,
                            const std::string& arguments, const std::string& folder, int show);
 
+/// The system's window of a folder, with the file in it selected.
+void showInFolder(HWND owner, const std::string& file);
+/// The system's sheet of what it knows of a file.
+void showProperties(HWND owner, const std::string& file);
+
 } // namespace tarvelon

@@ -35,4 +35,20 @@ bool fillPath(char* buffer, std::size_t size, std::wstring_view path) {
     return true;
 }
 
+std::vector<std::string> droppedPaths(HDROP drop) {
+    constexpr UINT howMany = 0xffffffff;
+    std::vector<std::string> paths(DragQueryFileA(drop, howMany, nullptr, 0));
+    for (UINT index = 0; index < paths.size(); ++index) {
+        if (hasWideCalls()) {
+            std::wstring wide(DragQueryFileW(drop, index, nullptr, 0), L'\0');
+            DragQueryFileW(drop, index, wide.data(), static_cast<UINT>(wide.size() + 1));
+            paths[index] = reachablePath(wide);
+        } else {
+            paths[index].resize(DragQueryFileA(drop, index, nullptr, 0));
+            DragQueryFileA(drop, index, paths[index].data(), static_cast<UINT>(paths[index].size() + 1));
+        }
+    }
+    return paths;
+}
+
 } // namespace tarvelon

@@ -2,9 +2,12 @@
 
 #include "platform/win32/windows_api.h"
 
+#include <shellapi.h>
 #include <shlobj.h>
 
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace tarvelon {
 
@@ -15,5 +18,8 @@ bool pathFromItems(LPITEMIDLIST items, char* buffer);
 
 /// Fills a buffer of `size` bytes with a path that the user has chosen, likewise.
 bool fillPath(char* buffer, std::size_t size, std::wstring_view path);
+
+/// The paths of what was dropped on a window.
+std::vector<std::string> droppedPaths(HDROP drop);
 
 } // namespace tarvelon

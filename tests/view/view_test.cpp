@@ -1,3 +1,4 @@
+#include "platform/win32/system_library.h"
 #include "platform/win32/wide.h"
 #include "platform/win32/win32_platform.h"
 #include "platform/win32/windows_api.h"
@@ -9,6 +10,7 @@
 #include <gmock/gmock.h>
 
 #include <commctrl.h>
+#include <oleacc.h>
 
 #include <algorithm>
 #include <utility>
@@ -261,6 +263,36 @@ TEST_F(View, ButtonsArePressedByMouseKeysAndOtherPrograms) {
         ask(screen.check, WM_MOUSEMOVE, 0, MAKELPARAM(x, 12));
         EXPECT_EQ(screen.check.hovered(), x == 40) << "The box has no look of its own";
     }
+}
+
+TEST_F(View, ReadersAreToldWhatIsSeen) {
+    const SystemLibrary library("oleacc.dll");
+    const auto find = library.find<HRESULT WINAPI(HWND, DWORD, REFIID, void**)>("AccessibleObjectFromWindow");
+    screen.list.name = "Rows";
+    screen.check.setValue(true);
+    screen.chart.add("64 Kb", 2.5);
+    screen.bar.setValue(57);
+    std::string told;
+    for (const Control* control : screen.controls()) {
+        IAccessible* reader = nullptr;
+        find(windowOf(*control), static_cast<DWORD>(OBJID_CLIENT), __uuidof(IAccessible),
+             reinterpret_cast<void**>(&reader));
+        VARIANT self{}, role{}, state{};
+        self.vt = VT_I4;
+        BSTR texts[2]{};
+        reader->get_accRole(self, &role);
+        reader->get_accState(self, &state);
+        reader->get_accName(self, &texts[0]);
+        reader->get_accValue(self, &texts[1]);
+        told += std::to_string(role.lVal) + (state.lVal & STATE_SYSTEM_CHECKED ? "+" : "");
+        for (BSTR text : texts) {
+            told += text ? "|" + narrowText(text) : "";
+        }
+        told += "\n";
+        reader->Release();
+    }
+    EXPECT_EQ(told, "20\n43|Step\n41|50%\n43|A & B\n43|An action\n44+|A check\n45|First\n45|Second\n42\n"
+                    "33|Rows\n17|Chart|64 Kb: 2.5\n33\n48|57%\n35\n43|Restart\n43|Restart\n16\n43|Entry\n");
 }
 
 TEST_F(View, KeysGoOnlyToWhatIsSeen) {

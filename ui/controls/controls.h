@@ -54,6 +54,14 @@ struct ControlParent {
     Frame* frame;
 };
 
+/// How a control follows the edges of its parent.
+struct Growth {
+    bool movesRight = false;
+    bool movesDown = false;
+    bool widens = false;
+    bool heightens = false;
+};
+
 /// What all controls share. Places are relative to the parent.
 class Control {
 public:
@@ -86,6 +94,14 @@ public:
     char accessKey = 0;
     /// Esc does what a click on it does.
     bool isCancel = false;
+    /// The key that does what a click does, wherever the keyboard is on the form; 0 for none.
+    int shortcutKey = 0;
+    /// What becomes of its place in a window that has been made larger.
+    Growth onGrowth;
+    /// In a list or tree whose rows may name files: the path in a row's text, or empty.
+    std::function<std::string(const std::string& row)> fileOfRow;
+    /// A file or folder was dropped on it.
+    std::function<void(const std::string& path)> onDrop;
 
     Screen::Handler onMouseMove;
     /// The left button of the mouse, or what stands for it.

@@ -4,6 +4,7 @@
 #include "ui/controls/property.h"
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -19,6 +20,14 @@ public:
     virtual void loaded(Screen& screen) = 0;
     virtual void changed(Screen& screen, Aspect aspect) = 0;
     virtual void changed(Control& control, Aspect aspect) = 0;
+};
+
+/// Where a window stands: its corner in pixels of the desktop, and its inside at 96 dots an inch.
+struct ScreenPlace {
+    int x = 0;
+    int y = 0;
+    int width = 0;
+    int height = 0;
 };
 
 /// A window as data: its caption, its size and its controls, known to all layers. Behaviour is bound to it
@@ -62,6 +71,9 @@ public:
     std::function<void(int keyCode)> onKeyDown;
     std::function<void(int keyCode)> onKeyUp;
 
+    /// F1: the help of what is shown.
+    Handler onHelp;
+
     /// What the close box does: asks `onQueryClose`, and hides the screen when that agrees.
     void close();
 
@@ -72,6 +84,14 @@ public:
 
     /// False for a dialog: its frame has no button for that, and Esc does what its close box does.
     bool canMinimize = true;
+
+    /// The user can make the window larger than it is at first, and never smaller.
+    bool canGrow = false;
+
+    /// Where its window was when it was left, asked for when it first comes to light; empty for the middle.
+    std::function<std::optional<ScreenPlace>()> placeBefore;
+    /// The user has moved or sized the window.
+    std::function<void(const ScreenPlace&)> onPlaced;
 
     /// Set once by `Application`: runs every handler, so that a failure in one is told to the user in one
     /// place. Unset, handlers run bare.
