@@ -213,8 +213,7 @@ LRESULT ControlWindow::handle(UINT message, WPARAM wide, LPARAM low) {
         OffsetRect(&whole, -whole.left, -whole.top);
         const OwnedWindowDc dc(GetWindowDC(window_), {window_});
         paintEdge(dc.get(), whole, tools().brushes.get(isFocused() ? theme().focus : theme().border));
-    } else if (message == WM_SETFOCUS || message == WM_KILLFOCUS || message == WM_ENABLE ||
-               message == WM_UPDATEUISTATE) {
+    } else if (message == WM_SETFOCUS || message == WM_KILLFOCUS || message == WM_ENABLE) {
         RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME);
     }
     return result;
@@ -280,8 +279,7 @@ void ControlWindow::paintFocus(Canvas& canvas, const RECT& around, Color ground)
 }
 
 char ControlWindow::shownKey() const {
-    const LRESULT state = windowCalls().sendMessage(window_, WM_QUERYUISTATE, 0, 0);
-    return (state & UISF_HIDEACCEL) == 0 ? control_.accessKey : '\0';
+    return form_.showsAccessKeys() ? control_.accessKey : '\0';
 }
 
 void ControlWindow::paintWhenEmpty(const std::string& text) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/win32/task_bar.h"
 #include "platform/win32/window_calls.h"
 #include "ui/controls/controls.h"
 #include "view/canvas.h"
@@ -19,6 +20,7 @@ struct ViewTools {
     Brushes brushes;
     BackBuffer buffer;
     ScaleCalls scaling;
+    TaskBar taskBar;
 };
 
 class FormWindow;

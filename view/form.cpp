@@ -77,15 +77,16 @@ void FormWindow::createWindow() {
     SetWindowPos(window(), nullptr, x, y, size.cx, size.cy, SWP_NOZORDER | SWP_NOACTIVATE);
     const auto takesFiles = [](const Control* control) { return static_cast<bool>(control->onDrop); };
     DragAcceptFiles(window(), std::ranges::any_of(screen_.controls(), takesFiles));
-    BOOL always = TRUE; // Systems that cannot hide the marks of keys show them.
-    SystemParametersInfoA(SPI_GETKEYBOARDCUES, 0, &always, 0);
-    if (!always) {
-        calls.sendMessage(window(), WM_CHANGEUISTATE, MAKEWPARAM(UIS_SET, UISF_HIDEACCEL), 0);
-    }
+    showAccessKeys(false);
 }
 
-bool FormWindow::showsAccessKeys() const {
-    return (windowCalls().sendMessage(window(), WM_QUERYUISTATE, 0, 0) & UISF_HIDEACCEL) == 0;
+/// They show while the user holds Alt or has done so on this form, or always if the system is set so.
+void FormWindow::showAccessKeys(bool wanted) {
+    BOOL always = TRUE; // What systems do that know no such setting.
+    SystemParametersInfoA(SPI_GETKEYBOARDCUES, 0, &always, 0);
+    if (std::exchange(showsAccessKeys_, wanted || always) != showsAccessKeys_) {
+        themeChanged();
+    }
 }
 
 /// With its frame, of an inside at 96 dots an inch.

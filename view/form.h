@@ -56,7 +56,7 @@ public:
     /// A frame with navigation buttons in it is the navigation column.
     bool isNavigation(const Frame& frame) const;
     /// The letters that Alt goes with are underlined.
-    bool showsAccessKeys() const;
+    bool showsAccessKeys() const { return showsAccessKeys_; }
     ControlWindow* windowOf(const Control& control) const;
 
 private:
@@ -84,6 +84,7 @@ private:
     void activated(bool active);
     void giveFocus();
     void moveFocus(WPARAM wide, LPARAM low);
+    void showAccessKeys(bool wanted);
     bool isOwnKey(const MSG& message);
     void dropped(HDROP drop);
     const Control* dropTargetAt(POINT inside) const;
@@ -97,6 +98,7 @@ private:
     SIZE extra_{};             ///< Pixels by which the inside is larger than the screen.
     RECT placeBefore_{};       ///< Of the window, when the user began to move or size it.
     bool isPlaced_ = false;
+    bool showsAccessKeys_ = false;
     bool focusLost_ = false; ///< What had the keyboard can have it no longer.
     bool blocked_ = false;
     const ControlWindow* emptied_ = nullptr;

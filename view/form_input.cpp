@@ -85,10 +85,6 @@ LRESULT FormWindow::handle(UINT message, WPARAM wide, LPARAM low) {
     case WM_EXITSIZEMOVE:
         placed();
         return 0;
-    case WM_UPDATEUISTATE:
-        windowCalls().defWindowProc(window(), message, wide, low);
-        themeChanged(); // The letters of access keys show, or no longer.
-        return 0;
     case WM_ACTIVATE:
         windowCalls().defWindowProc(window(), message, wide, low);
         activated(LOWORD(wide) != WA_INACTIVE);
@@ -142,6 +138,9 @@ bool FormWindow::isOwnKey(const MSG& message) {
     if (message.message == WM_SYSCHAR) {
         const auto letter = static_cast<char>(std::toupper(key));
         return pressFirst([letter](const Control& control) { return control.accessKey == letter; });
+    }
+    if (message.message == WM_SYSKEYDOWN && key == VK_MENU) {
+        showAccessKeys(true);
     }
     ControlWindow* focused = ControlWindow::from(message.hwnd);
     if (message.message == WM_SYSKEYDOWN && key == VK_F10 && isHeld(VK_SHIFT)) {
@@ -226,6 +225,7 @@ bool FormWindow::canUseKeys(HWND window) const {
 void FormWindow::activated(bool active) {
     if (!active) {
         focusKept_ = GetFocus();
+        showAccessKeys(false);
     } else if (blocked_) {
         // Whatever brought it here, the user has the box in front of it to deal with.
         SetForegroundWindow(foremostUsable());

@@ -1,8 +1,10 @@
 #include "view/create.h"
+#include "view/form.h"
 
 #include <commctrl.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace tarvelon {
 
@@ -16,6 +18,10 @@ public:
         // For those who ask the window itself how far it is.
         handleAsClass(PBM_SETRANGE32, 0, control().max());
         handleAsClass(PBM_SETPOS, static_cast<WPARAM>(control().value()), 0);
+        const int percent = control().max() > 0 ? MulDiv(control().value(), 100, control().max()) : 0;
+        if (std::exchange(percentTold_, percent) != percent) {
+            tools().taskBar.showProgress(form().window(), percent, 100);
+        }
     }
 
     void paint(Canvas& canvas) override {
@@ -30,6 +36,9 @@ public:
                               theme().bar);
         }
     }
+
+private:
+    int percentTold_ = 0;
 };
 
 } // namespace
