@@ -16,7 +16,7 @@ struct AdvancedControls {
     explicit AdvancedControls(Frame& settF)
         : advF(settF, at(0, 0, 600, 488), false) {
         Label1.Visible = false;
-        Label1.ForeColor = colors::warningRed;
+        Label1.tone = Tone::Bad;
         List1.name = "Speed report";
     }
 

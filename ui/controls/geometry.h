@@ -25,7 +25,6 @@ namespace colors {
 constexpr Color black = 0x000000;
 constexpr Color white = 0xffffff;
 constexpr Color hoverBlue = 0xff0000;
-constexpr Color warningRed = 0x1c1cb0;
 constexpr Color scanGrey = 0x404040; ///< Labels of the scan pass that is running.
 } // namespace colors
 
