@@ -30,7 +30,7 @@ LRESULT PressWindow::handle(UINT message, WPARAM wide, LPARAM low) {
         hovered_ = false;
         leave();
         repaint();
-        return 0;
+        return ControlWindow::handle(message, wide, low);
     case WM_SETCURSOR:
         SetCursor(LoadCursorA(nullptr, control().isUsable() ? IDC_HAND : IDC_ARROW));
         return TRUE;
