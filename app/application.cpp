@@ -17,6 +17,7 @@ void Application::start() {
     mForm1.load();
     if (!mForm1.hiddenWhileLoading()) {
         mForm1.show();
+        startPage.update();
     }
 }
 
@@ -65,7 +66,11 @@ void Application::bindScan() {
                           }};
     scan.hooks = {.resultAction = [this] { resultAction.act(); },
                   .preShut2 = [this] { shutDownSequence.PreShut2(); },
-                  .showMainWindow = [this] { mForm1.show(); }};
+                  .showMainWindow =
+                      [this] {
+                          mForm1.show();
+                          startPage.update();
+                      }};
 }
 
 void Application::bindPages() {
@@ -73,7 +78,9 @@ void Application::bindPages() {
                       .showCustomFolders = [this] { customFolders.open(); },
                       .showScanners = [this] { s_avir.show(); },
                       .regPageOpened = [this] { regPage.opened(); },
-                      .advancedPageOpened = [this] { advancedPage.opened(); }};
+                      .advancedPageOpened = [this] { advancedPage.opened(); },
+                      .startPageOpened = [this] { startPage.update(); }};
+    startPage.scanRuns = [this] { return scan.runs(); };
     mForm1.cCreateSS.onClick = [this] { ownShortcuts.createShutDown(); };
     mForm1.cSetW.onClick = [this] {
         if (vDct.Visible()) {
@@ -83,7 +90,10 @@ void Application::bindPages() {
         settingsPages.loadSettings();
         wizard.LoadUp();
     };
-    customFolders.loadf = [this] { folderScanPage.loadf(); };
+    customFolders.loadf = [this] {
+        startPage.update();
+        folderScanPage.loadf();
+    };
     customFolders.scanRuns = [this] { return scan.runs(); };
     logBrowser.norms2 = [this] { mainForm.norms2(); };
 }
@@ -91,7 +101,8 @@ void Application::bindPages() {
 void Application::bindScanners() {
     const auto setWizardPath = [this](const std::string& path) { vDct.vpath.Caption = path; };
     const auto setWizardArgs = [this](const std::string& arguments) { vDct.varg.Caption = arguments; };
-    scannerChoice.hooks = {.setWizardArgs = setWizardArgs,
+    scannerChoice.hooks = {.saved = [this] { startPage.update(); },
+                           .setWizardArgs = setWizardArgs,
                            .showHelp = [this](bool forSecond) { scannerCatalogue.show(forSecond); }};
     scannerCatalogue.hooks = {.setWizardPath = setWizardPath, .setWizardArgs = setWizardArgs};
     wizard.hooks = {.showCatalogue = [this] { scannerCatalogue.showAsItStands(); },

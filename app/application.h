@@ -35,10 +35,12 @@
 #include "ui/advanced_page.h"
 #include "ui/mform1.h"
 #include "ui/mform1_screen.h"
+#include "ui/overview.h"
 #include "ui/own_shortcuts.h"
 #include "ui/places.h"
 #include "ui/settings_pages.h"
 #include "ui/speed_comparison.h"
+#include "ui/start_page.h"
 #include "ui/wizard.h"
 #include "ui/wizard_screen.h"
 
@@ -101,6 +103,8 @@ public:
     SettingsPages settingsPages{mForm1, mForm1, s_avir, services, ownShortcuts};
     AdvancedPage advancedPage{mForm1, services, checksum};
     SpeedComparison speedComparison{mForm1, services, checksum};
+    Overview overview{services, checksum};
+    StartPage startPage{mForm1, overview};
     MForm1 mainForm{mForm1, globals, platform};
     Places places{services};
     ICust customFolders{iCust, services, checksum};

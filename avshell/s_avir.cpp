@@ -76,6 +76,7 @@ void SAvir::save() {
     settings.saveSetting("antivirus", screen_.first.command().setting());
     settings.saveSetting("av2", screen_.second.command().setting());
     platform.dialogs.message({.text = "Save Success!"});
+    hooks.saved();
     screen_.hide();
 }
 

@@ -11,6 +11,7 @@ struct SAvirScreen;
 
 /// What the choice of scanners calls beside itself.
 struct SAvirHooks {
+    std::function<void()> saved;
     std::function<void(const std::string&)> setWizardArgs; ///< `varg` of the wizard.
     std::function<void(bool forSecond)> showHelp;          ///< The catalogue, for one of the two scanners.
 };

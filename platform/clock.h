@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 namespace tarvelon {
@@ -11,6 +12,9 @@ public:
 
     /// Today in the user's regional short form, such as "3/5/2006".
     virtual std::string dateText() = 0;
+    /// The same for the day of an open file's last write, as that tells it; empty when the system cannot
+    /// tell.
+    virtual std::string dayOf(std::uint64_t lastWrite) = 0;
     /// Now in the user's regional form with seconds, such as "3:04:07 PM".
     virtual std::string timeText() = 0;
     /// Seconds since midnight, as fine as the system tells.

@@ -115,6 +115,7 @@ void MForm1::showAbout() {
     screen_.Label33.Caption = "Version: " + std::to_string(version[0]) + "." + std::to_string(version[1]) +
                               "." + std::to_string(version[2]);
     open(nullptr, screen_.Frame2);
+    hooks.startPageOpened();
 }
 
 void MForm1::showHelp(const char* page) {

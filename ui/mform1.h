@@ -17,6 +17,7 @@ struct MForm1Hooks {
     std::function<void()> showScanners;
     std::function<void()> regPageOpened;
     std::function<void()> advancedPageOpened;
+    std::function<void()> startPageOpened;
 };
 
 /// The main window's frame: which page is open, the hover reset, and the actions that have no other home.

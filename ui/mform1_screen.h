@@ -7,6 +7,7 @@
 #include "ui/advanced_controls.h"
 #include "ui/controls/controls.h"
 #include "ui/settings_controls.h"
+#include "ui/start_controls.h"
 
 namespace tarvelon {
 
@@ -31,24 +32,27 @@ struct OptionControls {
         : setFq(screen, at(160, 0, 600, 488), false) {}
 
     Frame setFq; ///< Holds the tree of reports too.
-    cButton cSettings{setFq, "Edit Settings", at(32, 24, 200, 32)};
-    Label Label6{setFq, "Please Remember to Save these Settings", at(248, 24, 336, 32), TextStyle::Hint};
-    cButton cButton2{setFq, "Advanced Settings", at(32, 64, 200, 32)};
-    Label Label16{setFq, "Only Intended for Advanced Users", at(248, 64, 336, 32), TextStyle::Hint};
-    cButton cSetW{setFq, "Settings Wizard", at(32, 104, 200, 32)};
+    Icon optionsIcon{setFq, at(24, 20, 24, 24), "options"};
+    Label optionsTitle{setFq, "Options", at(56, 16, 520, 32), TextStyle::Title};
+    cButton cSettings{setFq, "Edit Settings", at(24, 56, 184, 32), Rank::Primary};
+    Label Label6{setFq, "Please Remember to Save these Settings", at(224, 56, 352, 32), TextStyle::Hint};
+    cButton cButton2{setFq, "Advanced Settings", at(24, 96, 184, 32)};
+    Label Label16{setFq, "Only Intended for Advanced Users", at(224, 96, 352, 32), TextStyle::Hint};
+    cButton cSetW{setFq, "Settings Wizard", at(24, 136, 184, 32)};
     Label Label15{setFq, "First-time Tarvelon Users are Recommended to use the Settings Wizard",
-                  at(248, 104, 312, 32), TextStyle::Hint}; // Two lines: one would have to be set very small.
-    cButton cCreateSS{setFq, "Shutdown/Scan Shortcut", at(32, 144, 200, 32)};
+                  at(224, 136, 320, 32), TextStyle::Hint}; // Two lines: one would have to be set very small.
+    cButton cCreateSS{setFq, "Shutdown/Scan Shortcut", at(24, 176, 184, 32)};
     Label Label23{setFq,
                   "Click to Create a Shutdown/Scan shortcut. For more information about this feature, please "
                   "look at the Help Files.",
-                  at(248, 144, 336, 32), TextStyle::Hint};
+                  at(224, 176, 352, 32), TextStyle::Hint};
 };
 
 /// The main window: a navigation column, and pages of which one is visible at a time. Each page's controls
 /// belong to whom the page belongs to.
 struct MForm1Screen : Screen,
                       NavigationControls,
+                      StartControls,
                       FolderScanControls,
                       RegPageControls,
                       AppPageControls,
@@ -60,6 +64,7 @@ struct MForm1Screen : Screen,
     MForm1Screen()
         : Screen("Welcome to Tarvelon", 760, 488)
         , NavigationControls(static_cast<Screen&>(*this))
+        , StartControls(static_cast<Screen&>(*this))
         , FolderScanControls(static_cast<Screen&>(*this))
         , RegPageControls(static_cast<Screen&>(*this))
         , AppPageControls(static_cast<Screen&>(*this))
@@ -68,17 +73,8 @@ struct MForm1Screen : Screen,
         , SettingsControls(static_cast<Screen&>(*this))
         , AdvancedControls(settF) {}
 
-    cButton cUpdates{setFq, "Check for Updates", at(32, 400, 200, 32)};
-    cButton cAbout{setFq, "About", at(32, 440, 200, 32)};
-
-    // About; the page that shows when the window opens.
-    Frame Frame2{*this, at(160, 0, 600, 488)};
-    Label Label32{Frame2, "Tarvelon", at(32, 32, 536, 32), TextStyle::Heading};
-    Label Label33{Frame2, "Version: 2.0", at(32, 72, 536, 20)};
-    Label Label36{Frame2, "Programmer:", at(32, 112, 96, 20)};
-    Label Label37{Frame2, "Quillfen Support", at(136, 112, 200, 20), TextStyle::Link};
-    cButton cButton4{Frame2, "View Help Files", at(32, 160, 200, 32)};
-    cButton cButton5{Frame2, "Visit Quillfen Online", at(32, 200, 200, 32)};
+    cButton cAbout{setFq, "About", at(24, 440, 184, 32)};
+    cButton cUpdates{setFq, "Check for Updates", at(392, 440, 184, 32)};
 };
 
 } // namespace tarvelon

@@ -17,6 +17,8 @@ struct SimClock : public Clock {
     double startAfterMidnight = 54'247;
 
     std::string dateText() override { return date; }
+    /// All files are of today.
+    std::string dayOf(std::uint64_t) override { return date; }
     std::string timeText() override { return time; }
     double secondsSinceMidnight() override;
 };

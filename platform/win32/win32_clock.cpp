@@ -7,23 +7,34 @@ namespace tarvelon {
 
 namespace {
 
-/// Now, as one of the two forms of a call writes it for the user.
+/// A time, or now, as one of the two forms of a call writes it for the user.
 template<class WideCall, class NarrowCall>
-std::string formatted(WideCall wideCall, NarrowCall narrowCall, DWORD flags) {
+std::string formatted(WideCall wideCall, NarrowCall narrowCall, DWORD flags,
+                      const SYSTEMTIME* time = nullptr) {
     constexpr int longest = 256;
     if (hasWideCalls()) {
         wchar_t text[longest] = L"";
-        wideCall(LOCALE_USER_DEFAULT, flags, nullptr, nullptr, text, longest);
+        wideCall(LOCALE_USER_DEFAULT, flags, time, nullptr, text, longest);
         return narrowText(text);
     }
     char text[longest] = "";
-    narrowCall(LOCALE_USER_DEFAULT, flags, nullptr, nullptr, text, longest);
+    narrowCall(LOCALE_USER_DEFAULT, flags, time, nullptr, text, longest);
     return text;
 }
 
 class Win32Clock : public Clock {
 public:
     std::string dateText() override { return formatted(GetDateFormatW, GetDateFormatA, DATE_SHORTDATE); }
+
+    std::string dayOf(std::uint64_t lastWrite) override {
+        const FILETIME time{static_cast<DWORD>(lastWrite), static_cast<DWORD>(lastWrite >> 32)};
+        FILETIME local;
+        SYSTEMTIME day;
+        if (!FileTimeToLocalFileTime(&time, &local) || !FileTimeToSystemTime(&local, &day)) {
+            return {};
+        }
+        return formatted(GetDateFormatW, GetDateFormatA, DATE_SHORTDATE, &day);
+    }
 
     std::string timeText() override { return formatted(GetTimeFormatW, GetTimeFormatA, 0); }
 

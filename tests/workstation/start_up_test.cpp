@@ -128,6 +128,30 @@ TEST_F(StartUpRun, RefusedTwiceLeavesSwitchesWithoutUseAndElseAnOpenWindow) {
     EXPECT_NE(pc.files.firstName(dataFolder + "Log\\"), "");
 }
 
+TEST_F(StartUpRun, TheStartPageTellsHowThingsStandAndLeadsToWhereTheyAreSet) {
+    putSettings({.settings = "1,0,1,0,0,1,0,0",
+                 .antivirus = "C:\\gone.exe|",
+                 .folders = "[1]\r\npath=C:\\a\\\r\nargs=1,1\r\n[2]\r\npath=NULL\r\n"});
+    pc.files.put(R"(C:\Documents and Settings\All Users\Start Menu\Programs\Startup\Tarvelon.lnk)", "");
+    pc.files.put(dataFolder + "Log\\03-05-2006(3_04_07PM).log", "");
+    pc.files.put(dataFolder + "Integrity.dat",
+                 "[DLL]\r\na=b.dll=1*E\r\nc.dll=NULL*E\r\nNULL*E\r\n[DRV]\r\nNULL*E\r\n");
+    EXPECT_FALSE(start() || settle());
+    Rows texts;
+    for (const StartControls::Line& line : form().lines) {
+        texts.push_back(line.text.Caption());
+    }
+    EXPECT_THAT(texts, testing::ElementsAre("Baseline of 3/5/2006, 2 files, 1 of them never checked",
+                                            "No baseline yet: C:\\a", "Missing: C:\\gone.exe",
+                                            "On: DLL, SYS, SCR and PIF, 1 folder",
+                                            "The last of 1 report: 03-05-2006, 3:04:07 PM"));
+    EXPECT_EQ(form().standing.Caption(), "3 things want your attention");
+    form().lines[1].go.click();
+    EXPECT_TRUE(app->iCust.Visible());
+    form().lines[4].go.click();
+    EXPECT_TRUE(form().setFq.isShown() && form().TreeView2.nodes().size() == 2);
+}
+
 TEST_F(StartUpRun, EveryEntryOpensItsPageAndNoOther) {
     MForm1Screen& window = startedWindow();
     const auto shows = [&](const Frame& opened) {

@@ -1,0 +1,88 @@
+#include "ui/start_page.h"
+
+#include "core/failure.h"
+#include "ui/mform1_screen.h"
+#include "ui/overview.h"
+
+#include <array>
+#include <string>
+
+namespace tarvelon {
+
+namespace {
+
+struct Mark {
+    const char* image;
+    const char* name;
+    Tone tone;
+};
+
+Mark markOf(Standing::State state) {
+    switch (state) {
+    case Standing::State::Good:
+        return {"good", "In order", Tone::Good};
+    case Standing::State::Attention:
+        return {"attention", "Wants attention", Tone::Attention};
+    default:
+        return {"unused", "Not used", Tone::Quiet};
+    }
+}
+
+} // namespace
+
+StartPage::StartPage(MForm1Screen& screen, const Overview& overview)
+    : screen_(screen)
+    , overview_(overview) {
+    bind();
+}
+
+void StartPage::bind() {
+    screen_.readTimer.onTick = [this] {
+        screen_.readTimer.Enabled = false;
+        if (screen_.Frame2.isShown() && !scanRuns()) {
+            read();
+        }
+    };
+    const auto leadTo = [this](std::size_t line, const std::vector<Control*>& clicks) {
+        screen_.lines[line].go.onClick = [clicks] {
+            for (Control* control : clicks) {
+                control->click();
+            }
+        };
+    };
+    leadTo(0, {&screen_.Image5});
+    leadTo(1, {&screen_.addRem});
+    leadTo(2, {&screen_.cButton10});
+    leadTo(3, {&screen_.Image11, &screen_.cSettings});
+    leadTo(4, {&screen_.Image11, &screen_.cReports});
+}
+
+void StartPage::update() {
+    screen_.readTimer.Enabled = true;
+}
+
+/// What cannot be read stays as it was shown last.
+void StartPage::read() {
+    constexpr std::array parts{&Overview::systemFiles, &Overview::folders, &Overview::scanner,
+                               &Overview::autoLoad, &Overview::reports};
+    int wanting = 0;
+    for (std::size_t i = 0; i < parts.size(); ++i) {
+        passOver([&] {
+            const Standing standing = (overview_.*parts[i])();
+            const Mark mark = markOf(standing.state);
+            StartControls::Line& line = screen_.lines[i];
+            line.text.Caption = standing.text;
+            line.text.ToolTip = standing.text;
+            line.mark.image = mark.image;
+            line.mark.tone = mark.tone;
+            line.mark.name = mark.name;
+            wanting += standing.state == Standing::State::Attention ? 1 : 0;
+        });
+    }
+    screen_.standing.tone = wanting > 0 ? Tone::Attention : Tone::Good;
+    screen_.standing.Caption = wanting > 1    ? std::to_string(wanting) + " things want your attention"
+                               : wanting == 1 ? "One thing wants your attention"
+                                              : "Everything is set up";
+}
+
+} // namespace tarvelon
