@@ -12,6 +12,7 @@
 #include "platform/messages.h"
 #include "platform/platform.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <optional>
@@ -128,7 +129,7 @@ void Comparison::noteNew(Pass& pass, const std::string& name, const std::string&
                          const std::string& checksum) {
     ++globals.scan.newCount;
     if (!globals.baselines.primaryScan) {
-        list(pass, name, " *NEW*", shiftText("ABC", checksum));
+        list(pass, name, IntCheckScreen::newMark, shiftText("ABC", checksum));
         return;
     }
     const std::string& dataFile = pass.arguments.dataFile;
@@ -159,6 +160,14 @@ void Comparison::list(const Pass& pass, const std::string& name, const std::stri
     }
 }
 
+/// Files that came since the plan count as planned.
+void Comparison::showDone(std::int32_t done) {
+    const std::int32_t all = std::max(toNumber(screen_.pb2max.Caption()).value_or(0), done);
+    screen_.allPasses.setMax(all);
+    screen_.allPasses.setValue(done);
+    screen_.filesDone.Caption = std::to_string(done) + " of " + std::to_string(all) + " files";
+}
+
 void Comparison::showProgress(Pass& pass) {
     const ScanRun& scan = globals.scan;
     if (const auto percent = toInt16(pass.done / pass.grand * 100)) {
@@ -178,6 +187,7 @@ void Comparison::showProgress(Pass& pass) {
     if (pass.labels) {
         pass.labels->percent.Caption = std::to_string(pass.passPercent) + "%";
     }
+    showDone(pass.done);
     screen_.Label6.Caption = std::to_string(pass.done);
     screen_.Label9.Caption = std::to_string(scan.failCount);
     screen_.Label8.Caption = std::to_string(scan.newCount);

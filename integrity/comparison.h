@@ -2,6 +2,7 @@
 
 #include "core/services.h"
 
+#include <cstdint>
 #include <string>
 
 namespace tarvelon {
@@ -27,6 +28,9 @@ public:
 
     /// Runs one pass. Window messages run inside; cancelled, it returns between two files.
     void comparePass(const PassArguments& arguments);
+
+    /// Shows how many files of the whole scan are done.
+    void showDone(std::int32_t done);
 
 private:
     struct Pass;

@@ -11,6 +11,9 @@ namespace tarvelon {
 struct FolderScanControls {
     explicit FolderScanControls(Screen& screen)
         : intF(screen, at(160, 0, 600, 488), false) {
+        Combo1.name = "Folder";
+        addRem.ToolTip = "Chooses the folders that are watched beside the system folder";
+        bSCAN.ToolTip = "Compares the folder's files of the ticked types with its baseline";
         for (std::size_t i = 0; i < check.size(); ++i) {
             check[i].name =
                 std::array{"Select DLL files", "Select DRV files",         "Select SYS and 386 files",
@@ -19,22 +22,30 @@ struct FolderScanControls {
     }
 
     Frame intF;
-    Label folderHeading{intF, "Folder:", at(32, 24, 536, 20)};
-    ComboBox Combo1{intF, at(32, 48, 400, 24)};
-    cButton addRem{intF, "Add/Remove Custom Folders...", at(32, 80, 232, 32)};
-    std::array<tarvelon::check, 6> check{
-        {tarvelon::check{intF, "", at(32, 136, 24, 32)}, tarvelon::check{intF, "", at(32, 176, 24, 32)},
-         tarvelon::check{intF, "", at(32, 216, 24, 32)}, tarvelon::check{intF, "", at(32, 256, 24, 32)},
-         tarvelon::check{intF, "", at(32, 296, 24, 32)}, tarvelon::check{intF, "", at(32, 336, 24, 32)}}};
-    cButton bDLL{intF, "Dynamic Linked Library (DLL)", at(64, 136, 264, 32)};
-    cButton bDRV{intF, "Driver Files (DRV)", at(64, 176, 264, 32)};
-    cButton bSYS{intF, "System Files (SYS, 386)", at(64, 216, 264, 32)};
-    cButton bOCX{intF, "ActiveX Files (OCX)", at(64, 256, 264, 32)};
-    cButton bEXE{intF, "Executable Files (EXE, COM)", at(64, 296, 264, 32)};
-    cButton bEXE2{intF, "Exploited File Types (PIF, SCR)", at(64, 336, 264, 32)};
-    cButton bFULL{intF, "Select All", at(352, 136, 152, 32)};
-    cButton bCLEAR{intF, "Clear Selections", at(352, 176, 152, 32)};
-    cButton bSCAN{intF, "Scan Folder Now", at(32, 400, 296, 40)};
+    Icon intIcon{intF, at(24, 20, 24, 24), "integrity"};
+    Label intTitle{intF, "Integrity Scan", at(56, 16, 520, 32), TextStyle::Title};
+    Label folderHeading{intF, "Folder:", at(24, 56, 552, 20)};
+    ComboBox Combo1{intF, at(24, 80, 552, 24)};
+    cButton addRem{intF, "Add/Remove Custom Folders...", at(24, 112, 232, 32)};
+    Frame typeGroup{intF, "File types", at(24, 160, 552, 264)};
+    std::array<tarvelon::check, 6> check{{tarvelon::check{typeGroup, "", at(16, 24, 24, 32)},
+                                          tarvelon::check{typeGroup, "", at(16, 64, 24, 32)},
+                                          tarvelon::check{typeGroup, "", at(16, 104, 24, 32)},
+                                          tarvelon::check{typeGroup, "", at(16, 144, 24, 32)},
+                                          tarvelon::check{typeGroup, "", at(16, 184, 24, 32)},
+                                          tarvelon::check{typeGroup, "", at(16, 224, 24, 32)}}};
+    cButton bDLL{typeGroup, "Dynamic Linked Library (DLL)", at(48, 24, 304, 32), Rank::Quiet};
+    cButton bDRV{typeGroup, "Driver Files (DRV)", at(48, 64, 304, 32), Rank::Quiet};
+    cButton bSYS{typeGroup, "System Files (SYS, 386)", at(48, 104, 304, 32), Rank::Quiet};
+    cButton bOCX{typeGroup, "ActiveX Files (OCX)", at(48, 144, 304, 32), Rank::Quiet};
+    cButton bEXE{typeGroup, "Executable Files (EXE, COM)", at(48, 184, 304, 32), Rank::Quiet};
+    cButton bEXE2{typeGroup, "Exploited File Types (PIF, SCR)", at(48, 224, 304, 32), Rank::Quiet};
+    cButton bFULL{typeGroup, "Select All", at(376, 24, 160, 32), Rank::Quiet};
+    cButton bCLEAR{typeGroup, "Clear Selections", at(376, 64, 160, 32), Rank::Quiet};
+    Label typeHint{typeGroup,
+                   "The ticked types are compared with the baseline. What is new or has changed is listed.",
+                   at(376, 104, 160, 96), TextStyle::Hint};
+    cButton bSCAN{intF, "Scan Folder Now", at(408, 440, 168, 32), Rank::Primary};
 
     /// What flips the six type boxes, in their order.
     std::array<cButton*, 6> typeButtons{&bDLL, &bDRV, &bSYS, &bOCX, &bEXE, &bEXE2};

@@ -20,6 +20,20 @@ namespace {
 
 constexpr const char* closeCheckCaption = "Close Integrity Check Window";
 
+/// What a scan has found.
+std::string sentence(std::int32_t failed, std::int32_t added) {
+    if (failed == 0 && added == 0) {
+        return "No files were compared.";
+    }
+    const std::string areNew = added == 1 ? "1 file is new" : std::to_string(added) + " files are new";
+    if (failed == 0) {
+        return areNew + ".";
+    }
+    const std::string changed =
+        failed == 1 ? "1 file has changed" : std::to_string(failed) + " files have changed";
+    return changed + (added > 0 ? ", " + areNew : "") + ".";
+}
+
 } // namespace
 
 IntCheck::IntCheck(IntCheckScreen& screen, const Services& services, Checksum& checksum, DataFile& dataFile,
@@ -69,6 +83,7 @@ void IntCheck::scanFolders() {
 }
 
 void IntCheck::runPasses() {
+    screen_.custRow.Current = !globals.scan.customFolder.empty();
     for (std::size_t i = 0; i < passKinds.size(); ++i) {
         const PassKind& kind = passKinds[i];
         const PassLabels& labels = screen_.passes[i];
@@ -80,9 +95,11 @@ void IntCheck::runPasses() {
         for (Label* label : {&labels.title, &labels.file, &labels.percent}) {
             label->ForeColor = colors::scanGrey;
         }
+        labels.row.Current = true;
         screen_.pb1max.Caption = kind.count ? std::to_string(planned_.*kind.count) : std::string();
         // A pass with one extension gets a second one that no file has.
         IntegrityChecker2(kind.ext1, *kind.ext2 ? kind.ext2 : "...");
+        labels.row.Current = false;
     }
 }
 
@@ -139,6 +156,7 @@ void IntCheck::finish() {
     }
     if (screen_.Label14.Visible()) {
         screen_.Label2.Caption = closeCheckCaption;
+        screen_.Label2.ToolTip = "";
     }
     if (scan.customFirstScan) {
         passOver(hooks.resultAction);
@@ -151,15 +169,27 @@ void IntCheck::finish() {
 }
 
 void IntCheck::showOutcome() {
-    const bool cancelled = globals.scan.scanCancelled;
-    screen_.Frame1.Visible = cancelled;
-    screen_.Frame2.Visible = !cancelled;
-    screen_.Frame3.Visible = false;
-    if (!cancelled) {
-        screen_.Label13.Caption = "Results";
-        // A run at log-on scans minimised; what it found is to be seen.
-        screen_.Minimized = false;
+    screen_.custRow.Current = false;
+    if (globals.scan.scanCancelled) {
+        screen_.showView(screen_.progress);
+        return;
     }
+    showFindings();
+    screen_.showView(screen_.results);
+    screen_.Label13.Caption = "Results";
+    // A run at log-on scans minimised; what it found is to be seen.
+    screen_.Minimized = false;
+}
+
+/// In a sentence, and by the colours of the figures.
+void IntCheck::showFindings() {
+    const ScanRun& scan = globals.scan;
+    screen_.found.Visible = !screen_.Label14.Visible();
+    screen_.found.Caption = sentence(scan.failCount, scan.newCount);
+    screen_.found.tone = scan.failCount > 0 ? Tone::Bad : scan.newCount > 0 ? Tone::Attention : Tone::Quiet;
+    screen_.Label9.tone = scan.failCount > 0 ? Tone::Bad : Tone::Plain;
+    screen_.Label8.tone = scan.newCount > 0 ? Tone::Attention : Tone::Plain;
+    screen_.Label7.tone = Tone::Good;
 }
 
 // ---- The screen
@@ -169,9 +199,12 @@ void IntCheck::resetCaptions() {
         for (Label* label : {&labels.title, &labels.file, &labels.percent}) {
             label->ForeColor = colors::black;
         }
+        labels.row.Current = false;
     }
     screen_.Label12.Caption = "Scan Failing Files...";
+    screen_.Label12.ToolTip = "Has the scanner look at these files, then takes them as they are now";
     screen_.Label2.Caption = "Repair and Update Failed Files...";
+    screen_.Label2.ToolTip = "Lists the files; nothing is done to them yet";
     screen_.Label13.Caption = "Scanning...Please Wait";
     platform.messages.pump();
 }
@@ -179,6 +212,7 @@ void IntCheck::resetCaptions() {
 void IntCheck::setPaused(bool paused) {
     globals.scan.scanPaused = paused;
     screen_.Label11.Visible = paused;
+    screen_.Image9.Visible = !paused;
 }
 
 void IntCheck::showFailedFiles() {
@@ -186,9 +220,7 @@ void IntCheck::showFailedFiles() {
         Command1_Click();
         return;
     }
-    screen_.Frame1.Visible = false;
-    screen_.Frame2.Visible = false;
-    screen_.Frame3.Visible = true;
+    screen_.showView(screen_.failedFiles);
     screen_.Label13.Caption = "Failed Files List";
 }
 

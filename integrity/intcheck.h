@@ -75,6 +75,7 @@ private:
     bool takeNextCustomFolder(int& turn, std::size_t& folders);
     void finish();
     void showOutcome();
+    void showFindings();
 
     void showFailedFiles();
     bool queryClose();

@@ -32,9 +32,7 @@ void IntCheck::LoadUp() {
     dataFile_.needIntFile(checksum_.getIntFile());
     resetCaptions();
     setPaused(false);
-    screen_.Frame1.Visible = true;
-    screen_.Frame2.Visible = false;
-    screen_.Frame3.Visible = false;
+    screen_.showView(screen_.progress);
     platform.messages.pump();
     screen_.Label14.Visible = false;
     resetRun();
@@ -56,6 +54,7 @@ void IntCheck::LoadUp() {
         }
     }
     screen_.pb2max.Caption = std::to_string(plan.grandTotal == 0 ? 1 : plan.grandTotal);
+    comparison_.showDone(0);
     screen_.Timer1.Enabled = true;
 }
 

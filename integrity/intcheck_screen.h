@@ -7,8 +7,9 @@
 
 namespace tarvelon {
 
-/// The three labels of one pass on the progress view: its title, the file in hand, and how far it is.
+/// One pass on the progress view: its title, the file in hand, and how far it is.
 struct PassLabels {
+    Frame& row; ///< Around all three.
     Label& title;
     Label& file;
     Label& percent;
@@ -23,66 +24,114 @@ struct IntCheckScreen : Screen {
         }
         Command1.Visible = false;
         List1.name = "New and failed files";
+        List1.rowMark = [](const std::string& row) {
+            return row.ends_with(newMark) ? RowMark::New : RowMark::Changed;
+        };
+        allPasses.name = "Files done";
+        Image11.isCancel = true;
+        Image9.ToolTip = "Holds the scan until you press Resume";
     }
 
-    Label Label13{*this, "Scanning...Please Wait", at(16, 14, 568, 26), TextStyle::Heading};
+    /// Stands behind the path of a new file.
+    static constexpr const char* newMark = " *NEW*";
+
+    Icon Image1{*this, at(16, 16, 24, 24), "integrity"};
+    Label Label13{*this, "Scanning...Please Wait", at(48, 12, 536, 32), TextStyle::Title};
 
     // Progress.
-    Frame Frame1{*this, at(0, 48, 600, 352)};
+    Frame Frame1{*this, at(0, 48, 600, 348), false};
+    Label filesDone{Frame1, "", at(16, 2, 568, 20)};
+    ProgressBar allPasses{Frame1, at(16, 24, 568, 12)};
 
-    Label l_dll2{Frame1, "DLL Scan", at(16, 8, 340, 18)};
-    Label l_dll{Frame1, "", at(32, 26, 552, 18), TextStyle::Hint};
-    Label l_sdll{Frame1, "0%", at(384, 8, 200, 18), TextStyle::Gauge};
+    Frame dllRow{Frame1, at(8, 48, 584, 40)};
+    Label l_dll2{dllRow, "DLL Scan", at(8, 2, 344, 18)};
+    Label l_dll{dllRow, "", at(24, 20, 552, 18), TextStyle::Hint};
+    Label l_sdll{dllRow, "0%", at(376, 2, 200, 18), TextStyle::Gauge};
 
-    Label l_drv2{Frame1, "Driver Scan", at(16, 52, 340, 18)};
-    Label l_drv{Frame1, "", at(32, 70, 552, 18), TextStyle::Hint};
-    Label l_sdrv{Frame1, "0%", at(384, 52, 200, 18), TextStyle::Gauge};
+    Frame drvRow{Frame1, at(8, 90, 584, 40)};
+    Label l_drv2{drvRow, "Driver Scan", at(8, 2, 344, 18)};
+    Label l_drv{drvRow, "", at(24, 20, 552, 18), TextStyle::Hint};
+    Label l_sdrv{drvRow, "0%", at(376, 2, 200, 18), TextStyle::Gauge};
 
-    Label l_sys2{Frame1, "System Files", at(16, 96, 340, 18)};
-    Label l_sys{Frame1, "", at(32, 114, 552, 18), TextStyle::Hint};
-    Label l_ssys{Frame1, "0%", at(384, 96, 200, 18), TextStyle::Gauge};
+    Frame sysRow{Frame1, at(8, 132, 584, 40)};
+    Label l_sys2{sysRow, "System Files", at(8, 2, 344, 18)};
+    Label l_sys{sysRow, "", at(24, 20, 552, 18), TextStyle::Hint};
+    Label l_ssys{sysRow, "0%", at(376, 2, 200, 18), TextStyle::Gauge};
 
-    Label l_ocx2{Frame1, "OCX Scan", at(16, 140, 340, 18)};
-    Label l_ocx{Frame1, "", at(32, 158, 552, 18), TextStyle::Hint};
-    Label l_socx{Frame1, "0%", at(384, 140, 200, 18), TextStyle::Gauge};
+    Frame ocxRow{Frame1, at(8, 174, 584, 40)};
+    Label l_ocx2{ocxRow, "OCX Scan", at(8, 2, 344, 18)};
+    Label l_ocx{ocxRow, "", at(24, 20, 552, 18), TextStyle::Hint};
+    Label l_socx{ocxRow, "0%", at(376, 2, 200, 18), TextStyle::Gauge};
 
-    Label l_exe2{Frame1, "Executable Scan", at(16, 184, 340, 18)};
-    Label l_exe{Frame1, "", at(32, 202, 552, 18), TextStyle::Hint};
-    Label l_sexe{Frame1, "0%", at(384, 184, 200, 18), TextStyle::Gauge};
+    Frame exeRow{Frame1, at(8, 216, 584, 40)};
+    Label l_exe2{exeRow, "Executable Scan", at(8, 2, 344, 18)};
+    Label l_exe{exeRow, "", at(24, 20, 552, 18), TextStyle::Hint};
+    Label l_sexe{exeRow, "0%", at(376, 2, 200, 18), TextStyle::Gauge};
 
-    Label l_2exe2{Frame1, "Commonly Exploited Executable Scan", at(16, 228, 340, 18)};
-    Label l_2exe{Frame1, "", at(32, 246, 552, 18), TextStyle::Hint};
-    Label l_2sexe{Frame1, "0%", at(384, 228, 200, 18), TextStyle::Gauge};
+    Frame exe2Row{Frame1, at(8, 258, 584, 40)};
+    Label l_2exe2{exe2Row, "Commonly Exploited Executable Scan", at(8, 2, 344, 18)};
+    Label l_2exe{exe2Row, "", at(24, 20, 552, 18), TextStyle::Hint};
+    Label l_2sexe{exe2Row, "0%", at(376, 2, 200, 18), TextStyle::Gauge};
 
-    Label l_cust2{Frame1, "Custom Folder", at(16, 272, 340, 18)};
-    Label l_cust{Frame1, "", at(32, 290, 552, 18), TextStyle::Hint};
-    Label l_scust{Frame1, "0%", at(384, 272, 200, 18), TextStyle::Gauge};
-
-    cButton Image9{Frame1, "Pause", at(464, 316, 120, 32)};
-    Label Label11{Frame1, "Resume", at(336, 316, 120, 32), TextStyle::Action, false};
+    Frame custRow{Frame1, at(8, 300, 584, 40)};
+    Label l_cust2{custRow, "Custom Folder", at(8, 2, 344, 18)};
+    Label l_cust{custRow, "", at(24, 20, 552, 18), TextStyle::Hint};
+    Label l_scust{custRow, "0%", at(376, 2, 200, 18), TextStyle::Gauge};
 
     // Results.
-    Frame Frame2{*this, at(0, 48, 600, 352), false};
-    Label Label1{Frame2, "Total Files Scanned:", at(32, 24, 168, 32)};
-    Label Label6{Frame2, "1000", at(208, 24, 104, 32), TextStyle::Value}; ///< files done
-    Label Label3{Frame2, "New Files:", at(32, 72, 168, 32)};
-    Label Label8{Frame2, "1000", at(208, 72, 104, 32), TextStyle::Value}; ///< new
-    Label Label4{Frame2, "Failed Files:", at(32, 120, 168, 32)};
-    Label Label9{Frame2, "1000", at(208, 120, 104, 32), TextStyle::Value}; ///< failed
-    Label Label5{Frame2, "Passing Files:", at(32, 168, 168, 32)};
-    Label Label7{Frame2, "1000", at(208, 168, 104, 32), TextStyle::Value}; ///< passing
-    Label Label14{Frame2, "Scan Complete. No new or modified files were found.", at(32, 232, 536, 24),
-                  TextStyle::Heading, false}; ///< shown for a clean result
-    Label Label2{Frame2, "Repair and Update Failed Files...", at(32, 280, 280, 36), TextStyle::Action};
+    Frame Frame2{*this, at(0, 48, 600, 348), false};
+    Verdict Label14{Frame2, "Scan Complete. No new or modified files were found.", at(16, 8, 568, 48),
+                    false};                               ///< shown for a clean result
+    Verdict found{Frame2, "", at(16, 8, 568, 48), false}; ///< shown for any other
+    Frame figures{Frame2, "Figures", at(16, 72, 568, 224)};
+    Label Label1{figures, "Total Files Scanned:", at(24, 32, 160, 40)};
+    Label Label6{figures, "1000", at(184, 32, 120, 40), TextStyle::Value}; ///< files done
+    Label totalHint{figures, "looked at in this scan", at(328, 32, 224, 40), TextStyle::Hint};
+    Label Label3{figures, "New Files:", at(24, 80, 160, 40)};
+    Label Label8{figures, "1000", at(184, 80, 120, 40), TextStyle::Value}; ///< new
+    Label newHint{figures, "not in the baseline yet", at(328, 80, 224, 40), TextStyle::Hint};
+    Label Label4{figures, "Failed Files:", at(24, 128, 160, 40)};
+    Label Label9{figures, "1000", at(184, 128, 120, 40), TextStyle::Value}; ///< failed
+    Label failedHint{figures, "not as the baseline has them", at(328, 128, 224, 40), TextStyle::Hint};
+    Label Label5{figures, "Passing Files:", at(24, 176, 160, 40)};
+    Label Label7{figures, "1000", at(184, 176, 120, 40), TextStyle::Value}; ///< passing
+    Label passingHint{figures, "as the baseline has them", at(328, 176, 224, 40), TextStyle::Hint};
 
     // Failed files.
-    Frame Frame3{*this, at(0, 48, 600, 352), false};
-    Label Label10{Frame3, "New and Failed Files:", at(16, 8, 568, 20)};
-    ListBox List1{Frame3, at(16, 32, 568, 262)}; ///< rows: path, and " *NEW*" behind a new one
-    Label Label12{Frame3, "Scan Failing Files...", at(16, 312, 280, 36), TextStyle::Action};
+    Frame Frame3{*this, at(0, 48, 600, 348), false};
+    Label Label10{Frame3, "New and Failed Files:", at(16, 4, 568, 20)};
+    ListBox List1{Frame3, at(16, 28, 568, 302), true,
+                  "All files are as the baseline has them"}; ///< rows: path, and the mark behind a new one
 
-    // Under every view, so that the results can be left as well.
-    cButton Image11{*this, "Cancel", at(464, 404, 120, 32)};
+    // Beside what each view goes on with; under every view, so that the results can be left as well.
+    cButton Image11{*this, "Cancel", at(240, 404, 112, 32)};
+    Frame progressFoot{*this, at(360, 404, 224, 32), false};
+    cButton Image9{progressFoot, "Pause", at(0, 0, 224, 32)};
+    Label Label11{progressFoot, "Resume", at(0, 0, 224, 32), Rank::Primary, false};
+    Frame resultsFoot{*this, at(360, 404, 224, 32), false};
+    Label Label2{resultsFoot, "Repair and Update Failed Files...", at(0, 0, 224, 32), Rank::Primary};
+    Frame failedFoot{*this, at(360, 404, 224, 32), false};
+    Label Label12{failedFoot, "Scan Failing Files...", at(0, 0, 224, 32), Rank::Primary};
+
+    struct View {
+        Frame& page;
+        Frame& foot;
+    };
+    const View progress{Frame1, progressFoot};
+    const View results{Frame2, resultsFoot};
+    const View failedFiles{Frame3, failedFoot};
+
+    /// Shows one of the three, and what belongs to it at the foot.
+    void showView(const View& shown) {
+        for (const View* view : {&progress, &results, &failedFiles}) {
+            if (view != &shown) {
+                view->page.Visible = false;
+                view->foot.Visible = false;
+            }
+        }
+        shown.page.Visible = true;
+        shown.foot.Visible = true;
+    }
 
     // The scanners' programs and arguments; never shown.
     TextBox Text1{*this, at(0, 0, 8, 8), false};
@@ -101,13 +150,13 @@ struct IntCheckScreen : Screen {
     Timer Timer1{*this, 1};
 
     /// By the number of the pass from 1 to 6, and 7 for the custom folder's turn.
-    std::array<PassLabels, 7> passes{{{l_dll2, l_dll, l_sdll},
-                                      {l_drv2, l_drv, l_sdrv},
-                                      {l_sys2, l_sys, l_ssys},
-                                      {l_ocx2, l_ocx, l_socx},
-                                      {l_exe2, l_exe, l_sexe},
-                                      {l_2exe2, l_2exe, l_2sexe},
-                                      {l_cust2, l_cust, l_scust}}};
+    std::array<PassLabels, 7> passes{{{dllRow, l_dll2, l_dll, l_sdll},
+                                      {drvRow, l_drv2, l_drv, l_sdrv},
+                                      {sysRow, l_sys2, l_sys, l_ssys},
+                                      {ocxRow, l_ocx2, l_ocx, l_socx},
+                                      {exeRow, l_exe2, l_exe, l_sexe},
+                                      {exe2Row, l_2exe2, l_2exe, l_2sexe},
+                                      {custRow, l_cust2, l_cust, l_scust}}};
 };
 
 } // namespace tarvelon

@@ -25,11 +25,10 @@ namespace tarvelon {
 
 namespace {
 
-constexpr std::string_view newMark = " *NEW*";
 constexpr const char* closeWindowCaption = "Close Integrity Window";
 
 std::string withoutNewMark(const std::string& item) {
-    return replaceExact(item, newMark, "");
+    return replaceExact(item, IntCheckScreen::newMark, "");
 }
 
 /// What stands behind the last backslash. Input is let in at each one.
@@ -228,6 +227,7 @@ bool ResultAction::UpdateDatFile() {
     screen_.Caption = "Integrity File(s) Updated";
     screen_.Label13.Caption = "Integrity File Updated";
     screen_.Label12.Caption = closeWindowCaption;
+    screen_.Label12.ToolTip = "";
     return true;
 }
 

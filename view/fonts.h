@@ -13,7 +13,7 @@ namespace textSize {
 constexpr int normal = 90;
 constexpr int heading = 110;
 constexpr int title = 160;
-constexpr int value = 120;
+constexpr int value = 200;
 } // namespace textSize
 
 /// The view's one typeface in the sizes and weights that were asked for so far.
