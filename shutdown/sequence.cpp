@@ -19,6 +19,12 @@
 
 namespace tarvelon {
 
+namespace {
+
+constexpr int secondsToWait = 120;
+
+} // namespace
+
 Sequence::Sequence(LogoffScreen& logoff, SProgScreen& sProg, const ListBox& warnings,
                    const SAvirScreen& scanners, const Services& services, const Scanner& scanner,
                    LogFiles& logFiles, PowerAction& power)
@@ -168,8 +174,11 @@ void Sequence::startCountDown() {
     }
     status("Some files were scanned...Shutting Down in 2 minutes");
     sProg_.Command1.Visible = true;
+    sProg_.timeLeft.Visible = true;
+    sProg_.wayOut.Visible = true;
+    showTimeLeft(secondsToWait);
     sProg_.ProgressBar1.setValue(0);
-    sProg_.ProgressBar1.setMax(120);
+    sProg_.ProgressBar1.setMax(secondsToWait);
     logoff_.Timer1.Enabled = globals.shutDown.scanLogged == 1;
 }
 
@@ -177,6 +186,7 @@ void Sequence::startCountDown() {
 /// machine that has slept meanwhile is left awake.
 void Sequence::countDown() {
     sProg_.ProgressBar1.setValue(sProg_.ProgressBar1.value() + 1);
+    showTimeLeft(secondsToWait - sProg_.ProgressBar1.value());
     if (++secondsPast == 60) {
         secondsPast = 0;
         ++minutesPast;
@@ -184,6 +194,11 @@ void Sequence::countDown() {
     if (minutesPast == 2 && secondsPast == 0) {
         power_.ShutDown(globals.app.shutAction);
     }
+}
+
+void Sequence::showTimeLeft(int seconds) {
+    const std::string rest = std::to_string(seconds % 60);
+    sProg_.timeLeft.Caption = std::to_string(seconds / 60) + (rest.size() == 1 ? ":0" : ":") + rest;
 }
 
 bool Sequence::queryClose() {

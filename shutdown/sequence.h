@@ -47,6 +47,7 @@ private:
     void goOnWithoutScan(const Failure& failure);
     void startCountDown();
     void countDown();
+    void showTimeLeft(int seconds);
     bool queryClose();
 
     void runScanners(const std::vector<std::string>& batch);

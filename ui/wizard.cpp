@@ -15,6 +15,8 @@
 #include "ui/short_cut.h"
 #include "ui/wizard_screen.h"
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace tarvelon {
@@ -101,8 +103,8 @@ void Wizard::norms() {
         box->Visible = false;
     }
     for (Control* control : std::initializer_list<Control*>{
-             &screen_.Label4, &screen_.helpme, &screen_.locate, &screen_.aload, &screen_.vpath, &screen_.varg,
-             &screen_.Command1, &screen_.Command2, &screen_.cButton1}) {
+             &screen_.pathLabel, &screen_.Label4, &screen_.helpme, &screen_.locate, &screen_.aload,
+             &screen_.vpath, &screen_.varg, &screen_.Command1, &screen_.Command2, &screen_.cButton1}) {
         control->Visible = false;
     }
     screen_.Label1.Visible = true;
@@ -120,6 +122,10 @@ void Wizard::showPage(const char* title, const std::string& text, const std::vec
 void Wizard::NextFrame() {
     norms();
     WizardScreen& s = screen_;
+    constexpr std::array pictures{"welcome",  "scanner", "test",     "autoload", "filetypes",
+                                  "autoscan", "logging", "shortcut", "save"};
+    s.picture.image = pictures[static_cast<std::size_t>(std::clamp<int>(page_, 0, 8))];
+    s.dots.current = page_;
     switch (page_) {
     case 0:
         s.Label2.Visible = false;
@@ -134,7 +140,7 @@ void Wizard::NextFrame() {
         showPage("Anti-Virus Setup (1/2)",
                  "Step 1: Locate your main anti-virus software program.\r\r"
                  "-If you aren't sure where to find it, click on the 'Help Me' button.",
-                 {&s.vpath, &s.varg, &s.Label4, &s.helpme, &s.locate});
+                 {&s.pathLabel, &s.vpath, &s.varg, &s.Label4, &s.helpme, &s.locate});
         break;
     case 2:
         showPage("Anti-Virus Setup (2/2)",

@@ -10,40 +10,46 @@ namespace tarvelon {
 /// The setup wizard: nine pages that share one title and one description.
 struct WizardScreen : Screen {
     WizardScreen()
-        : Screen("Tarvelon - Setup Wizard", 640, 416) {
+        : Screen("Tarvelon - Setup Wizard", 640, 376) {
         vpath.Caption = "Anti-Virus Path";
+        Label3.isCancel = true;
+        Command1.ToolTip = "Has the program look at two harmless files";
     }
 
-    Label title{*this, "%Title%", at(32, 24, 576, 28), TextStyle::Heading};
-    Label desc{*this, "%Description", at(32, 64, 576, 136)};
+    Icon picture{*this, at(24, 20, 40, 40), ""};
+    Label title{*this, "%Title%", at(80, 20, 528, 40), TextStyle::Title};
+    Label desc{*this, "%Description", at(80, 64, 544, 112)};
 
     // Anti-virus.
-    TextBox vpath{*this, at(32, 216, 432, 24)};
-    cButton locate{*this, "Locate...", at(472, 212, 136, 32)};
-    Label Label4{*this, "Extra Arguments", at(32, 256, 144, 24)};
-    TextBox varg{*this, at(184, 256, 280, 24)};
+    Label pathLabel{*this, "Anti-Virus Path", at(80, 192, 136, 24)};
+    TextBox vpath{*this, at(216, 192, 264, 24)};
+    cButton locate{*this, "Locate...", at(488, 188, 120, 32)};
+    Label Label4{*this, "Extra Arguments", at(80, 232, 136, 24)};
+    TextBox varg{*this, at(216, 232, 264, 24)};
     const ScannerFields scanner{vpath, varg};
-    cButton helpme{*this, "Help Me!", at(472, 252, 136, 32)};
-    cButton Command1{*this, "Test It!", at(32, 216, 136, 32)};
+    cButton helpme{*this, "Help Me!", at(488, 228, 120, 32)};
+    cButton Command1{*this, "Test It!", at(80, 192, 136, 32)};
 
     // Main settings.
-    check aload{*this, "Enable Auto-Load (Highly Recommended)", at(32, 216, 576, 24)};
-    check Check1{*this, "Check DLL (Dynamic Linked Libraries)", at(32, 216, 264, 24)};
-    check Check2{*this, "Check DRV (Drivers)", at(32, 248, 264, 24)};
-    check Check3{*this, "Check SYS (System files)", at(32, 280, 264, 24)};
-    check Check4{*this, "Check OCX (ActiveX)", at(304, 216, 304, 24)};
-    check Check5{*this, "Check EXE (Executables)", at(304, 248, 304, 24)};
-    check Check8{*this, "Check SCR,PIF (Commonly Exploited File Types)", at(304, 280, 304, 24)};
-    check Check6{*this, "Enable Auto-Scan", at(32, 216, 576, 24)};
+    check aload{*this, "Enable Auto-Load (Highly Recommended)", at(80, 192, 528, 24)};
+    check Check1{*this, "Check DLL (Dynamic Linked Libraries)", at(80, 192, 248, 24)};
+    check Check2{*this, "Check DRV (Drivers)", at(80, 220, 248, 24)};
+    check Check3{*this, "Check SYS (System files)", at(80, 248, 248, 24)};
+    check Check4{*this, "Check OCX (ActiveX)", at(328, 192, 296, 24)};
+    check Check5{*this, "Check EXE (Executables)", at(328, 220, 296, 24)};
+    check Check8{*this, "Check SCR,PIF (Commonly Exploited File Types)", at(328, 248, 296, 24)};
+    check Check6{*this, "Enable Auto-Scan", at(80, 192, 528, 24)};
 
     // Other settings.
-    check Check7{*this, "Enable Logging Feature", at(32, 216, 576, 24)};
-    cButton cButton1{*this, "Create Shutdown/Scan shortcut", at(32, 216, 264, 32)};
-    cButton Command2{*this, "Save", at(32, 216, 136, 32)};
+    check Check7{*this, "Enable Logging Feature", at(80, 192, 528, 24)};
+    cButton cButton1{*this, "Create Shutdown/Scan shortcut", at(80, 192, 248, 32)};
+    cButton Command2{*this, "Save", at(80, 192, 136, 32), Rank::Primary};
 
-    Label Label2{*this, "<<< Back", at(32, 368, 96, 24), TextStyle::Step};
-    Label Label1{*this, "Next >>>", at(144, 368, 96, 24), TextStyle::Step};
-    Label Label3{*this, "Cancel", at(560, 368, 48, 24), TextStyle::Step};
+    Frame line{*this, "", at(16, 312, 608, 1)};
+    StepDots dots{*this, at(24, 324, 176, 40), 9};
+    Label Label2{*this, "<<< Back", at(312, 328, 88, 32), TextStyle::Step};
+    Label Label1{*this, "Next >>>", at(408, 328, 88, 32), Rank::Primary, true, TextStyle::Step};
+    Label Label3{*this, "Cancel", at(520, 328, 88, 32), TextStyle::Step};
 
     /// The boxes behind the positions of the stored list.
     std::array<check*, 8> settingChecks{&Check1, &Check2, &Check3, &Check4,

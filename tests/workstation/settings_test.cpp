@@ -65,7 +65,7 @@ protected:
     std::string page() {
         std::string names = wizard().title.Caption();
         for (const Control* control : wizard().controls()) {
-            if (control->Visible() && control->kind() != ControlKind::Label) {
+            if (control->Visible() && control->kind() != ControlKind::Label && control->Caption() != "") {
                 names += ";" + control->Caption();
             }
         }

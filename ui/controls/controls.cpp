@@ -59,8 +59,8 @@ Label::Label(ControlParent parent, std::string caption, Rect place, TextStyle st
     Visible = visible;
 }
 
-Label::Label(ControlParent parent, std::string caption, Rect place, Rank rank, bool visible)
-    : Label(parent, std::move(caption), place, TextStyle::Action, visible) {
+Label::Label(ControlParent parent, std::string caption, Rect place, Rank rank, bool visible, TextStyle style)
+    : Label(parent, std::move(caption), place, style, visible) {
     rank_ = rank;
 }
 

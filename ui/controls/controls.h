@@ -160,7 +160,8 @@ public:
     Label(ControlParent parent, std::string caption, Rect place, TextStyle style = TextStyle::Normal,
           bool visible = true);
     /// One that is clicked like a button of that rank.
-    Label(ControlParent parent, std::string caption, Rect place, Rank rank, bool visible = true);
+    Label(ControlParent parent, std::string caption, Rect place, Rank rank, bool visible = true,
+          TextStyle style = TextStyle::Action);
 
     TextStyle style() const { return style_; }
     Rank rank() const { return rank_; }
