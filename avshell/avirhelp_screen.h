@@ -13,19 +13,22 @@ struct AVirHelpScreen : Screen {
         for (const KnownScanner& known : knownScanners) {
             List1.add(known.product);
         }
+        Command4.ToolTip = "Looks for the program's file in the folder of programs";
+        Command2.ToolTip = "Has the program look at a harmless file";
         List1.name = "Anti-virus programs";
     }
 
     Label Label1{*this,
-                 "Step 1) Choose your Anti Virus Software, then click on \"Search\":", at(24, 16, 512, 20)};
-    ListBox List1{*this, at(24, 40, 512, 184)}; ///< products
-    cButton Command4{*this, "Search for this Selection...", at(24, 232, 224, 32)};
-    TextBox Text2{*this, at(24, 280, 512, 24)}; ///< the file that was found
-    Label Label2{*this, "Step 2) Click Test it!", at(24, 320, 248, 20)};
-    cButton Command2{*this, "Test It!", at(24, 344, 136, 32)};
-    Label Label3{*this, "Step 3) Click Use it!", at(288, 320, 248, 20)};
-    cButton Command3{*this, "Use It!", at(288, 344, 136, 32)};
-    cButton Command1{*this, "My Anti-Virus Program Isn't Listed!", at(24, 388, 288, 32)};
+                 "Step 1) Choose your Anti Virus Software, then click on \"Search\":", at(16, 16, 528, 20),
+                 TextStyle::Heading};
+    ListBox List1{*this, at(16, 44, 528, 162)}; ///< products
+    cButton Command4{*this, "Search for this Selection...", at(16, 214, 216, 32)};
+    TextBox Text2{*this, at(16, 258, 528, 24)}; ///< the file that was found
+    Label Label2{*this, "Step 2) Click Test it!", at(16, 300, 248, 20), TextStyle::Heading};
+    cButton Command2{*this, "Test It!", at(16, 328, 136, 32)};
+    Label Label3{*this, "Step 3) Click Use it!", at(280, 300, 264, 20), TextStyle::Heading};
+    cButton Command3{*this, "Use It!", at(280, 328, 136, 32), Rank::Primary};
+    cButton Command1{*this, "My Anti-Virus Program Isn't Listed!", at(16, 384, 264, 32), Rank::Quiet};
 };
 
 } // namespace tarvelon

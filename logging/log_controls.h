@@ -13,27 +13,32 @@ struct LogControls {
         Label26.Visible = false;
         TreeView2.name = "Logs";
         List4.name = "Report";
+        cReports.ToolTip = "Lists the reports by date and time";
+        cViewReport.ToolTip = "Opens the report whose time is selected";
+        cScnLog.ToolTip = "Has the scanner look at these files once more";
     }
 
     Frame& optionsPage;
-    cButton cReports{optionsPage, "Load Logs", at(32, 200, 200, 32)};
-    cButton cViewReport{optionsPage, "View Log", at(32, 240, 200, 32)};
-    cButton cButton3{optionsPage, "Delete All Logs", at(32, 280, 200, 32)};
-    Tree TreeView2{optionsPage, at(248, 200, 336, 200)}; ///< dates, and times of reports below them
+    Label reportsHeading{optionsPage, "Reports", at(24, 220, 552, 20), TextStyle::Heading};
+    cButton cReports{optionsPage, "Load Logs", at(24, 248, 184, 32)};
+    cButton cViewReport{optionsPage, "View Log", at(24, 288, 184, 32)};
+    cButton cButton3{optionsPage, "Delete All Logs", at(24, 328, 184, 32), Rank::Destructive};
+    Tree TreeView2{optionsPage, at(224, 248, 352, 122), true,
+                   "Press Load Logs"}; ///< dates, and times of reports below them
     Label Label27{optionsPage,
                   "Tip: Use the Delete key to delete log entries, or log groupings directly from the list",
-                  at(248, 404, 336, 36), TextStyle::Hint};
+                  at(224, 374, 352, 32), TextStyle::Hint};
     Label Label26{optionsPage, "L o a d i n g  R e p o r t  . . .  P l e a s e  W a i t",
-                  at(248, 444, 336, 24)};
+                  at(224, 410, 352, 20)};
 
     Frame repF;
     Label Label25{
         repF, "The following files either failed an Integrity Check, or were New/Modified Registry Entries:",
-        at(16, 16, 568, 36)};
-    ListBox List4{repF, at(16, 56, 568, 368)}; ///< the names in one report
-    cButton cScnLog{repF, "Scan Files For Viruses", at(16, 440, 176, 32)};
-    cButton cDelLog{repF, "Delete this Report", at(200, 440, 160, 32)};
-    cButton cX{repF, "Close", at(464, 440, 120, 32)};
+        at(24, 16, 552, 36)};
+    ListBox List4{repF, at(24, 56, 552, 362)}; ///< the names in one report
+    cButton cDelLog{repF, "Delete this Report", at(24, 440, 152, 32), Rank::Destructive};
+    cButton cX{repF, "Close", at(272, 440, 112, 32)};
+    cButton cScnLog{repF, "Scan Files For Viruses", at(392, 440, 184, 32), Rank::Primary};
 };
 
 } // namespace tarvelon

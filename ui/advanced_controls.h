@@ -18,46 +18,48 @@ struct AdvancedControls {
         Label1.Visible = false;
         Label1.tone = Tone::Bad;
         List1.name = "Speed report";
+        cSpeeds.ToolTip = "Times each algorithm and read buffer on this machine";
+        cButton1.isCancel = true;
     }
 
     Frame advF;
-    Label Label22{advF, "Tarvelon Integrity Checker Read Buffer:", at(16, 16, 248, 24)};
-    Frame bufferGroup{advF, at(264, 16, 320, 24)};
-    OptionButton Option1{bufferGroup, "64 Kb", at(0, 0, 80, 24)};
-    OptionButton Option2{bufferGroup, "128 Kb", at(80, 0, 80, 24)};
-    OptionButton Option3{bufferGroup, "256 Kb", at(160, 0, 80, 24)};
-    OptionButton Option4{bufferGroup, "512 Kb", at(240, 0, 80, 24)};
-    Frame Frame1{advF, "Pass 'x' Files at a Time (500 is recommended)", at(16, 48, 320, 80)};
-    OptionButton Option5{Frame1, "Pass All Files", at(16, 24, 136, 24)};
-    OptionButton Option6{Frame1, "50", at(152, 24, 72, 24)};
-    OptionButton Option7{Frame1, "100", at(232, 24, 72, 24)};
+    Label Label22{advF, "Tarvelon Integrity Checker Read Buffer:", at(24, 16, 240, 24)};
+    Frame bufferGroup{advF, at(264, 16, 312, 24)};
+    OptionButton Option1{bufferGroup, "64 Kb", at(0, 0, 78, 24)};
+    OptionButton Option2{bufferGroup, "128 Kb", at(78, 0, 78, 24)};
+    OptionButton Option3{bufferGroup, "256 Kb", at(156, 0, 78, 24)};
+    OptionButton Option4{bufferGroup, "512 Kb", at(234, 0, 78, 24)};
+    Frame Frame1{advF, "Pass 'x' Files at a Time (500 is recommended)", at(24, 48, 312, 80)};
+    OptionButton Option5{Frame1, "Pass All Files", at(16, 24, 128, 24)};
+    OptionButton Option6{Frame1, "50", at(144, 24, 72, 24)};
+    OptionButton Option7{Frame1, "100", at(224, 24, 72, 24)};
     OptionButton Option8{Frame1, "200", at(16, 50, 72, 24)};
-    OptionButton Option9{Frame1, "350", at(152, 50, 72, 24)};
-    OptionButton Option10{Frame1, "500", at(232, 50, 72, 24)};
-    Frame Frame3{advF, "Integrity Checker Algorithm:", at(344, 48, 240, 80)};
+    OptionButton Option9{Frame1, "350", at(144, 50, 72, 24)};
+    OptionButton Option10{Frame1, "500", at(224, 50, 72, 24)};
+    Frame Frame3{advF, "Integrity Checker Algorithm:", at(344, 48, 232, 80)};
     OptionButton Option11{Frame3, "CRC32", at(16, 24, 96, 24)};
-    OptionButton Option12{Frame3, "MD5", at(128, 24, 96, 24)};
+    OptionButton Option12{Frame3, "MD5", at(128, 24, 88, 24)};
     OptionButton Option13{Frame3, "SHA-1", at(16, 50, 96, 24)};
-    OptionButton Option14{Frame3, "MD4", at(128, 50, 96, 24)};
-    Label Label28{advF, "Anti-Virus Shell Options:", at(16, 136, 568, 20)};
-    CheckBox Check10{advF, "Enclose Files with Quotes", at(16, 156, 240, 24)};
-    Label Label1{advF, "Warning! Current options may cause errors!", at(264, 156, 320, 24)};
+    OptionButton Option14{Frame3, "MD4", at(128, 50, 88, 24)};
+    Label Label28{advF, "Anti-Virus Shell Options:", at(24, 136, 552, 20), TextStyle::Heading};
+    CheckBox Check10{advF, "Enclose Files with Quotes", at(24, 160, 240, 24)};
+    Label Label1{advF, "Warning! Current options may cause errors!", at(264, 160, 312, 24)};
     CheckBox Check11{
         advF, "Use ShortPath File Names (For DOS-Based On-Demand Anti-Virus scanners...Example: McAfee)",
-        at(16, 180, 568, 24)};
+        at(24, 184, 568, 24)};
     CheckBox avfocus{advF, "Give anti-virus program Focus (Fixes GUI Errors with AVAST 4)",
-                     at(16, 204, 568, 24)};
-    Label Label30{advF, "Micellaneous:", at(16, 232, 96, 24)};
+                     at(24, 208, 552, 24)};
+    Label Label30{advF, "Micellaneous:", at(24, 236, 88, 24)};
     check wsh{advF, "Use Windows Scripting Host (If Auto-Load won't create shortcut/save)",
-              at(112, 232, 472, 24)};
+              at(112, 236, 464, 24)};
 
     // Compare Speeds: the report, and one of its three tests as a chart.
-    ListBox List1{advF, at(16, 264, 468, 162)};
-    Label chartHeading{advF, "Time by buffer:", at(490, 262, 102, 18), TextStyle::Hint};
-    BarChart speedChart{advF, "", 4, at(490, 280, 94, 146)};
-    cButton cSave2{advF, "Save", at(16, 440, 136, 32)};
-    cButton cButton1{advF, "Cancel", at(160, 440, 136, 32)};
-    cButton cSpeeds{advF, "Compare Speeds", at(408, 440, 176, 32)};
+    ListBox List1{advF, at(24, 268, 452, 162), true, "Press Compare Speeds to time this machine"};
+    Label chartHeading{advF, "Time by buffer:", at(482, 266, 102, 18), TextStyle::Hint};
+    BarChart speedChart{advF, "", 4, at(482, 284, 94, 146)};
+    cButton cSpeeds{advF, "Compare Speeds", at(24, 440, 168, 32)};
+    cButton cButton1{advF, "Cancel", at(320, 440, 112, 32)};
+    cButton cSave2{advF, "Save", at(440, 440, 136, 32), Rank::Primary};
 
     /// The controls behind the positions of a stored list.
     std::array<CheckBox*, 3> shellChecks{&Check10, &Check11, &avfocus};

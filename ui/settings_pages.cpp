@@ -14,6 +14,7 @@
 #include "ui/settings_controls.h"
 #include "ui/short_cut.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <limits>
 #include <vector>
@@ -46,6 +47,9 @@ SettingsPages::SettingsPages(SettingsControls& screen, AdvancedControls& advance
     , scanners_(scanners)
     , shortcuts_(shortcuts) {
     screen_.cSave.onClick = [this] { save(); };
+    for (check* box : typesAtLogOn()) {
+        box->onClick = [this] { tellNothingTicked(); };
+    }
 }
 
 void SettingsPages::loadSettings() {
@@ -64,8 +68,18 @@ void SettingsPages::loadSettings() {
 
 bool SettingsPages::loadAutoLoad() {
     screen_.Check1.setValue(funcMod.fileThere(shortCut::autoLoadShortcut(platform, globals.texts)));
-    return tick(screen_.autoLoadChecks, settings.getSetting("GETSETT")) &&
-           tick(screen_.shutDownChecks, settings.getSetting("GETSETT2"));
+    const bool read = tick(screen_.autoLoadChecks, settings.getSetting("GETSETT"));
+    tellNothingTicked();
+    return read && tick(screen_.shutDownChecks, settings.getSetting("GETSETT2"));
+}
+
+std::span<check* const> SettingsPages::typesAtLogOn() const {
+    return std::span(screen_.autoLoadChecks).first<6>();
+}
+
+void SettingsPages::tellNothingTicked() {
+    screen_.nothingTicked.Visible =
+        std::ranges::none_of(typesAtLogOn(), [](const check* box) { return box->value() != 0; });
 }
 
 bool SettingsPages::loadAdvanced() {

@@ -2,6 +2,7 @@
 
 #include "core/services.h"
 
+#include <span>
 #include <string>
 
 namespace tarvelon {
@@ -10,6 +11,7 @@ struct AdvancedControls;
 struct SAvirScreen;
 struct SettingsControls;
 class OwnShortcuts;
+class check;
 
 /// The settings page and the advanced page of the main window.
 class SettingsPages : Services {
@@ -25,6 +27,8 @@ public:
 private:
     void save();
     bool loadAutoLoad();
+    std::span<check* const> typesAtLogOn() const;
+    void tellNothingTicked();
     bool loadAdvanced();
     bool loadShellOptions();
 
