@@ -4,6 +4,7 @@
 #include "ui/controls/controls.h"
 
 #include <array>
+#include <initializer_list>
 
 namespace tarvelon {
 
@@ -29,6 +30,7 @@ struct IntCheckScreen : Screen {
         };
         allPasses.name = "Files done";
         Image11.isCancel = true;
+        grow();
         Image9.ToolTip = "Holds the scan until you press Resume";
     }
 
@@ -157,6 +159,28 @@ struct IntCheckScreen : Screen {
                                       {exeRow, l_exe2, l_exe, l_sexe},
                                       {exe2Row, l_2exe2, l_2exe, l_2sexe},
                                       {custRow, l_cust2, l_cust, l_scust}}};
+
+private:
+    /// Made larger, the window shows more of what is long; the foot stays at its corner.
+    void grow() {
+        canGrow = true;
+        for (Control* filling : std::initializer_list<Control*>{&Frame1, &Frame2, &Frame3, &List1}) {
+            filling->onGrowth = {.widens = true, .heightens = true};
+        }
+        for (Control* wide : std::initializer_list<Control*>{&Label13, &filesDone, &allPasses, &Label14,
+                                                             &found, &figures, &Label10}) {
+            wide->onGrowth = {.widens = true};
+        }
+        for (const PassLabels& pass : passes) {
+            pass.row.onGrowth = {.widens = true};
+            pass.file.onGrowth = {.widens = true};
+            pass.percent.onGrowth = {.movesRight = true};
+        }
+        for (Control* cornered :
+             std::initializer_list<Control*>{&Image11, &progressFoot, &resultsFoot, &failedFoot}) {
+            cornered->onGrowth = {.movesRight = true, .movesDown = true};
+        }
+    }
 };
 
 } // namespace tarvelon

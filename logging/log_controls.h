@@ -13,6 +13,7 @@ struct LogControls {
         Label26.Visible = false;
         TreeView2.name = "Logs";
         List4.name = "Report";
+        cX.isCancel = true;
         cReports.ToolTip = "Lists the reports by date and time";
         cViewReport.ToolTip = "Opens the report whose time is selected";
         cScnLog.ToolTip = "Has the scanner look at these files once more";
