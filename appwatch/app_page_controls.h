@@ -9,6 +9,7 @@ struct AppPageControls {
     explicit AppPageControls(Screen& screen)
         : appF(screen, at(160, 0, 600, 488), false) {
         txtTitle.Caption = "No Window Selected";
+        txtTitle.name = "Title of the window";
         lstOpenWindows.name = "Open windows";
         act.ToolTip = "Brings the selected window to the front";
         cl.ToolTip = "Asks the selected window to close";

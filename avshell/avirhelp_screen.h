@@ -15,6 +15,7 @@ struct AVirHelpScreen : Screen {
         }
         Command4.ToolTip = "Looks for the program's file in the folder of programs";
         Command2.ToolTip = "Has the program look at a harmless file";
+        Text2.name = "The file that was found";
         List1.name = "Anti-virus programs";
     }
 

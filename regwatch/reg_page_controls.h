@@ -17,6 +17,7 @@ struct RegPageControls {
         cMod.ToolTip = "Lists the files that the next restart replaces or deletes";
         Command1.ToolTip = "Reads the watched places and compares them with what was there last";
         List5.name = "Registry warnings";
+        Text4.name = "Selected entry";
         TreeView1.name = "Watched registry entries";
         List6.name = "Files pending for the next restart";
     }

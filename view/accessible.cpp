@@ -102,7 +102,7 @@ LONG stateOf(const ControlWindow& window) {
     return state;
 }
 
-/// What stands in front of a field and names it.
+/// What stands in front of a field and names it, or the title of the box around it.
 std::string labelBefore(const Control& field) {
     const auto& controls = field.screen().controls();
     for (auto at = std::ranges::find(controls, &field); at != controls.begin();) {
@@ -112,7 +112,7 @@ std::string labelBefore(const Control& field) {
             return before.Caption();
         }
     }
-    return {};
+    return field.frame() ? field.frame()->Caption() : std::string();
 }
 
 /// Captions of buttons have "&&" for one "&".

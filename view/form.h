@@ -88,7 +88,7 @@ private:
     bool isOwnKey(const MSG& message);
     void dropped(HDROP drop);
     const Control* dropTargetAt(POINT inside) const;
-    bool pressFirst(const std::function<bool(const Control&)>& isWanted);
+    bool pressFirst(const std::function<bool(const Control&)>& isWanted, bool takesFocus = false);
 
     Screen& screen_;
     ViewTools& tools_;

@@ -137,7 +137,7 @@ bool FormWindow::isOwnKey(const MSG& message) {
     const int key = static_cast<int>(message.wParam);
     if (message.message == WM_SYSCHAR) {
         const auto letter = static_cast<char>(std::toupper(key));
-        return pressFirst([letter](const Control& control) { return control.accessKey == letter; });
+        return pressFirst([letter](const Control& control) { return control.accessKey == letter; }, true);
     }
     if (message.message == WM_SYSKEYDOWN && key == VK_MENU) {
         showAccessKeys(true);
@@ -197,12 +197,15 @@ const Control* FormWindow::dropTargetAt(POINT inside) const {
     return takers.size() == 1 ? takers.front() : nullptr;
 }
 
-/// Presses the first of the controls that can be used now; one that is not pressed gets the keyboard. False
-/// when there is none.
-bool FormWindow::pressFirst(const std::function<bool(const Control&)>& isWanted) {
+/// Presses the first of the controls that can be used now; one that is not pressed gets the keyboard, and any
+/// one if it `takesFocus`. False when there is none.
+bool FormWindow::pressFirst(const std::function<bool(const Control&)>& isWanted, bool takesFocus) {
     for (const Control* control : screen_.controls()) {
         ControlWindow* window = windowOf(*control);
         if (window && isWanted(*control) && control->isShown() && control->isUsable()) {
+            if (takesFocus && window->takesKeys()) {
+                SetFocus(window->window());
+            }
             window->use();
             return true;
         }
