@@ -17,7 +17,8 @@ public:
     using std::logic_error::logic_error;
 };
 
-/// One box that the script awaits. Title, buttons and icon are only looked at when they are given.
+/// One box that the script awaits. Title, buttons and icon are only looked at when they are given. A text
+/// that ends in "..." is the beginning of a longer one.
 struct ExpectedBox {
     std::string text;
     Answer answer = Answer::Ok;

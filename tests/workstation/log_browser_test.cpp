@@ -11,17 +11,15 @@ protected:
         pc.files.put(dataFolder + "Integrity.dat", "");
         pc.files.put(R"(C:\av.exe)", "");
         putSettings({.passCount = "2", .antivirus = "C:\\av.exe|/s", .av2 = "C:\\two.exe|/t"});
-        report("03-05-2006(3_04_07PM)", "Heading,C:\\A.DLL,C:\\B.DLL,C:\\C.DLL\r\n");
-        report("03-05-2006(9_00_00AM)", "Only the heading\r\n");
-        report("03-06-2006(3_04_07PM)", "Another day\r\n");
+        put("03-05-2006(3_04_07PM)", "Heading,C:\\A.DLL,C:\\B.DLL,C:\\C.DLL\r\n");
+        put("03-05-2006(9_00_00AM)", "Only the heading\r\n");
+        put("03-06-2006(3_04_07PM)", "Another day\r\n");
         ASSERT_FALSE(start());
         form().Image11.click();
         form().cReports.click();
     }
 
-    MForm1Screen& form() { return app->mForm1; }
-
-    void report(const std::string& name, const std::string& text) {
+    void put(const std::string& name, const std::string& text) {
         pc.files.put(dataFolder + "Log\\" + name + ".log", text);
     }
 
@@ -59,8 +57,8 @@ protected:
 };
 
 TEST_F(Reports, TheTreeShowsDatesAndTimesAlsoEqualOnes) {
-    report("notes", "foreign");
-    report("1-2-2006(15_04_07)", "24 hours");
+    put("notes", "foreign");
+    put("1-2-2006(15_04_07)", "24 hours");
     pc.files.makeFolders(dataFolder + "Log\\zz(.log\\");
     form().cReports.click();
     EXPECT_EQ(tree(), "03-05-2006\n  3:04:07 PM\n  9:00:00 AM\n03-06-2006\n  3:04:07 PM\n"
@@ -75,39 +73,27 @@ TEST_F(Reports, TheTreeShowsDatesAndTimesAlsoEqualOnes) {
 }
 
 TEST_F(Reports, AReportIsShownUpToItsFirstEmptyField) {
-    std::string big = "Heading";
-    for (int number = 0; number < 5000; ++number) {
-        big += ",C:\\" + std::string(200, 'x') + std::to_string(number) + ".DLL";
-    }
     for (const auto& [text, rows] : {std::pair<std::string, Rows>{"", {}},
                                      {"Heading, x ,,never shown\r\n", {"Heading", "x"}},
-                                     {"\r\nnever shown", {}},
                                      {"  a b \r\n\xff\r\n, ,x", {"a b", "\u00ff"}},
-                                     {"\x01|\"\n", {"\x01|\"\n"}},
-                                     {big, split(big, ',')}}) {
-        report("03-05-2006(3_04_07PM)", text);
-        EXPECT_EQ(view("03-05-2006|3:04:07 PM"), rows) << text.substr(0, 99);
+                                     {"\x01|\"\n", {"\x01|\"\n"}}}) {
+        put("03-05-2006(3_04_07PM)", text);
+        EXPECT_EQ(view("03-05-2006|3:04:07 PM"), rows) << text;
     }
 }
 
 TEST_F(Reports, TheFilesOfAReportAreScannedAgain) {
     view("03-05-2006|3:04:07 PM");
     EXPECT_TRUE(form().repF.isShown() && !form().setFq.isShown() && !form().Label26.Visible());
-    tells("Anti-Virus program executed successfully!");
-    form().cScnLog.click();
+    clickTelling(form().cScnLog, "Anti-Virus program executed successfully!");
     EXPECT_EQ(lines(),
               (Rows{R"(C:\av.exe /s "C:\A.DLL" "C:\B.DLL" )", R"(C:\two.exe /t "C:\A.DLL" "C:\B.DLL" )",
                     R"(C:\av.exe /s "C:\C.DLL" )", R"(C:\two.exe /t "C:\C.DLL" )"}));
     pc.processes.canStart = [](const std::string&) { return false; };
-    tells("Your Anti-Virus program could not be executed!!!\rPlease verify the path of the "
-          "software:\rC:\\av.exe");
-    form().cScnLog.click();
+    clickTelling(form().cScnLog, notExecuted + "C:\\av.exe");
     form().cX.click();
-    EXPECT_TRUE(form().setFq.isShown());
     click("03-05-2006|9:00:00 AM");
     form().TreeView2.doubleClick();
-    tells("Anti-Virus program executed successfully!"); // Though there is nothing to scan.
-    form().cScnLog.click();
     EXPECT_EQ(form().List4.count(), 1);
 }
 
@@ -127,13 +113,13 @@ TEST_F(Reports, AreDeletedSinglyByDateAndAllIfTheUserSaysSo) {
     EXPECT_NE(form().TreeView2.selected(), nullptr) << "it is left as it is";
     deletes("Are you sure you want to delete this Report?", deleteShown, kept + date);
     EXPECT_TRUE(form().setFq.isShown());
-    report("03-06-2006(4_00_00PM)", "late");
+    put("03-06-2006(4_00_00PM)", "late");
     click("03-06-2006");
     form().TreeView2.keyDown(65);
     EXPECT_EQ(tree(), kept + date + "  4:00:00 PM\n") << "every key rebuilds the tree";
     deletes(
         "Delete All Logs on this (03-06-2006) Date?", [&] { deleteKeyOn("03-06-2006"); }, kept);
-    report("03-06-2006(3_04_07PM)", "back again");
+    put("03-06-2006(3_04_07PM)", "back again");
     form().cReports.click();
     deletes(
         "Delete Log Entry?", [&] { deleteKeyOn("03-05-2006|9:00:00 AM"); }, date);

@@ -57,6 +57,11 @@ void Session::asks(const std::string& text, Answer answer, const std::string& ti
     pc.dialogs.expect({.text = text, .answer = answer, .title = title, .buttons = Buttons::YesNo});
 }
 
+void Session::pendingRenames(const std::string& bytes) {
+    pc.registry.setValue(Registry::localMachine, R"(System\CurrentControlSet\Control\Session Manager)",
+                         "PendingFileRenameOperations", {SimRegistry::TextList, bytes});
+}
+
 Rows Session::lines() const {
     Rows all;
     for (const StartedProcess& process : pc.processes.started()) {

@@ -20,15 +20,15 @@ using testing::HasSubstr;
 inline const std::string programFolder = R"(C:\Program Files\Tarvelon\)";
 inline const std::string dataFolder = programFolder + R"(Data\)";
 inline const std::string systemFolder = R"(C:\WINDOWS\system32\)";
+inline const std::string runKey = R"(Software\Microsoft\Windows\CurrentVersion\Run)";
+inline const std::string report = dataFolder + "Log\\03-05-2006(3_04_07PM).log"; ///< Of one made now.
 inline const std::string firstRunQuestion =
     "This is your first time using Tarvelon.  Tarvelon is required to do a system file Integrity scan before "
     "proceeding.\r\nIf you are sure there are no viruses on your computer, it is safe to scan now. "
     "Otherwise, "
     "please do a full scan at a later time. The full scan should take no more than five minutes to "
     "complete.\r\n\r\nPerform scan now?";
-inline const std::string firstRunRefused =
-    "You have chosen not to do a full scan at this time.  You need to run the full scan before using the "
-    "Integrity Checker.";
+inline const std::string firstRunRefused = "You have chosen not to do a full scan at this time...";
 
 inline const std::string allTypes = "1,1,1,1,1,1,0,0"; ///< Without automatic scan and reports.
 
@@ -38,9 +38,6 @@ inline const std::string notExecuted =
 
 inline const std::string leaveFindings =
     "Some files failed the integrity check!  Are you sure you want to exit?";
-inline const std::string fullScanQuestion =
-    "You have not yet completed the full system scan.  This is required "
-    "before using the Integrity Checker.  Perform scan now?";
 
 /// What a settings file holds.
 struct SettingsText {
@@ -105,6 +102,11 @@ protected:
 
     std::string file(const std::string& path) const { return pc.files.get(path).value_or("(missing)"); }
     std::string data(const std::string& name) const { return file(dataFolder + name); }
+
+    MForm1Screen& form() { return app->mForm1; }
+
+    /// Has the system delete these files at its next start.
+    void pendingRenames(const std::string& bytes);
 
     SimWorkstation pc;
     std::unique_ptr<Application> app;
