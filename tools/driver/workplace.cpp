@@ -77,7 +77,7 @@ void writeFile(const std::string& path, const std::string& bytes) {
 ProgramFolder::ProgramFolder(const std::string& name)
     : path_("C:\\Tarvelon\\" + name + "\\") {
     CreateDirectoryA("C:\\Tarvelon", nullptr);
-    removeTree(path_);
+    removeTree("\\\\?\\" + path_); // Long paths too.
     CreateDirectoryA(path_.c_str(), nullptr);
     if (CopyFileA(inputs().program.c_str(), program().c_str(), FALSE) == 0) {
         throw std::runtime_error("cannot copy " + inputs().program);
