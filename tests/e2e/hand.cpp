@@ -33,13 +33,6 @@ bool isDull(HWND control) {
            std::ranges::count(endings, withoutMarks(shownText(control))) > 0;
 }
 
-/// Half-way down the title bar, so far from its right end.
-POINT onTitle(HWND window, LONG fromRight) {
-    const RECT place = placeOf(window);
-    return {place.right - fromRight,
-            place.top + GetSystemMetrics(SM_CYFIXEDFRAME) + GetSystemMetrics(SM_CYCAPTION) / 2};
-}
-
 /// Somewhere well inside.
 POINT pointIn(const RECT& place, Chance& chance) {
     const auto between = [&](LONG from, LONG to) {
@@ -50,13 +43,11 @@ POINT pointIn(const RECT& place, Chance& chance) {
     return {x, between(place.top, place.bottom)};
 }
 
-/// Presses here and lets go there.
-void press(const POINT& where, const POINT& there) {
+void press(const POINT& where) {
     SetCursorPos(where.x, where.y);
     Sleep(touch);
     sendMouse(MOUSEEVENTF_LEFTDOWN);
     Sleep(touch);
-    SetCursorPos(there.x, there.y);
     sendMouse(MOUSEEVENTF_LEFTUP);
 }
 
@@ -109,35 +100,23 @@ std::string clickSomething(const std::vector<HWND>& windows, Chance& chance) {
         control = chance.of(all);
     }
     const POINT where = pointIn(placeOf(control), chance);
-    const bool drags = chance.oneIn(15);
-    const bool twice = !drags && chance.oneIn(8);
-    const std::string done = (drags   ? "drags from "
-                              : twice ? "double click on "
-                                      : "click on ") +
-                             named(control);
-    press(where, drags ? pointIn(placeOf(chance.of(all)), chance) : where);
+    const bool twice = chance.oneIn(8);
+    const std::string done = (twice ? "double click on " : "click on ") + named(control);
+    press(where);
     if (twice) {
-        press(where, where);
+        press(where);
     }
     return done;
-}
-
-/// One of the title bar's buttons, or the bar beside them.
-std::string useFrame(Chance& chance) {
-    HWND const window = GetForegroundWindow();
-    const LONG button = GetSystemMetrics(SM_CYCAPTION);
-    const POINT where = onTitle(window, button / 2 + button * static_cast<LONG>(chance.below(6)));
-    press(where, where);
-    return "title bar of " + named(window);
 }
 
 /// From another program, or from a window that is minimised.
 std::string comeBack(HWND window) {
     const std::string done = (IsIconic(window) != 0 ? "restores " : "comes back to ") + named(window);
     const RECT place = placeOf(window);
-    const POINT where = onTitle(window, (place.right - place.left) / 2);
+    const POINT where{(place.left + place.right) / 2,
+                      place.top + GetSystemMetrics(SM_CYFIXEDFRAME) + GetSystemMetrics(SM_CYCAPTION) / 2};
     for (int times = IsIconic(window) != 0 ? 2 : 1; times > 0; --times) {
-        press(where, where);
+        press(where);
     }
     return done;
 }
@@ -154,12 +133,6 @@ bool isSystemDialog(HWND window) {
     return classOf(window) == "#32770" && std::ranges::any_of(children, [](HWND child) {
                return classOf(child) != "Button" && classOf(child) != "Static";
            });
-}
-
-Hand::~Hand() {
-    for (const WORD key : held_) {
-        sendKey(key, KEYEVENTF_KEYUP);
-    }
 }
 
 std::string Hand::act(Chance& chance) {
@@ -184,23 +157,7 @@ std::string Hand::act(Chance& chance) {
     if (GetNextDlgTabItem(front, nullptr, FALSE) == nullptr) {
         Sleep(20 * touch); // There is nothing to do but to wait.
     }
-    const std::uint32_t kind = chance.below(100);
-    if (kind < 50) {
-        return pressSomeKey(chance);
-    }
-    if (kind < 54) {
-        return holdOrLetGo(chance.oneIn(2) ? VK_SHIFT : VK_SPACE);
-    }
-    return kind < 96 ? clickSomething(windows, chance) : useFrame(chance);
-}
-
-std::string Hand::holdOrLetGo(WORD key) {
-    const bool down = held_.insert(key).second;
-    if (!down) {
-        held_.erase(key);
-    }
-    sendKey(key, down ? 0 : KEYEVENTF_KEYUP);
-    return std::string(down ? "holds " : "lets go ") + (key == VK_SHIFT ? "SHIFT" : "Space");
+    return chance.oneIn(2) ? pressSomeKey(chance) : clickSomething(windows, chance);
 }
 
 /// One that asks for a file has a field for its name, one that asks for a folder a tree.

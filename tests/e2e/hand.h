@@ -4,7 +4,6 @@
 
 #include <cstdint>
 #include <random>
-#include <set>
 #include <string>
 
 namespace e2e {
@@ -33,19 +32,15 @@ public:
     Hand(const Program& program, std::string scanner)
         : program_(program)
         , scanner_(std::move(scanner)) {}
-    Hand(const Hand&) = delete;
-    ~Hand();
 
     /// One event. Tells what was done.
     std::string act(Chance& chance);
 
 private:
-    std::string holdOrLetGo(WORD key);
     std::string useSystemDialog(const Box& box, Chance& chance);
 
     const Program& program_;
     const std::string scanner_;
-    std::set<WORD> held_;
 };
 
 /// True for a dialog that is the system's own, not a message box.

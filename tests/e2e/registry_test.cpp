@@ -12,19 +12,12 @@
 namespace e2e {
 namespace {
 
-using Rows = std::vector<std::string>;
 using testing::AllOf;
 using testing::ElementsAre;
 using testing::HasSubstr;
 
 const std::string run = R"(Software\Microsoft\Windows\CurrentVersion\Run)";
-const std::string heading = "New and Modified Registry Entry Warnings";
 const std::string noWarnings = "*No new or modified Registry Entries*";
-
-void awaitRows(const Form& window, const Rows& rows) {
-    comesTrue([&] { return window.rows() == rows; }, Milliseconds(20'000));
-    EXPECT_EQ(window.rows(), rows);
-}
 
 TEST(RegistryWatch, FromTheFirstSnapshotToAcceptedWarnings) {
     const ProgramFolder folder("registry");
@@ -45,23 +38,10 @@ TEST(RegistryWatch, FromTheFirstSnapshotToAcceptedWarnings) {
                                   HasSubstr("[LM/" + commandLine), HasSubstr("[CR/" + commandLine)));
 
     altered.rewrite("C:\\Old.exe");
-    const PlantedValue binary(HKEY_LOCAL_MACHINE, run, "Binary", REG_BINARY, "\x0A\x10\x05\x99");
-    const PlantedValue number(HKEY_LOCAL_MACHINE, run, "Number", REG_DWORD, std::string("A\0\0\0", 4));
-    const PlantedValue later(HKEY_LOCAL_MACHINE, run + "Once", "Later", REG_EXPAND_SZ,
-                             std::string("%windir%\\x.exe", 15));
-    const Form window = program.form("Welcome to Tarvelon");
     program.press("Refresh");
-    awaitRows(window, {heading, "HKEY_LOCAL_MACHINE|Loaded in Run\\Altered (C:\\Old.exe) Entry Modified!",
-                       "HKEY_LOCAL_MACHINE|Loaded in Run\\Binary (A 10 05 ) New Entry!",
-                       "HKEY_LOCAL_MACHINE|Loaded in Run\\Number (A New Entry!",
-                       "HKEY_LOCAL_MACHINE|Loaded in RunOnce\\Later (%windir%\\x.exe New Entry!"});
-    binary.remove();
-    number.remove();
-    later.remove();
-    program.press("Refresh");
-    awaitRows(window, {heading, "HKEY_LOCAL_MACHINE|Loaded in Run\\Altered (C:\\Old.exe) Entry Modified!"});
+    program.awaitText("HKEY_LOCAL_MACHINE|Loaded in Run\\Altered (C:\\Old.exe) Entry Modified!");
     program.press("Scan & Update Warnings");
-    awaitRows(window, {heading, noWarnings});
+    program.awaitText(noWarnings);
     EXPECT_THAT(scanner.records(1),
                 ElementsAre("2 " + scanner.path() + " /scan  \"C:\\Old.exe\" !C:\\Old.exe"));
     EXPECT_THAT(recorded(), HasSubstr("[LM/R]\r\nAltered= (C:\\Old.exe)\r\n"));

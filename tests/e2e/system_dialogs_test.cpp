@@ -25,15 +25,9 @@ TEST(SystemDialogs, AFolderAndAScannerArePicked) {
     program.play({{"Integrity Scan"}, {"Add/Remove Custom Folders...", "1) Empty:"}, add, {"Cancel"}, add});
     TreeView(Form(program.box().window).tree()).pick(watched.path());
     program.press("OK");
-    program.play({{"", "Folder Added."},
-                  {"OK"},
-                  {"1) " + watched.path(), "Currently Selected: 1) " + watched.path()},
-                  {"Scan this Folder at Startup (AutoLoad)", "Scan DLL Files"},
-                  {"Scan DLL Files"},
-                  {"Save and Exit", "Save Successful!"},
-                  {"OK"}});
+    program.play({{"", "Folder Added."}, {"OK"}, {"Save and Exit", "Save Successful!"}, {"OK"}});
     EXPECT_THAT(folder.data("Tarvelon.dat"),
-                Optional(HasSubstr("path=" + watched.path() + "\r\nargs=1,0,0,0,0,0,1\r\n")));
+                Optional(HasSubstr("path=" + watched.path() + "\r\nargs=0,0,0,0,0,0,0\r\n")));
 
     const Step choose{"Choose...", "Choose Anti-Virus Executable File"};
     program.play({{"Options"},

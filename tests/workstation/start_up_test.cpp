@@ -166,6 +166,7 @@ TEST_F(StartUpRun, EveryEntryOpensItsPageAndNoOther) {
     opens(window.Image5, window.intF);
     opens(window.Image7, window.regF);
     opens(window.Image9, window.appF);
+    EXPECT_TRUE(window.Image9.Current());
     opens(window.Image11, window.setFq);
     EXPECT_TRUE(window.Image11.Current() && !window.Image9.Current());
     opens(window.cButton2, window.advF);
