@@ -1,7 +1,6 @@
 #include "platform/sim/sim_dialogs.h"
 
 #include <cstring>
-#include <string_view>
 
 namespace tarvelon {
 
@@ -13,13 +12,8 @@ std::string describe(const MessageBox& box) {
            std::to_string(static_cast<int>(box.icon));
 }
 
-bool isText(std::string_view expected, std::string_view text) {
-    return expected == text ||
-           (expected.ends_with("...") && text.starts_with(expected.substr(0, expected.size() - 3)));
-}
-
 bool matches(const ExpectedBox& expected, const MessageBox& box) {
-    return isText(expected.text, box.text) && (!expected.title || *expected.title == box.title) &&
+    return expected.text == box.text && (!expected.title || *expected.title == box.title) &&
            (!expected.buttons || *expected.buttons == box.buttons) &&
            (!expected.icon || *expected.icon == box.icon);
 }

@@ -17,8 +17,7 @@ public:
     using std::logic_error::logic_error;
 };
 
-/// One box that the script awaits. Title, buttons and icon are only looked at when they are given. A text
-/// that ends in "..." is the beginning of a longer one.
+/// One box that the script awaits. Title, buttons and icon are only looked at when they are given.
 struct ExpectedBox {
     std::string text;
     Answer answer = Answer::Ok;

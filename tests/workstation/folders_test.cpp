@@ -50,9 +50,12 @@ TEST_F(Folders, AFolderIsAddedScannedChangedFoundAcceptedAndRemoved) {
     saveFolders();
     EXPECT_EQ(form().Combo1.items(), (Rows{systemFolder, "C:\\Tools\\", "C:\\More\\"}));
     for (const Answer answer : {Answer::No, Answer::Yes}) {
-        asks("This Custom Folder C:\\Tools\\ has not been fully scanned yet...", answer);
+        asks("This Custom Folder C:\\Tools\\ has not been fully scanned yet. The scan is required by the "
+             "Integrity Checker.\r\n\r\nPerform scan now?",
+             answer);
         tells(answer == Answer::Yes ? "Initial Custom Folder Scan Completed Successfully!"
-                                    : "You have chosen not to scan this Custom Folder...");
+                                    : "You have chosen not to scan this Custom Folder.  You need to run the "
+                                      "scan before using this Custom Folder Integrity Checker.");
         form().Combo1.select(1);
         EXPECT_EQ(form().Combo1.listIndex(), answer == Answer::Yes ? 1 : 0);
         EXPECT_FALSE(settle());
@@ -108,7 +111,9 @@ TEST_F(Folders, TwentyAreTakenWithoutTheDefaultAndDoubles) {
         write("path", "C:\\F" + std::to_string(slot) + "\\", std::to_string(slot));
     }
     form().addRem.click();
-    addFolder(R"(c:\windows\SYSTEM32)", "This is the default folder that Tarvelon scans...");
+    addFolder(
+        R"(c:\windows\SYSTEM32)",
+        "This is the default folder that Tarvelon scans. It cannot be added to the Custom Integrity Checker");
     for (const Answer answer : {Answer::No, Answer::Yes}) {
         EXPECT_EQ(manager().List1.item(19) + manager().List3.item(19), "20) Empty:0,0,0,0,0,0,0")
             << "forgotten";

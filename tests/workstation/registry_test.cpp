@@ -144,7 +144,9 @@ TEST_F(RegistryWatch, WhatIsSelectedCanBeDeleted) {
     select("#1 (u.exe)");
     EXPECT_TRUE(deletes("User", user, run, Answer::Yes));
     select("#3 (other %1)");
-    asks("This key will not be deleted...", Answer::Yes, "Caution");
+    asks("This key will not be deleted.\r\nYou must change the value manually. Would you like to open the "
+         "Registry for Editing now?",
+         Answer::Yes, "Caution");
     form().Command3.click();
     EXPECT_EQ(pc.processes.started().back(), (StartedProcess{"regedit.exe", WindowStyle::MinimizedFocus}));
     EXPECT_TRUE(pc.registry.value(classes, "bat" + command, ""));

@@ -289,7 +289,11 @@ TEST_F(Scan, AFailingScannerLeavesTheFindingsAndAMissingOneIsPassedOver) {
     configure({.settings = allTypes, .passCount = "1"});
     pc.files.remove(R"(C:\av\scan.exe)");
     find(2);
-    clickTelling(screen().Label12, "You do not have any Anti-Virus program setup with Tarvelon...");
+    clickTelling(
+        screen().Label12,
+        "You do not have any Anti-Virus program setup with Tarvelon.  For your conveniance, these files "
+        "will be added to the log, and will be updated in your Integrity File (so that you can scan them "
+        "for viruses later).");
     EXPECT_EQ(file(report),
               "Integrity Checker - These files were logged because you didn't setup an Anti-Virus Scanner," +
                   systemFolder + "a.dll\r\n")

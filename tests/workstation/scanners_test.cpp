@@ -47,7 +47,7 @@ TEST_F(Scanners, AChoiceBringsArgumentsByTheFirstScannersNameAndIsStored) {
 
     form().Text5.typed(R"(C:\gone.exe)");
     form().Text1.typed(R"(C:\gone.exe)");
-    tells("You didn't choose an anti-virus software exe...");
+    tells(noScanner);
     clickTelling(form().cButton3, "Save Success!");
     EXPECT_THAT(data("Tarvelon.dat"), HasSubstr("antivirus=Anti-Virus Software| \r\nav2=|\r\n"));
 }
@@ -61,17 +61,24 @@ TEST_F(Scanners, TheCatalogueSearchesTestsAndHandsOver) {
     EXPECT_FALSE(help.Command2.Enabled() || help.Command3.Enabled());
     const auto search = [&](int row, const std::string& outcome) {
         help.List1.select(row);
-        tells("Tarvelon may become unresponsive during the file search...");
+        tells("Tarvelon may become unresponsive during the file search. This is normal.\r\rClick OK to "
+              "continue.");
         clickTelling(help.Command4, outcome);
         return help.Command2.Enabled() ? help.Text2.Caption() : "(none)" + help.Text2.Caption();
     };
-    EXPECT_EQ(search(15, "The default executable for this program was not found!..."), "(none)");
+    EXPECT_EQ(search(15, "The default executable for this program was not found! Make sure you selected "
+                         "the correct anti-virus program, and the correct operating system."),
+              "(none)");
     EXPECT_EQ(search(13, "Success!"), exe);
     pc.files.remove(exe);
     clickTelling(help.Command2, "You must choose a virus scanner before you proceed!");
     EXPECT_FALSE(help.Command3.Enabled());
     pc.files.put(exe, "");
-    clickTelling(help.Command2, "Tarvelon will now attempt to scan two files...");
+    clickTelling(
+        help.Command2,
+        "Tarvelon will now attempt to scan two files. If the Virus-Scanner you selected scans both files, "
+        "then it is fully compatible with Tarvelon! If not, make sure you chose the correct EXE file in "
+        "your anti-virus folder.");
     EXPECT_EQ(lines().back(),
               exe + " \"" + dataFolder + "Tarvelon.dat\" \"" + dataFolder + "Integrity.dat\"");
     help.Command3.click();
@@ -85,7 +92,11 @@ TEST_F(Scanners, TheCatalogueSearchesTestsAndHandsOver) {
     EXPECT_EQ(fields(), exe + "|/HEUR:3|" + exe + "|" + exe) << "for the first scanner by now";
     EXPECT_EQ(app->vDct.vpath.Caption() + app->vDct.varg.Caption(), exe + "/HEUR:3");
     form().chlpFind.click();
-    clickTelling(help.Command1, "There is a very good chance...");
+    clickTelling(
+        help.Command1,
+        "There is a very good chance that your anti-virus software is compatible.  As long as it supports "
+        "command line arguments, then it will work.\rTarvelon will now send you to the web site of "
+        "Quillfen.\r\rSimply click on Tarvelon, and click on Anti-Virus support.");
     EXPECT_EQ(pc.shell.opened().size(), 1u);
 }
 

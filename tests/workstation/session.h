@@ -28,7 +28,12 @@ inline const std::string firstRunQuestion =
     "Otherwise, "
     "please do a full scan at a later time. The full scan should take no more than five minutes to "
     "complete.\r\n\r\nPerform scan now?";
-inline const std::string firstRunRefused = "You have chosen not to do a full scan at this time...";
+inline const std::string firstRunRefused =
+    "You have chosen not to do a full scan at this time.  You need to run the full scan before using the "
+    "Integrity Checker.";
+inline const std::string noScanner =
+    "You didn't choose an anti-virus software exe.  We recommend that you get one to take full advantage of "
+    "Tarvelon";
 
 inline const std::string allTypes = "1,1,1,1,1,1,0,0"; ///< Without automatic scan and reports.
 

@@ -14,8 +14,6 @@ const std::string startupLink =
 const std::string desktopLink = R"(C:\Documents and Settings\User\Desktop\SecureShutDown.lnk)";
 const std::string ownLink = programFolder + "SecureShutDown.lnk";
 const std::string program = programFolder + "TarvelonLow.exe";
-const std::string noScanner = "You didn't choose an anti-virus software exe.  We recommend that you get one "
-                              "to take full advantage of Tarvelon";
 
 class SettingsRun : public Session {
 protected:
@@ -36,7 +34,9 @@ protected:
     void saveAdvanced() { clickTelling(form().cSave2, "Save Success!"); }
 
     void createSS(Answer onDesktop, const std::string& notice = "") {
-        asks("Tarvelon will now create a shortcut for you to use the Secure ShutDown...", onDesktop);
+        asks("Tarvelon will now create a shortcut for you to use the Secure ShutDown and Scan "
+             "Feature.\r\nWould you like this shortcut on your Desktop?",
+             onDesktop);
         tells(notice);
         clickTelling(form().cCreateSS, "Success!");
     }

@@ -8,7 +8,9 @@ namespace {
 
 using namespace std::string_literals;
 
-const std::string fullScanQuestion = "You have not yet completed the full system scan...";
+const std::string fullScanQuestion =
+    "You have not yet completed the full system scan.  This is required before using the Integrity Checker.  "
+    "Perform scan now?";
 
 class StartUpRun : public Session {
 protected:
@@ -183,14 +185,17 @@ TEST_F(StartUpRun, EveryEntryOpensItsPageAndNoOther) {
 TEST_F(StartUpRun, ButtonsLeadToTheHelpTheMakerAndTheUpdates) {
     const std::string page = "http://www.quillfen.example/";
     const std::string mail = "mailto:support@quillfen.example?subject=Tarvelon(v2.1.3)";
-    const std::string browse = "The Help file wasn't found or cannot be executed! Would you like...";
-    const std::string browsing = "Click on the Tarvelon page, then choose 'Online Help'...";
+    const std::string browse = "The Help file wasn't found or cannot be executed! Would you like to browse "
+                               "Tarvelon help on the web?";
+    const std::string browsing = "Click on the Tarvelon page, then choose 'Online Help'.\r\n\r\nThe web page "
+                                 "of Quillfen is being opened.";
     const std::string visit = "Would you like to visit the web site of Quillfen?";
-    const std::string download = "Tarvelon requires Orbexa (Orbexa Update Utility) to check for updates...";
+    const std::string download = "Tarvelon requires Orbexa (Orbexa Update Utility) to check for updates."
+                                 "\r\n\r\nWould you like to download Orbexa?";
     MForm1Screen& window = startedWindow();
     for (const std::string& text : {browse, browsing, visit, download, visit, visit,
                                     "The web site could not be opened. Please visit it by hand: " + page}) {
-        text == browsing || text.ends_with(page) ? tells(text) : asks(text, Answer::Yes);
+        text.ends_with("?") ? asks(text, Answer::Yes) : tells(text);
     }
     click(window.cButton6, window.cButton5, window.cUpdates, window.Label37);
     pc.shell.results = {{page, Shell::lastFailure}};
