@@ -105,8 +105,6 @@ struct IntCheckScreen : Screen {
     ListBox List1{Frame3, at(16, 28, 568, 302), true,
                   "All files are as the baseline has them"}; ///< rows: path, and the mark behind a new one
 
-    // Beside what each view goes on with; under every view, so that the results can be left as well.
-    cButton Image11{*this, "Cancel", at(240, 404, 112, 32)};
     Frame progressFoot{*this, at(360, 404, 224, 32), false};
     cButton Image9{progressFoot, "Pause", at(0, 0, 224, 32)};
     Label Label11{progressFoot, "Resume", at(0, 0, 224, 32), Rank::Primary, false};
@@ -114,6 +112,10 @@ struct IntCheckScreen : Screen {
     Label Label2{resultsFoot, "Repair and Update Failed Files...", at(0, 0, 224, 32), Rank::Primary};
     Frame failedFoot{*this, at(360, 404, 224, 32), false};
     Label Label12{failedFoot, "Scan Failing Files...", at(0, 0, 224, 32), Rank::Primary};
+
+    // Beside what each view goes on with; under every view, so that the results can be left as well. The
+    // keyboard comes to it last: a key that is pressed too soon must not end a scan.
+    cButton Image11{*this, "Cancel", at(240, 404, 112, 32)};
 
     struct View {
         Frame& page;

@@ -10,7 +10,7 @@ namespace tarvelon {
 struct StartControls {
     explicit StartControls(Screen& screen)
         : Frame2(screen, at(160, 0, 600, 488))
-        , readTimer(screen, 1) {
+        , readTimer(screen, 50) {
         for (Line& line : lines) {
             line.go.ToolTip = "Opens the place where this is set";
         }

@@ -38,8 +38,12 @@ StartPage::StartPage(MForm1Screen& screen, const Overview& overview)
 
 void StartPage::bind() {
     screen_.readTimer.onTick = [this] {
+        const bool isShown = screen_.Frame2.isShown();
+        if (isShown && scanRuns()) {
+            return; // At the next tick, perhaps.
+        }
         screen_.readTimer.Enabled = false;
-        if (screen_.Frame2.isShown() && !scanRuns()) {
+        if (isShown) {
             read();
         }
     };
