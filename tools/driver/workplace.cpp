@@ -29,7 +29,7 @@ void removeTree(const std::string& folder) {
             removeTree(folder + name + "\\");
         }
     }
-    RemoveDirectoryA(folder.c_str());
+    RemoveDirectoryA(folder.substr(0, folder.size() - 1).c_str());
 }
 
 } // namespace
