@@ -70,7 +70,7 @@ private:
     };
 
     std::optional<Place> place(const std::string& path) const;
-    std::optional<Place> placeByUtf8(std::string_view path) const;
+    std::optional<Place> placeByUtf8(std::string_view asked) const;
     std::string hostPathByUtf8(const std::string& path) const;
     void makeFoldersByUtf8(const std::string& path);
     std::string shown(const std::string& hostName, const std::vector<std::string>& namesInFolder) const;
