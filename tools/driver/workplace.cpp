@@ -1,5 +1,7 @@
 #include "workplace.h"
 
+#include "seen_windows.h"
+
 #include <windows.h>
 
 #include <array>
@@ -25,11 +27,11 @@ Inputs& storedInputs() {
 
 void removeTree(const std::string& folder) {
     for (const std::string& name : namesIn(folder)) {
-        if (DeleteFileA((folder + name).c_str()) == 0) {
+        if (DeleteFileW(wide(folder + name).c_str()) == 0) {
             removeTree(folder + name + "\\");
         }
     }
-    RemoveDirectoryA(folder.substr(0, folder.size() - 1).c_str());
+    RemoveDirectoryW(wide(folder.substr(0, folder.size() - 1)).c_str());
 }
 
 } // namespace
@@ -129,7 +131,7 @@ PlantedFile::PlantedFile(std::string path, const std::string& bytes)
 }
 
 PlantedFile::~PlantedFile() {
-    DeleteFileA(path_.c_str());
+    DeleteFileW(wide(path_).c_str());
 }
 
 void PlantedFile::stretch(const std::string& path, std::int64_t length) {
