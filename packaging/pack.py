@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Makes what users are given: pack.py BUILDS-FOLDER PACKAGE-FOLDER
 
-The zips for each width, and the SHA-256 sums of all. BUILDS-FOLDER holds windows-x64 and windows-x86. Nothing of this
+The zips for each width, the installer, and the SHA-256 sums of all. BUILDS-FOLDER holds windows-x64 and windows-x86. Nothing of this
 machine or moment goes in: names stand in order, and every file has the time of the commit.
 """
 
@@ -9,8 +9,10 @@ import hashlib
 import os
 import pathlib
 import re
+import struct
 import subprocess
 import sys
+import tempfile
 import time
 import zipfile
 
@@ -58,6 +60,74 @@ def write_zip(path, files):
             pack.writestr(entry, content, compresslevel=9)
 
 
+def icon_pixels(icon, side):
+    """The icon's picture of that size: rows from the top, each of (blue, green, red, opacity)."""
+    for at in range(6, 6 + 16 * int.from_bytes(icon[4:6], "little"), 16):
+        if icon[at] == side:
+            start = int.from_bytes(icon[at + 12:at + 16], "little") + 40
+            rows = [icon[start + 4 * side * y:start + 4 * side * (y + 1)] for y in range(side)]
+            return [[row[x:x + 4] for x in range(0, 4 * side, 4)] for row in reversed(rows)]
+    raise ValueError(f"the icon has no picture of {side} pixels")
+
+
+def bitmap(width, height, colour, pixels, left, top):
+    """A BMP file of one colour, blue first, with a picture laid on it."""
+    ground = [[colour] * width for _ in range(height)]
+    for y, row in enumerate(pixels):
+        for x, (*point, opacity) in enumerate(row):
+            ground[top + y][left + x] = tuple(
+                (over * opacity + under * (255 - opacity)) // 255 for over, under in zip(point, colour))
+    rows = [b"".join(bytes(point) for point in row) + bytes(-3 * width % 4) for row in reversed(ground)]
+    body = b"".join(rows)
+    return struct.pack("<2sIHHIIiiHHIIiiII", b"BM", 54 + len(body), 0, 0, 54, 40, width, height, 1, 24, 0, len(body),
+                       2835, 2835, 0, 0) + body
+
+
+def stage_installer(builds, stage):
+    """Puts together what setup.nsi takes in: the files, the lists of them, the pictures. Gives the size in KB."""
+    files = {}
+    for width in WIDTHS:
+        common = program_files(builds, width)
+        files[f"{width}/TarvelonLow.exe"] = common.pop("TarvelonLow.exe")
+    del common["Read me.txt"]
+    icon = (ROOT / "packaging" / "pictures" / "application.ico").read_bytes()
+    files |= common | {
+        "application.ico": icon,
+        "header.bmp": bitmap(150, 57, (255, 255, 255), icon_pixels(icon, 48), 98, 4),
+        "side.bmp": bitmap(164, 314, (84, 56, 32), icon_pixels(icon, 64), 50, 60),
+    }
+    folders = sorted({str(pathlib.PurePosixPath(name).parent) for name in common})
+    lay, take = [], []
+    for folder in folders:
+        place = "$INSTDIR" if folder == "." else "$INSTDIR\\" + folder.replace("/", "\\")
+        lay.append(f'SetOutPath "{place}"')
+        for name in sorted(common):
+            if str(pathlib.PurePosixPath(name).parent) == folder:
+                lay.append(f'File "{stage / name}"')
+                take.append(f'Delete "{place}\\{pathlib.PurePosixPath(name).name}"')
+    take += [f'RMDir "$INSTDIR\\{folder}"'.replace("/", "\\") for folder in reversed(folders) if folder != "."]
+    files["lay.nsh"], files["take.nsh"] = ("\n".join(lines).encode() for lines in (lay, take))
+    for name, content in files.items():
+        path = stage / name
+        path.parent.mkdir(parents=True, exist_ok=True)
+        path.write_bytes(content)
+        os.utime(path, (moment(), moment()))
+    return (sum(map(len, common.values())) + len(files["x64/TarvelonLow.exe"])) // 1024
+
+
+def write_installer(path, builds, width="x86"):
+    """WIDTH is that of the installer itself, which carries both programs."""
+    maker = dict(re.findall(r'const char\* (\w+) = "(.*)"', (ROOT / "core" / "maker.h").read_text()))
+    with tempfile.TemporaryDirectory() as stage:
+        size = stage_installer(builds, pathlib.Path(stage))
+        given = {"VERSION": version(), "FULL_VERSION": version() + ".0.0", "MAKER": maker["name"],
+                 "WEB_PAGE": maker["webPage"], "STAGE": stage, "SIZE": size, "OUTPUT": path.resolve(), "WIDTH": width}
+        told = subprocess.run(["makensis", "-V2", "-WX", *(f"-D{name}={text}" for name, text in given.items()),
+                               ROOT / "packaging" / "setup.nsi"], capture_output=True, text=True, check=False)
+    if told.returncode:
+        sys.exit(told.stdout + told.stderr)
+
+
 def write_sums(folder):
     sums = [f"{hashlib.sha256(path.read_bytes()).hexdigest()}  {path.name}\n"
             for path in sorted(folder.iterdir()) if path.name != "SHA256SUMS"]
@@ -73,6 +143,7 @@ def main():
         files = program_files(builds, width)
         write_zip(folder / f"Tarvelon-{version()}-{width}.zip",
                   {f"Tarvelon/{name}": content for name, content in files.items()})
+    write_installer(folder / f"Tarvelon-{version()}-setup.exe", builds)
     write_sums(folder)
     for path in sorted(folder.iterdir()):
         print(f"{path.stat().st_size:10} {path}")
