@@ -18,6 +18,7 @@ void StartUp::run() {
     ensureFolder(state.dataFolder());
     ensureFolder(state.logFolder());
     passOver([this] { app_.settingsFile.checkSettFile(); });
+    tellUnwritableData();
     passOver([this] {
         app_.baselineBuilder.checkIntFile();
     }); // Still under the plain name, before any setting is read.
@@ -47,6 +48,28 @@ void StartUp::ensureFolder(const std::string& folder) {
     if (app_.platform.files.firstName(folder).empty()) {
         app_.platform.files.createFolder(folder);
     }
+}
+
+/// Before anything is asked whose answer could not be kept. A settings file that another program holds for
+/// the moment is no reason, so the folder is tried too.
+void StartUp::tellUnwritableData() {
+    const AppState& state = app_.globals.app;
+    Files& files = app_.platform.files;
+    if (app_.funcMod.fileThere(state.settFile) && files.open(state.settFile, OpenMode::ReadOrCreate)) {
+        return;
+    }
+    const std::string attempt = state.dataFolder() + "Tarvelon.new";
+    if (files.open(attempt, OpenMode::Create)) {
+        files.remove(attempt);
+        return;
+    }
+    app_.platform.dialogs.message(
+        {.text =
+             "Tarvelon cannot write to its data folder:\r\n" + state.dataFolder() +
+             "\r\n\r\nNo settings, checksums or reports can be kept there. Move the Tarvelon folder to a "
+             "place where you may write, such as your documents, or ask an administrator for the right to "
+             "change the files in this folder.",
+         .icon = BoxIcon::Warning});
 }
 
 void StartUp::actOnCommandLine() {

@@ -18,6 +18,7 @@ public:
 private:
     void fixPaths();
     void ensureFolder(const std::string& folder);
+    void tellUnwritableData();
     void actOnCommandLine();
     void checkAtLogOn();
     void demandBaseline(const char* message);
