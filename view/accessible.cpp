@@ -33,7 +33,10 @@ bool isLabelOf(const Control& control, Styles... styles) {
 LONG roleOf(const Control& control) {
     switch (control.kind()) {
     case ControlKind::Frame:
-        return static_cast<const Frame&>(control).look() == Frame::Look::Group ? ROLE_SYSTEM_GROUPING
+        if (!control.captionOrName().empty()) {
+            return ROLE_SYSTEM_GROUPING;
+        }
+        return static_cast<const Frame&>(control).look() == Frame::Look::Group ? ROLE_SYSTEM_SEPARATOR
                                                                                : ROLE_SYSTEM_PANE;
     case ControlKind::Label:
         if (isLabelOf(control, TextStyle::Link)) {

@@ -27,6 +27,9 @@ public:
         if (following_) {
             return 0; // The window changes by itself.
         }
+        if (comesIn_ && (header.code == TVN_SELCHANGINGA || header.code == TVN_SELCHANGINGW)) {
+            return TRUE;
+        }
         ++raising_;
         raise(header);
         --raising_;
@@ -55,7 +58,10 @@ public:
         } else if (message == WM_PAINT) {
             colour();
         }
+        // When the keyboard comes in, the class would select a row: by Tab alone another one would be meant.
+        comesIn_ = comesIn_ || message == WM_SETFOCUS;
         const LRESULT result = ControlWindow::handle(message, wide, low);
+        comesIn_ = comesIn_ && message != WM_SETFOCUS;
         if (message == WM_PAINT) {
             paintWhenEmpty(control().whenEmpty());
         }
@@ -235,6 +241,7 @@ private:
     bool stale_ = true;
     bool anew_ = false; ///< Nothing of what the window has is left.
     bool following_ = false;
+    bool comesIn_ = false;
     int raising_ = 0; ///< Notifications that are being handled: the window stands on its items meanwhile.
     Color ground_ = CLR_NONE; ///< As last told to the window, with the text's.
     Color text_ = CLR_NONE;

@@ -291,7 +291,7 @@ TEST_F(View, ReadersAreToldWhatIsSeen) {
         told += "\n";
         reader->Release();
     }
-    EXPECT_EQ(told, "20\n43|Step\n41|50%\n43|A & B\n43|An action\n44+|A check\n45|First\n45|Second\n42\n"
+    EXPECT_EQ(told, "21\n43|Step\n41|50%\n43|A & B\n43|An action\n44+|A check\n45|First\n45|Second\n42\n"
                     "33|Rows\n17|Chart|64 Kb: 2.5\n33\n48|57%\n35\n43|Restart\n43|Restart\n16\n43|Entry\n");
 }
 
@@ -400,9 +400,8 @@ TEST_F(View, ATreeMayBeFilledAnewByItsOwnClickAndKeys) {
     shown = 1;
     ask(screen.tree, WM_KEYDOWN, VK_DOWN, 1); // The keyboard finds its way in where nothing is selected.
     view.refresh();
-    shown = 3;
     ask(screen.tree, WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(30, 10));
-    EXPECT_EQ(heard, "root opened value other root twice opened ");
+    EXPECT_EQ(heard, "root opened value other twice opened ") << "The keyboard coming in selects nothing";
 }
 
 TEST_F(View, FormsComeForwardCloseAndAreAllBlockedByABox) {
