@@ -34,7 +34,7 @@ void FolderScanPage::bind() {
     screen_.Combo1.onClick = [this] { takeFolder(); };
     for (std::size_t i = 0; i < screen_.check.size(); ++i) {
         screen_.typeButtons[i]->onClick = [this, i] {
-            screen_.check[i].setValue(screen_.check[i].value() == 0);
+            screen_.check[i]->setValue(screen_.check[i]->value() == 0);
         };
     }
     screen_.bFULL.onClick = [this] { tickAll(true); };
@@ -43,8 +43,8 @@ void FolderScanPage::bind() {
 }
 
 void FolderScanPage::tickAll(bool ticked) {
-    for (check& box : screen_.check) {
-        box.setValue(ticked);
+    for (check* box : screen_.check) {
+        box->setValue(ticked);
     }
 }
 
@@ -92,7 +92,7 @@ void FolderScanPage::takeFolder() {
     }
     const std::vector<std::string> types = split(settings.ofSlot(index, "args"), ',');
     for (std::size_t i = 0; i < screen_.check.size() && i < types.size(); ++i) {
-        screen_.check[i].setValue(types[i] == "1");
+        screen_.check[i]->setValue(types[i] == "1");
     }
 }
 
@@ -102,7 +102,7 @@ void FolderScanPage::startScan() {
     const auto wanted = scan.wanted();
     bool any = false;
     for (std::size_t i = 0; i < wanted.size(); ++i) {
-        *wanted[i] = screen_.check[i].value() != 0;
+        *wanted[i] = screen_.check[i]->value() != 0;
         any = any || *wanted[i];
     }
     if (!any) {

@@ -17,6 +17,7 @@ struct AdvancedControls {
         : advF(settF, at(0, 0, 600, 488), false) {
         Label1.Visible = false;
         Label1.tone = Tone::Bad;
+        bufferGroup.name = "Read buffer";
         List1.name = "Speed report";
         cSpeeds.ToolTip = "Times each algorithm and read buffer on this machine";
         cButton1.isCancel = true;

@@ -13,6 +13,9 @@ struct SettingsControls {
         Check1.ToolTip = "Checks the ticked types whenever you log on";
         Check8.ToolTip = "Hands new and changed files to the scanner without asking";
         Check7.ToolTip = "Writes a report of what was handed to the scanner";
+        for (check* box : shutDownChecks) {
+            box->ToolTip = "Checked on secure shut down";
+        }
         cCancelSett.isCancel = true;
     }
 

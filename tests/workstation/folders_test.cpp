@@ -161,7 +161,7 @@ TEST_F(Folders, TypesAreEditedWhileTheirBoxIsTicked) {
 
     pc.files.put(dataFolder + "1.dat", "");
     form().Combo1.select(1);
-    EXPECT_TRUE(form().check[0].value() && form().check[4].value() && !form().check[5].value());
+    EXPECT_TRUE(form().check[0]->value() && form().check[4]->value() && !form().check[5]->value());
     form().addRem.click();
     EXPECT_EQ(dialog.Label1.Caption(), "Currently Selected:") << "closed, it keeps no selection";
     EXPECT_TRUE(dialog.Check1.Enabled() && !dialog.List2.ticked(0));
