@@ -25,9 +25,6 @@ private:
     std::string folder_;
 };
 
-/// Holds the first scan once it is under way. Gives its window.
-Form holdScan(const Program& program);
-
 /// What `main` does for a walk through the program: the arguments are the program and the folder for the
 /// pictures. Gives the exit code; a walk that stops tells why.
 int takeWalk(int count, char** arguments, const std::function<void(const Pictures& pictures)>& walk);

@@ -4,6 +4,7 @@
 // PICTURES-FOLDER
 
 #include "pictures.h"
+#include "tools/driver/screens.h"
 #include "tools/driver/workplace.h"
 
 namespace e2e {

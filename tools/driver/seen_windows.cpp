@@ -1,6 +1,21 @@
 #include "seen_windows.h"
 
+#include "driver.h"
+
+#include <algorithm>
+
 namespace e2e {
+
+namespace {
+
+/// No part of the window waits to be painted.
+bool isPainted(HWND window) {
+    std::vector<HWND> parts = visibleChildren(window);
+    parts.push_back(window);
+    return std::ranges::all_of(parts, [](HWND part) { return GetUpdateRect(part, nullptr, FALSE) == FALSE; });
+}
+
+} // namespace
 
 std::string narrow(const wchar_t* wide) {
     char text[4096] = {};
@@ -75,6 +90,15 @@ RECT placeOf(HWND window) {
     RECT place{};
     GetWindowRect(window, &place);
     return place;
+}
+
+void awaitStillness() {
+    int still = 0;
+    comesTrue([&] {
+        still = isPainted(GetForegroundWindow()) ? still + 1 : 0;
+        Sleep(100); // The last paint reaches the screen.
+        return still == 5;
+    });
 }
 
 std::vector<std::string> rowsOf(HWND list) {

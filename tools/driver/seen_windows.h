@@ -42,6 +42,9 @@ std::vector<HWND> childrenOfClass(HWND parent, const char* name);
 /// On the screen.
 RECT placeOf(HWND window);
 
+/// Returns when nothing of the window in front has waited to be painted for half a second.
+void awaitStillness();
+
 /// What stands in a list box.
 std::vector<std::string> rowsOf(HWND list);
 /// Where a row stands on the screen. Scrolls to it when it is out of sight.
