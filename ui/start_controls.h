@@ -19,14 +19,10 @@ struct StartControls {
     /// How one part stands, and the way to where it is set.
     struct Line {
         Line(Frame& page, int y, const char* name, const char* way)
-            : mark(page, at(32, y + 10, 24, 24), "unused", Tone::Quiet)
-            , title(page, name, at(72, y, 336, 20), TextStyle::Heading)
-            , text(page, "", at(72, y + 18, 336, 30), TextStyle::Hint)
+            : status(page, name, at(32, y, 376, 48))
             , go(page, way, at(424, y + 6, 152, 32)) {}
 
-        Icon mark;
-        Label title;
-        Label text;
+        StatusLine status;
         cButton go;
     };
 

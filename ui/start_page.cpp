@@ -11,20 +11,14 @@ namespace tarvelon {
 
 namespace {
 
-struct Mark {
-    const char* image;
-    const char* name;
-    Tone tone;
-};
-
-Mark markOf(Standing::State state) {
+Tone toneOf(Standing::State state) {
     switch (state) {
     case Standing::State::Good:
-        return {"good", "In order", Tone::Good};
+        return Tone::Good;
     case Standing::State::Attention:
-        return {"attention", "Wants attention", Tone::Attention};
+        return Tone::Attention;
     default:
-        return {"unused", "Not used", Tone::Quiet};
+        return Tone::Quiet;
     }
 }
 
@@ -73,13 +67,10 @@ void StartPage::read() {
     for (std::size_t i = 0; i < parts.size(); ++i) {
         passOver([&] {
             const Standing standing = (overview_.*parts[i])();
-            const Mark mark = markOf(standing.state);
-            StartControls::Line& line = screen_.lines[i];
-            line.text.Caption = standing.text;
-            line.text.ToolTip = standing.text;
-            line.mark.image = mark.image;
-            line.mark.tone = mark.tone;
-            line.mark.name = mark.name;
+            StatusLine& line = screen_.lines[i].status;
+            line.text = standing.text;
+            line.ToolTip = standing.text;
+            line.tone = toneOf(standing.state);
             wanting += standing.state == Standing::State::Attention ? 1 : 0;
         });
     }

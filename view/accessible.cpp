@@ -71,6 +71,7 @@ LONG roleOf(const Control& control) {
     case ControlKind::StepDots:
         return ROLE_SYSTEM_INDICATOR;
     case ControlKind::Verdict:
+    case ControlKind::StatusLine:
     case ControlKind::Timer:
         break;
     }
@@ -138,6 +139,10 @@ std::string nameOf(const Control& control) {
     case ControlKind::StepDots: {
         const auto& dots = static_cast<const StepDots&>(control);
         return "Step " + std::to_string(dots.current() + 1) + " of " + std::to_string(dots.count());
+    }
+    case ControlKind::StatusLine: {
+        const auto& line = static_cast<const StatusLine&>(control);
+        return line.Caption() + ", " + line.toneInWords() + ": " + line.text();
     }
     case ControlKind::Icon:
         return control.name.empty() ? labelBefore(control) : control.name;

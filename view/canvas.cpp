@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <limits>
 
 namespace tarvelon {
@@ -81,6 +82,18 @@ float polylineDistance(Iterator first, Iterator last, Spot spot) {
     return nearest;
 }
 
+/// All that a line of that thickness can touch.
+template<class Iterator>
+RECT boundsOf(Iterator first, Iterator last, float thickness) {
+    constexpr float edge = 1; // Pixels at the rim that are covered in part.
+    const auto [left, right] = std::minmax_element(first, last, [](Spot a, Spot b) { return a.x < b.x; });
+    const auto [top, bottom] = std::minmax_element(first, last, [](Spot a, Spot b) { return a.y < b.y; });
+    const float around = thickness / 2 + edge;
+    return {static_cast<LONG>(std::floor(left->x - around)), static_cast<LONG>(std::floor(top->y - around)),
+            static_cast<LONG>(std::ceil(right->x + around)),
+            static_cast<LONG>(std::ceil(bottom->y + around))};
+}
+
 /// By how often a ray from the spot crosses the closed line.
 bool isInside(const std::vector<Spot>& line, Spot spot) {
     bool inside = false;
@@ -145,8 +158,18 @@ void Canvas::fill(const RECT& rect, Color color) {
 }
 
 void Canvas::roundedBox(const RECT& rect, int radius, Color color) {
+    const auto [left, top, right, bottom] = rect;
+    const LONG across = std::min<LONG>(radius, widthOf(rect) / 2);
+    const LONG down = std::min<LONG>(radius, heightOf(rect) / 2);
+    fill({left + across, top, right - across, bottom}, color);
+    fill({left, top + down, left + across, bottom - down}, color);
+    fill({right - across, top + down, right, bottom - down}, color);
     const auto corner = static_cast<float>(radius);
-    shape(rect, color, [&](Spot spot) { return boxDistance(rect, corner, spot); });
+    const auto distance = [&](Spot spot) { return boxDistance(rect, corner, spot); };
+    shape({left, top, left + across, top + down}, color, distance);
+    shape({right - across, top, right, top + down}, color, distance);
+    shape({left, bottom - down, left + across, bottom}, color, distance);
+    shape({right - across, bottom - down, right, bottom}, color, distance);
 }
 
 void Canvas::roundedBox(const RECT& rect, int radius, Color color, Color edge, int thickness) {
@@ -163,7 +186,7 @@ void Canvas::roundedEdge(const RECT& rect, int radius, int thickness, Color colo
 }
 
 void Canvas::stroke(std::initializer_list<Spot> spots, float thickness, Color color) {
-    shape(area(), color,
+    shape(boundsOf(spots.begin(), spots.end(), thickness), color,
           [&](Spot spot) { return polylineDistance(spots.begin(), spots.end(), spot) - thickness / 2; });
 }
 
@@ -172,15 +195,22 @@ void Canvas::drawing(const LineDrawing& drawing, const RECT& rect, Color color, 
         return;
     }
     const float zoom = static_cast<float>(widthOf(rect)) / drawing.side;
+    const auto placed = [&](Spot spot) {
+        return Spot{static_cast<float>(rect.left) + spot.x * zoom,
+                    static_cast<float>(rect.top) + spot.y * zoom};
+    };
+    std::vector<Spot> there;
     for (const LineDrawing::Part& part : drawing.parts) {
-        shape(rect, part.ink == Ink::Cut ? ground : color, [&](Spot spot) {
-            const Spot there{(spot.x - static_cast<float>(rect.left)) / zoom,
-                             (spot.y - static_cast<float>(rect.top)) / zoom};
-            const float away = polylineDistance(part.line.begin(), part.line.end(), there);
+        there.clear();
+        std::ranges::transform(part.line, std::back_inserter(there), placed);
+        RECT touched = boundsOf(there.begin(), there.end(), drawing.thickness * zoom);
+        IntersectRect(&touched, &touched, &rect);
+        shape(touched, part.ink == Ink::Cut ? ground : color, [&](Spot spot) {
+            const float away = polylineDistance(there.begin(), there.end(), spot);
             if (part.ink != Ink::Solid) {
-                return (away - drawing.thickness / 2) * zoom;
+                return away - drawing.thickness * zoom / 2;
             }
-            return (isInside(part.line, there) ? -away : away) * zoom;
+            return isInside(there, spot) ? -away : away;
         });
     }
 }

@@ -200,6 +200,9 @@ LRESULT ControlWindow::handle(UINT message, WPARAM wide, LPARAM low) {
     if (message == WM_ERASEBKGND && !kind_.drawnByClass) {
         return 1;
     }
+    if (message == WM_NCPAINT && !kind_.drawnByClass) {
+        return 0; // There is no edge but the one drawn inside.
+    }
     if (message == WM_MOUSEMOVE && control_.onMouseMove && control_.kind() != ControlKind::FlatButton) {
         control_.screen().dispatch(control_.onMouseMove);
     }

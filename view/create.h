@@ -30,5 +30,6 @@ MadeWindow makeBarChart(FormWindow& form, Control& control);
 MadeWindow makeIcon(FormWindow& form, Control& control);
 MadeWindow makeVerdict(FormWindow& form, Control& control);
 MadeWindow makeStepDots(FormWindow& form, Control& control);
+MadeWindow makeStatusLine(FormWindow& form, Control& control);
 
 } // namespace tarvelon

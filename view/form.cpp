@@ -163,40 +163,74 @@ RECT FormWindow::placeOf(const Control& control) const {
     return place;
 }
 
-/// Makes the windows of the controls in a frame, or of those in none, unless they are there.
+/// Makes the windows of the controls in a frame, or of those in none, unless they are there. Frames that are
+/// hidden get theirs later.
 void FormWindow::createControls(const Frame* within) {
     if (!created_.insert(within).second) {
         return;
     }
     needCommonControls();
-    const HWND parent = within ? windowOf(*within)->window() : window();
-    std::optional<ControlKind> before;
-    int id = firstControlId;
+    constexpr ControlKind none = ControlKind::Frame;
+    ControlKind before = none;
     for (Control* control : screen_.controls()) {
-        const int own = id++;
         if (control->kind() == ControlKind::Timer || control->frame() != within) {
             continue;
         }
-        ControlWindow& made = *(controls_[control] = makeControlWindow(*this, *control));
-        // The arrow keys go round among neighbours of one kind; what takes no keys is a group of its own.
-        const auto group = made.takesKeys() ? std::optional(control->kind()) : std::nullopt;
-        made.create(parent, own, !group || group != before);
-        before = group;
-        if (control->kind() == ControlKind::Frame && control->Visible()) {
-            createControls(static_cast<const Frame*>(control));
+        if (control->kind() == ControlKind::Frame) {
+            before = none;
+            if (control->Visible()) {
+                createFrame(static_cast<Frame&>(*control));
+            }
+            continue;
         }
+        // The arrow keys go round among neighbours of one kind; what takes no keys is a group of its own.
+        ControlWindow& made = *(controls_[control] = makeControlWindow(*this, *control));
+        const ControlKind group = made.takesKeys() ? control->kind() : none;
+        made.create(parentOf(*control), idOf(*control), group == none || group != before);
+        before = group;
     }
+}
+
+/// With the controls in it.
+void FormWindow::createFrame(Frame& frame) {
+    std::unique_ptr<ControlWindow>& window = controls_[&frame];
+    if (!window) {
+        window = makeControlWindow(*this, frame);
+        window->create(parentOf(frame), idOf(frame), true);
+        // Behind what the keyboard comes to before it, since its neighbours may be there already.
+        HWND before = HWND_TOP;
+        for (const Control* control : screen_.controls()) {
+            if (control == &frame) {
+                break;
+            }
+            if (const ControlWindow* neighbour = windowOf(*control);
+                neighbour && control->frame() == frame.frame()) {
+                before = neighbour->window();
+            }
+        }
+        SetWindowPos(window->window(), before, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    }
+    createControls(&frame);
+}
+
+HWND FormWindow::parentOf(const Control& control) const {
+    return control.frame() ? windowOf(*control.frame())->window() : window();
+}
+
+int FormWindow::idOf(const Control& control) const {
+    const auto& all = screen_.controls();
+    return firstControlId + static_cast<int>(std::ranges::find(all, &control) - all.begin());
 }
 
 bool FormWindow::makeReady() {
     const auto found = std::ranges::find_if(screen_.controls(), [this](const Control* control) {
-        return control->kind() == ControlKind::Frame && windowOf(*control) &&
+        return control->kind() == ControlKind::Frame && created_.contains(control->frame()) &&
                !created_.contains(static_cast<const Frame*>(control));
     });
     if (found == screen_.controls().end()) {
         return false;
     }
-    createControls(static_cast<const Frame*>(*found));
+    createFrame(static_cast<Frame&>(**found));
     return true;
 }
 
@@ -237,10 +271,12 @@ void FormWindow::changed(Control& control, Aspect aspect) {
     }
     if (control.kind() == ControlKind::Timer) {
         applyTimer(control);
-    } else if (ControlWindow* window = windowOf(control)) {
-        if (control.kind() == ControlKind::Frame && control.Visible()) {
-            createControls(static_cast<const Frame*>(&control));
-        }
+        return;
+    }
+    if (control.kind() == ControlKind::Frame && control.Visible() && created_.contains(control.frame())) {
+        createFrame(static_cast<Frame&>(control));
+    }
+    if (ControlWindow* window = windowOf(control)) {
         window->changed(aspect);
     }
 }

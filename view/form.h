@@ -68,6 +68,9 @@ private:
     bool wakeIfAnythingWaits();
     void showChanges();
     void createControls(const Frame* within);
+    void createFrame(Frame& frame);
+    HWND parentOf(const Control& control) const;
+    int idOf(const Control& control) const;
     void applyVisible();
     void applyMinimized();
     void bringToFront();

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-// What is only looked at: small pictures, the band with the verdict, the dots of a way.
+// What is only looked at: small pictures, the band with the verdict, the dots of a way, how a part stands.
 
 namespace tarvelon {
 
@@ -69,6 +69,39 @@ public:
     }
 };
 
+class StatusLineWindow : public WindowOf<StatusLine> {
+public:
+    using WindowOf::WindowOf;
+
+    void paint(Canvas& canvas) override {
+        const Scale& scaled = canvas.scale();
+        const Surface& under = surface();
+        const int side = scaled(24);
+        const RECT sign{0, scaled(10), side, scaled(10) + side};
+        canvas.drawing(drawingNamed(imageOf(control().tone())), sign,
+                       seenOn(under.ground, theme().tone(control().tone()).sign), under.ground);
+        const LONG left = scaled(40);
+        const LONG middle = scaled(20);
+        const RECT area = canvas.area();
+        canvas.text(control().Caption(), {left, 0, area.right, middle},
+                    {.color = under.text, .tenthPoints = textSize::heading, .weight = FW_SEMIBOLD});
+        canvas.text(control().text(), {left, middle - scaled(2), area.right, area.bottom},
+                    {.color = under.quietText});
+    }
+
+private:
+    static const char* imageOf(Tone tone) {
+        switch (tone) {
+        case Tone::Good:
+            return "good";
+        case Tone::Attention:
+            return "attention";
+        default:
+            return "unused";
+        }
+    }
+};
+
 } // namespace
 
 MadeWindow makeIcon(FormWindow& form, Control& control) {
@@ -81,6 +114,10 @@ MadeWindow makeVerdict(FormWindow& form, Control& control) {
 
 MadeWindow makeStepDots(FormWindow& form, Control& control) {
     return std::make_unique<StepDotsWindow>(form, control, ControlWindow::Kind{"STATIC"});
+}
+
+MadeWindow makeStatusLine(FormWindow& form, Control& control) {
+    return std::make_unique<StatusLineWindow>(form, control, ControlWindow::Kind{"STATIC", SS_NOTIFY});
 }
 
 } // namespace tarvelon

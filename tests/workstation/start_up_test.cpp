@@ -157,7 +157,7 @@ TEST_F(StartUpRun, TheStartPageTellsHowThingsStandAndLeadsToWhereTheyAreSet) {
     EXPECT_FALSE(start() || settle());
     Rows texts;
     for (const StartControls::Line& line : form().lines) {
-        texts.push_back(line.text.Caption());
+        texts.push_back(line.status.text());
     }
     EXPECT_THAT(texts, testing::ElementsAre("Baseline of 3/5/2006, 2 files, 1 of them never checked",
                                             "No baseline yet: C:\\a", "Missing: C:\\gone.exe",

@@ -78,6 +78,20 @@ StepDots::StepDots(ControlParent parent, Rect place, int count)
     : Control(ControlKind::StepDots, parent, "", place)
     , count_(count) {}
 
+StatusLine::StatusLine(ControlParent parent, std::string caption, Rect place)
+    : Control(ControlKind::StatusLine, parent, std::move(caption), place) {}
+
+const char* StatusLine::toneInWords() const {
+    switch (tone()) {
+    case Tone::Good:
+        return "in order";
+    case Tone::Attention:
+        return "wants attention";
+    default:
+        return "not used";
+    }
+}
+
 cButton::cButton(ControlParent parent, std::string caption, Rect place, Rank rank)
     : Control(ControlKind::FlatButton, parent, std::move(caption), place)
     , rank_(rank) {}

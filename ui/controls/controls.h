@@ -29,6 +29,7 @@ enum class ControlKind {
     Icon,
     Verdict,
     StepDots,
+    StatusLine,
     Timer,
 };
 
@@ -213,6 +214,18 @@ public:
 
 private:
     int count_;
+};
+
+/// How a part of the program stands: a drawn sign, its name, which is the caption, and a few words below.
+class StatusLine : public Control {
+public:
+    StatusLine(ControlParent parent, std::string caption, Rect place);
+
+    Property<std::string, Control, Aspect::Value> text{*this, ""};
+    /// Good, attention, or quiet for what is not used.
+    Property<Tone, Control, Aspect::Value> tone{*this, Tone::Quiet};
+    /// The sign in words.
+    const char* toneInWords() const;
 };
 
 /// The flat button that stands for nearly every button. Its caption is white while it is pressed
