@@ -24,11 +24,11 @@ void Pictures::take(const std::string& name) const {
 }
 
 int takeWalk(int count, char** arguments, const std::function<void(const Pictures& pictures)>& walk) {
-    if (count != 3) {
-        std::fprintf(stderr, "usage: %s PROGRAM PICTURES-FOLDER\n", arguments[0]);
+    if (count < 3) {
+        std::fprintf(stderr, "usage: %s PROGRAM PICTURES-FOLDER [FOLDER]\n", arguments[0]);
         return 2;
     }
-    setInputs({arguments[1], ""});
+    setInputs(arguments[1], arguments[3]);
     try {
         walk(Pictures(std::string(arguments[2]) + "\\"));
         return 0;

@@ -25,8 +25,8 @@ private:
     std::string folder_;
 };
 
-/// What `main` does for a walk through the program: the arguments are the program and the folder for the
-/// pictures. Gives the exit code; a walk that stops tells why.
+/// What `main` does for a walk through the program: the arguments are the program, the folder for the
+/// pictures and, as a guest, the one to work in. Gives the exit code; a walk that stops tells why.
 int takeWalk(int count, char** arguments, const std::function<void(const Pictures& pictures)>& walk);
 
 } // namespace e2e

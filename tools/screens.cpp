@@ -1,5 +1,5 @@
 // Walks through every screen of the program and has a picture taken of each. usage: screens PROGRAM
-// PICTURES-FOLDER
+// PICTURES-FOLDER [FOLDER]. With the last, as a guest: what the whole system would feel is left out.
 
 #include "tools/driver/screens.h"
 #include "pictures.h"

@@ -71,7 +71,7 @@ TEST_F(Contract, OnlyTheProgramThatIsNamedIsStartedAndNotAwaited) {
     ASSERT_TRUE(put("two.exe", "in the other's place"));
     const std::string made = folder + "made.json";
     const std::string program = folder + "two \xd0\xb0";
-    std::string arguments = "--gtest_list_tests --gtest_output=json:" + made + " ";
+    std::string arguments = "--gtest_list_tests --gtest_output=json:\"" + made + "\" ";
     arguments.resize(Processes::longestCommandLine - program.size() - 1, 'x');
     EXPECT_FALSE(platform.processes.start(program, arguments + "x", WindowStyle::MinimizedFocus));
     EXPECT_TRUE(platform.processes.start(program, arguments, WindowStyle::MinimizedFocus));

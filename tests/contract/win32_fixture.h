@@ -21,10 +21,13 @@ class ContractWorkstation {
 public:
     ContractWorkstation() {
         static int made = 0; // A program that was started may still hold the folder of the test before.
-        folder = std::filesystem::temp_directory_path().string() + "tarvelon-contract-" +
-                 std::to_string(GetCurrentProcessId()) + "-" + std::to_string(++made) + "\\";
+        wchar_t temporary[MAX_PATH] = {};
+        GetTempPathW(MAX_PATH, temporary);
+        GetShortPathNameW(temporary, temporary, MAX_PATH); // Which every code page holds.
+        folder = narrowText(temporary) + "tarvelon-contract-" + std::to_string(GetCurrentProcessId()) + "-" +
+                 std::to_string(++made) + "\\";
         empty();
-        std::filesystem::create_directory(folder);
+        CreateDirectoryW(wideText(folder).c_str(), nullptr);
         makeKey(key);
     }
     ~ContractWorkstation() { empty(); }
@@ -53,10 +56,10 @@ public:
     void attach(Screen& screen) { view_.attach(screen); }
     /// Whether a command line that makes this file has been run, at the latest within some seconds.
     bool hasMade(const std::string& path, const std::string&) {
-        for (int tries = 0; tries < 100 && !std::filesystem::exists(path); ++tries) {
+        for (int tries = 0; tries < 100 && !std::filesystem::exists(widePath(path)); ++tries) {
             Sleep(100);
         }
-        return std::filesystem::exists(path);
+        return std::filesystem::exists(widePath(path));
     }
     /// Target, folder, arguments, description, icon and its number, and the way to show the window, as the
     /// system's own object reads them, with bars between them. Empty when there is no link file.

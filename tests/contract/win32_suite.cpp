@@ -27,7 +27,7 @@ TEST_F(Contract, FilesAreReachedWhateverTheirNamesHold) {
             << path;
         EXPECT_TRUE(files.move(path, place + "y") && files.move(place + "y", path) &&
                     files.open(path + "r", OpenMode::Create) && files.remove(path + "r"));
-        const std::string arguments = "--gtest_list_tests --gtest_output=json:" + base + "made";
+        const std::string arguments = "--gtest_list_tests --gtest_output=json:\"" + base + "made\"";
         EXPECT_TRUE(name == L"NUL" || (platform.processes.start(path, arguments, WindowStyle::NormalFocus) &&
                                        workstation->hasMade(base + "made", "")));
     }

@@ -12,7 +12,7 @@ TEST(FirstRun, PutsTheWholeSystemDirectoryIntoTheBaseline) {
     const ProgramFolder folder("first-run");
     const Program program(folder.program());
     program.press("Yes");
-    const Form window = program.form("Welcome to Tarvelon");
+    const Form window = program.form("Welcome to Tarvelon", 10 * patience);
     EXPECT_TRUE(comesTrue([&] { return !program.hasForm("AutoCheck"); })) << program.describe();
     EXPECT_EQ(folder.data("Integrity.dat"), systemBaseline());
     window.close();

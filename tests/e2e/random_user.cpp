@@ -61,7 +61,7 @@ struct WatchedFolders {
 /// Ends what the program has started, such as a browser; all else on the screen is the desktop's.
 void closeOtherPrograms(const Program& program) {
     EnumWindows(
-        [](HWND window, LPARAM spared) {
+        [](HWND window, LPARAM spared) WINAPI -> BOOL {
             DWORD desktop = 0;
             DWORD owner = 0;
             GetWindowThreadProcessId(GetDesktopWindow(), &desktop);
@@ -172,7 +172,7 @@ int main(int count, char** arguments) {
     const auto number = [&](int place) {
         return static_cast<std::uint32_t>(std::strtoul(arguments[place], nullptr, 10));
     };
-    setInputs({arguments[1], ""});
+    setInputs(arguments[1]);
     CloseHandle(CreateThread(nullptr, 0, standGuard, nullptr, 0, nullptr));
     const WatchedFolders watched;
     const DWORD start = GetTickCount();

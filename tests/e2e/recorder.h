@@ -13,12 +13,7 @@ class RecordingScanner {
 public:
     explicit RecordingScanner(std::string path)
         : path_(std::move(path)) {
-        char own[MAX_PATH] = {};
-        GetModuleFileNameA(nullptr, own, sizeof own);
-        const std::string beside = std::string(own).substr(0, std::string(own).rfind('\\') + 1);
-        if (CopyFileA((beside + "recording_scanner.exe").c_str(), path_.c_str(), FALSE) == 0) {
-            throw std::runtime_error("cannot copy the recording scanner to " + path_);
-        }
+        copyFile(ownFolder() + "recording_scanner.exe", path_);
     }
 
     const std::string& path() const { return path_; }

@@ -4,11 +4,13 @@
 #include "recorder.h"
 #include "tools/driver/driver.h"
 #include "tools/driver/planted_value.h"
+#include "tools/driver/seen_windows.h"
 #include "tools/driver/workplace.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <memory>
 
 namespace e2e {
@@ -19,9 +21,6 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-const std::string guarded = "zzguarded.drv";
-const std::string visitor = "zzz visitor.drv";
-
 constexpr const char* automatic =
     "0,1,0,0,0,0,1,1\r\nsettings2=0,1,0,0,0,0"; ///< Drivers, scanned and logged.
 
@@ -30,7 +29,8 @@ std::string quoted(const std::string& file) {
     return "\"" + file + "\" ";
 }
 
-/// A workstation with a complete baseline and two scanners. One driver has changed since, and one is new.
+/// A workstation with a baseline and two scanners. Of the system's drivers the first has another checksum
+/// there, and the second is not in it.
 class RunModes : public testing::Test {
 protected:
     RunModes() { folder_.writeData("Integrity.dat", before_); }
@@ -46,27 +46,28 @@ protected:
         Rows first;
         Rows second;
         for (const std::string& files : lists) {
-            first.push_back("2 \"" + first_.path() + "\" /scan /log:all " + files);
-            second.push_back("2 " + second_.path() + "  " + files);
+            first.push_back("2 " + asFirstWord(first_.path()) + " /scan /log:all " + files);
+            second.push_back("2 " + asFirstWord(second_.path()) + "  " + files);
         }
         EXPECT_EQ(first_.records(lists.size()), first);
         EXPECT_EQ(second_.records(lists.size()), second);
-        std::string accepted = withEntry(systemBaseline(), "DRV", guarded, crcText("something else"));
-        accepted = withEntry(accepted, "DRV", visitor, crcText("a stranger"));
+        std::string accepted = withEntry(withLine(systemBaseline(), drivers_[1], ""), "DRV", drivers_[1]);
         accepted.erase(accepted.find("\r\n\r\n"), 2); // A rewrite leaves out the empty line behind the head.
         EXPECT_TRUE(comesTrue([&] { return folder_.data("Integrity.dat") == accepted; }))
             << folder_.data("Integrity.dat").value_or("no baseline");
         EXPECT_EQ(folder_.data("integrity.bak"), before_);
     }
 
-    const std::string before_ = withEntry(systemBaseline(), "DRV", guarded, crcText("as it was"));
+    const Rows drivers_ = entriesOf(systemBaseline(), "DRV");
+    const std::string before_ =
+        withLine(withLine(systemBaseline(), drivers_[0], nameOf(drivers_[0]) + "=1D*E\r\n"), drivers_[1], "");
     const ProgramFolder folder_{"run modes"};
     const ProgramFolder plainFolder_{"scanner"};
     const RecordingScanner first_{folder_.path() + "first scanner.exe"};
     const RecordingScanner second_{plainFolder_.path() + "second.exe"};
-    const PlantedFile guarded_{systemDirectory() + guarded, "something else"};
-    const PlantedFile visitor_{systemDirectory() + visitor, "a stranger"};
-    const std::string both_ = quoted(guarded_.path()) + quoted(visitor_.path());
+    const std::string guarded_ = systemDirectory() + nameOf(drivers_[0]);
+    const std::string visitor_ = systemDirectory() + nameOf(drivers_[1]);
+    const std::string both_ = quoted(guarded_) + quoted(visitor_);
 };
 
 TEST_F(RunModes, ByHand) {
@@ -74,13 +75,13 @@ TEST_F(RunModes, ByHand) {
     const Program program(folder_.program());
     program.play({{"Integrity Scan"}, {"Driver Files (DRV)"}, {"Scan Folder Now", "Results"}});
     program.play({{"Repair and Update Failed Files...", "Failed Files List"}});
-    EXPECT_THAT(program.form("AutoCheck").rows(), ElementsAre(guarded_.path(), visitor_.path() + " *NEW*"));
+    EXPECT_THAT(program.form("AutoCheck").rows(), ElementsAre(guarded_, visitor_ + " *NEW*"));
     EXPECT_THAT(first_.records(), IsEmpty());
     program.play({{"Scan Failing Files...", "Integrity File Updated"}});
     expectAccepted({both_});
     EXPECT_THAT(folder_.logs(),
                 ElementsAre("Integrity Checker - These files were either New or Failed the Integrity Check," +
-                            guarded_.path() + "," + systemDirectory() + "zzz,visitor.drv\r\n"));
+                            guarded_ + "," + visitor_ + "\r\n"));
     program.play({{"Close Integrity Window"},
                   {"Scan Folder Now", "Scan Complete. No new or modified files were found."},
                   {"Close Integrity Check Window"},
@@ -107,6 +108,7 @@ TEST_F(RunModes, AtLogOnFindingsWaitForTheUserAndACleanScanEnds) {
 }
 
 TEST_F(RunModes, AtShutDown) {
+    demandOwnSystem(); // It presses Turn Off, and names files for the next start.
     configure(automatic);
     const PlantedFile replaced(folder_.path() + "replaced.tmp", "to be replaced");
     const PlantedFile wininit("C:\\windows\\wininit.ini",
@@ -130,7 +132,7 @@ TEST_F(RunModes, AtShutDown) {
 TEST_F(RunModes, WithNamesOfEveryScriptAndALongPath) {
     const std::string folder =
         folder_.path() + "\u041f\u0430\u043f\u043a\u0430\u30bd" + std::string(170, 'f') + "\\";
-    ASSERT_NE(CreateDirectoryA(folder.c_str(), nullptr), 0);
+    ASSERT_TRUE(makeFolder(folder));
     std::string ideographs; // As many as the disks below Wine can hold.
     for (int i = 0; i < 83; ++i) {
         ideographs += "\u6f22";
@@ -168,8 +170,9 @@ TEST_F(RunModes, WithNamesOfEveryScriptAndALongPath) {
         file->rewrite("changed");
     }
     acceptFindings(found);
-    MoveFileA((folder + "\u0436\u0451\u043b\u0442\u044b\u0439.dll").c_str(),
-              (folder + "\u0416\u0401\u043b\u0442\u044b\u0439.dll").c_str());
+    std::filesystem::rename(
+        std::filesystem::path(wide(files[0]->path())),
+        std::filesystem::path(wide("\\\\?\\" + folder + "\u0416\u0401\u043b\u0442\u044b\u0439.dll")));
     isClean();
     for (const std::string& line : first_.records(2)) {
         EXPECT_EQ(line.find(" !"), std::string::npos) << "could not be opened: " << line;

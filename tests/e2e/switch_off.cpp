@@ -23,9 +23,8 @@ LRESULT CALLBACK onMessage(HWND window, UINT message, WPARAM wide, LPARAM low) {
     return DefWindowProcA(window, message, wide, low);
 }
 
-void chooseAndWait(const std::string& programFile, const std::string& choice) {
+void chooseAndWait(const std::string& choice) {
     using namespace e2e;
-    setInputs({programFile, ""});
     const bool findings = choice == "Restart";
     const ProgramFolder folder("switch-off");
     // There must be a scanner, or the program says that there is none.
@@ -54,7 +53,8 @@ void chooseAndWait(const std::string& programFile, const std::string& choice) {
 
 int main(int, char** arguments) {
     try {
-        chooseAndWait(arguments[1], arguments[2]);
+        e2e::setInputs(arguments[1]);
+        chooseAndWait(arguments[2]);
     } catch (const std::exception& failure) {
         std::fprintf(stderr, "%s\n", failure.what());
     }

@@ -20,6 +20,17 @@ HWND openList(HWND dropDown) {
     return nullptr;
 }
 
+/// The system lets only the program in front name another one; whoever shares its input passes for it.
+void toFront(HWND window) {
+    if (SetForegroundWindow(window) != 0 && GetForegroundWindow() == window) {
+        return;
+    }
+    const DWORD front = GetWindowThreadProcessId(GetForegroundWindow(), nullptr);
+    AttachThreadInput(GetCurrentThreadId(), front, TRUE);
+    SetForegroundWindow(window);
+    AttachThreadInput(GetCurrentThreadId(), front, FALSE);
+}
+
 } // namespace
 
 bool comesTrue(const std::function<bool()>& holds, Milliseconds limit) {
@@ -78,7 +89,7 @@ void clickAt(HWND control, const RECT& place, const std::function<bool()>& ready
 
 void clickOn(HWND control, const RECT& place) {
     HWND const window = GetAncestor(control, GA_ROOT);
-    SetForegroundWindow(window);
+    toFront(window);
     clickAt(control, place, [window] { return GetForegroundWindow() == window; });
 }
 
@@ -165,7 +176,7 @@ void Form::close() const {
 }
 
 void Form::bringToFront() const {
-    SetForegroundWindow(window_);
+    toFront(window_);
     if (!comesTrue([this] { return GetForegroundWindow() == window_; })) {
         throw NotSeen("another window stays in front of " + describe());
     }

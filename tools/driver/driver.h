@@ -113,12 +113,12 @@ public:
     void play(const std::vector<Step>& steps) const;
 
     /// Waits for a visible window whose caption contains the text.
-    Form form(const std::string& captionPart) const;
+    Form form(const std::string& captionPart, Milliseconds limit = patience) const;
     /// True when such a window is visible now.
     bool hasForm(const std::string& captionPart) const;
 
     /// Waits for a message box.
-    Box box() const;
+    Box box(Milliseconds limit = patience) const;
     /// The message box that is open now.
     std::optional<Box> boxNow() const;
 

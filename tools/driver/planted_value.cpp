@@ -1,5 +1,7 @@
 #include "planted_value.h"
 
+#include "workplace.h"
+
 #include <algorithm>
 #include <stdexcept>
 
@@ -37,6 +39,9 @@ PlantedValue::PlantedValue(HKEY root, std::string key, std::string name, DWORD t
     : root_(root)
     , key_(std::move(key))
     , name_(std::move(name)) {
+    if (inputs().asGuest && stands()) {
+        throw std::runtime_error("somebody's registry value is in the way: " + key_ + "\\" + name_);
+    }
     for (std::size_t end = 0; end < key_.size(); ++end) {
         end = std::min(key_.find('\\', end), key_.size());
         if (Key(root_, key_.substr(0, end), KEY_READ).handle() == nullptr) {

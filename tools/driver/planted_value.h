@@ -7,7 +7,8 @@
 
 namespace e2e {
 
-/// A registry value that stands while the object lives, with the keys that had to be made for it.
+/// A registry value that stands while the object lives, with the keys that had to be made for it. As a guest
+/// it throws where somebody has one of its name.
 class PlantedValue {
 public:
     /// A text, as most are.

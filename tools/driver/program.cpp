@@ -30,6 +30,21 @@ bool isBox(HWND window) {
     return classOf(window) == "#32770";
 }
 
+/// What the system's own boxes call the button in the user's language.
+std::string inTheSystemsWords(HWND box, const std::string& text) {
+    constexpr std::pair<const char*, int> numbers[] = {
+        {"OK", IDOK}, {"Cancel", IDCANCEL}, {"Yes", IDYES}, {"No", IDNO}, {"Open", IDOK}};
+    const auto named = std::ranges::find(numbers, text, [](const auto& entry) { return entry.first; });
+    if (!isBox(box) || named == std::end(numbers)) {
+        return text;
+    }
+    HWND button = GetDlgItem(box, named->second);
+    if (button == nullptr && named->second == IDOK) {
+        button = GetDlgItem(box, IDCANCEL); // An only button may be numbered so that Esc presses it.
+    }
+    return button == nullptr ? text : readText(button);
+}
+
 /// Waits until a click on a row cannot pass for the second half of a double click.
 void awaitSingleClick() {
     static DWORD last = 0;
@@ -41,10 +56,10 @@ void awaitSingleClick() {
 
 Program::Program(const std::string& file, const std::string& arguments) {
     std::string commandLine = "\"" + file + "\"" + (arguments.empty() ? "" : " " + arguments);
-    STARTUPINFOA start{};
+    STARTUPINFOW start{};
     start.cb = sizeof start;
-    if (CreateProcessA(file.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
-                       &process_) == 0) {
+    if (CreateProcessW(wide(file).c_str(), wide(commandLine).data(), nullptr, nullptr, FALSE, 0, nullptr,
+                       nullptr, &start, &process_) == 0) {
         throw NotSeen(file + " cannot be started");
     }
 }
@@ -58,10 +73,10 @@ Program::~Program() {
 std::vector<std::string> Program::modules() const {
     const HANDLE list = CreateToolhelp32Snapshot(TH32CS_SNAPMODULE, process_.dwProcessId);
     std::vector<std::string> files;
-    MODULEENTRY32 module{};
+    MODULEENTRY32W module{};
     module.dwSize = sizeof module;
-    for (BOOL more = Module32First(list, &module); more != FALSE; more = Module32Next(list, &module)) {
-        files.push_back(module.szExePath);
+    for (BOOL more = Module32FirstW(list, &module); more != FALSE; more = Module32NextW(list, &module)) {
+        files.push_back(narrow(module.szExePath));
     }
     CloseHandle(list);
     return files;
@@ -73,7 +88,7 @@ std::vector<HWND> Program::windows() const {
         std::vector<HWND> found;
     } search{process_.dwProcessId, {}};
     EnumWindows(
-        [](HWND window, LPARAM argument) {
+        [](HWND window, LPARAM argument) WINAPI -> BOOL {
             auto& wanted = *reinterpret_cast<Search*>(argument);
             DWORD owner = 0;
             GetWindowThreadProcessId(window, &owner);
@@ -99,9 +114,9 @@ bool Program::hasForm(const std::string& captionPart) const {
     return formNow(captionPart).has_value();
 }
 
-Form Program::form(const std::string& captionPart) const {
+Form Program::form(const std::string& captionPart, Milliseconds limit) const {
     std::optional<HWND> window;
-    if (!comesTrue([&] { return (window = formNow(captionPart)).has_value(); })) {
+    if (!comesTrue([&] { return (window = formNow(captionPart)).has_value(); }, limit)) {
         throw NotSeen("no window \"" + captionPart + "\"; " + describe());
     }
     return Form(*window);
@@ -116,7 +131,7 @@ std::optional<Program::Spot> Program::find(const std::string& text, bool answeri
         } else {
             all.push_back(window);
         }
-        const auto named = std::ranges::find(all, text, readText);
+        const auto named = std::ranges::find(all, inTheSystemsWords(window, text), readText);
         if (named != all.end()) {
             return Spot{*named, std::nullopt};
         }
@@ -174,9 +189,9 @@ void Program::play(const std::vector<Step>& steps) const {
     }
 }
 
-Box Program::box() const {
+Box Program::box(Milliseconds limit) const {
     std::optional<Box> box;
-    if (!comesTrue([&] { return (box = boxNow()).has_value(); })) {
+    if (!comesTrue([&] { return (box = boxNow()).has_value(); }, limit)) {
         throw NotSeen("no message box; " + describe());
     }
     return *box;

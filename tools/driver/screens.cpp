@@ -25,19 +25,21 @@ public:
         holdScan(program);
         look_("scan-progress");
         program.press("Resume");
-        program.form("Welcome to Tarvelon").close();
+        program.form("Welcome to Tarvelon", 10 * patience).close();
         program.ends();
     }
 
     void findings() {
-        CreateDirectoryA(long_.c_str(), nullptr);
+        makeFolder(long_);
         writeSettings(absent, {{"1/path", long_},
                                {"1/args", "1,1,1,1,1,1,1"},
                                {"2/path", "C:\\Program Files\\"},
                                {"2/args", "0,0,0,0,1,0,0"}});
         folder_.writeData("1.dat", smallBaseline("EXE", ""));
         folder_.writeData("2.dat", smallBaseline("EXE", ""));
-        planted_.rewrite("changed");
+        const std::string baseline = folder_.data("Integrity.dat").value();
+        const std::string driver = entriesOf(baseline, "DRV").at(0);
+        folder_.writeData("Integrity.dat", withLine(baseline, driver, nameOf(driver) + "=1D*E\r\n"));
         const PlantedFile added(long_ + "a-visitor.exe", "new");
         const Program program(folder_.program(), "/r");
         program.awaitText("Results");
@@ -63,9 +65,11 @@ public:
         pressKey(VK_RETURN); // "Save and Exit", from wherever the keyboard is.
         program.press("OK");
         registry(program, window);
-        program.play({{"AppWatch", "Please Click On Refresh"}, {"Refresh"}});
-        comesTrue([&] { return !window.rows().empty(); });
-        visit(program, {window.rows().front()}, "windows");
+        if (!inputs().asGuest) { // What somebody has open is nobody's business.
+            program.play({{"AppWatch", "Please Click On Refresh"}, {"Refresh"}});
+            comesTrue([&] { return !window.rows().empty(); });
+            visit(program, {window.rows().front()}, "windows");
+        }
         program.play({{"Options"}, {"Load Logs"}});
         report(program, window);
         visit(program, {"Edit Settings", "Main Tarvelon Settings:"}, "settings");
@@ -92,6 +96,9 @@ public:
         const Program program(folder_.program(), "/s");
         program.form("Secure Shut Down");
         look_("shut-down");
+        if (inputs().asGuest) {
+            return;
+        }
         visit(program, {"Turn Off", "Status: Some files were scanned...Shutting Down in 2 minutes"},
               "count-down");
     }
@@ -104,11 +111,17 @@ private:
     }
 
     void registry(const Program& program, const Form& window) {
-        const PlantedValue stranger(HKEY_LOCAL_MACHINE, R"(Software\Microsoft\Windows\CurrentVersion\Run)",
-                                    "Stranger", R"(C:\Program Files\A stranger\stranger.exe /silent)");
+        const bool asGuest = inputs().asGuest;
+        const PlantedValue stranger(asGuest ? HKEY_CURRENT_USER : HKEY_LOCAL_MACHINE,
+                                    R"(Software\Microsoft\Windows\CurrentVersion\Run)",
+                                    asGuest ? "Tarvelon check" : "Stranger",
+                                    R"(C:\Program Files\A stranger\stranger.exe /silent)");
         program.play({{"RegWatch"}, {"Refresh"}});
         comesTrue([&] { return window.rows().size() == 2; });
         visit(program, {window.rows().at(1)}, "registry");
+        if (asGuest) {
+            return;
+        }
         const PlantedFile wininit("C:\\windows\\wininit.ini",
                                   "[Rename]\r\nNUL=C:\\windows\\temp\\setup.tmp\r\n"
                                   "C:\\windows\\system32\\new.dll=C:\\windows\\system32\\old.dll\r\n");
@@ -161,7 +174,6 @@ private:
 
     const Look& look_;
     const ProgramFolder folder_{"screens"};
-    const PlantedFile planted_{systemDirectory() + "zzscreens.drv", "as it was"};
     const std::string long_ =
         folder_.path() + "A folder with a name that is a good deal longer than most are\\";
 };

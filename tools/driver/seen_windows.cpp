@@ -70,7 +70,7 @@ std::vector<HWND> visibleChildren(HWND parent) {
     std::vector<HWND> children;
     EnumChildWindows(
         parent,
-        [](HWND child, LPARAM list) {
+        [](HWND child, LPARAM list) WINAPI -> BOOL {
             if (IsWindowVisible(child) != 0) {
                 reinterpret_cast<std::vector<HWND>*>(list)->push_back(child);
             }

@@ -2,6 +2,8 @@
 
 #include "seen_windows.h"
 
+#include <shlobj.h>
+
 namespace e2e {
 
 TreeView::TreeView(HWND window)
@@ -22,20 +24,6 @@ HTREEITEM TreeView::next(WPARAM relation, HTREEITEM item) const {
         SendMessageA(window_, TVM_GETNEXTITEM, relation, reinterpret_cast<LPARAM>(item)));
 }
 
-HTREEITEM TreeView::child(HTREEITEM parent, const std::string& text, Milliseconds limit) const {
-    HTREEITEM found = nullptr;
-    comesTrue(
-        [&] {
-            found = next(TVGN_CHILD, parent);
-            while (found != nullptr && !textOf(found).ends_with(text)) {
-                found = next(TVGN_NEXT, found);
-            }
-            return found != nullptr;
-        },
-        limit);
-    return found;
-}
-
 std::string TreeView::textOf(HTREEITEM item) const {
     Page page{};
     page.item.mask = TVIF_TEXT;
@@ -48,14 +36,6 @@ std::string TreeView::textOf(HTREEITEM item) const {
     return narrow(page.text);
 }
 
-std::string TreeView::describe(HTREEITEM parent) const {
-    std::string all;
-    for (HTREEITEM item = next(TVGN_CHILD, parent); item != nullptr; item = next(TVGN_NEXT, item)) {
-        all += " [" + textOf(item) + "]";
-    }
-    return all;
-}
-
 void TreeView::open(HTREEITEM item) const {
     SendMessageA(window_, TVM_EXPAND, TVE_EXPAND, reinterpret_cast<LPARAM>(item));
 }
@@ -64,29 +44,22 @@ void TreeView::select(HTREEITEM item) const {
     SendMessageA(window_, TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(item));
 }
 
-HTREEITEM TreeView::drive(const std::string& name) const {
-    open(root());
-    for (HTREEITEM place = next(TVGN_CHILD, root()); place != nullptr; place = next(TVGN_NEXT, place)) {
-        open(place);
-        if (HTREEITEM const found = child(place, name, Milliseconds(200))) {
-            return found;
-        }
-    }
-    throw NotSeen("no drive " + name + " in the tree of folders:" + describe(root()));
-}
-
 void TreeView::pick(const std::string& path) const {
-    HTREEITEM item = drive("(" + path.substr(0, 2) + ")");
-    for (std::size_t from = 3; from < path.size(); from = path.find('\\', from) + 1) {
-        const std::string name = path.substr(from, path.find('\\', from) - from);
-        open(item);
-        HTREEITEM const found = child(item, name, patience);
-        if (found == nullptr) {
-            throw NotSeen("no folder \"" + name + "\" in the tree:" + describe(item));
-        }
-        item = found;
+    const std::wstring folder = wide(path.substr(0, path.size() - 1));
+    const std::string name = narrow(folder.substr(folder.rfind(L'\\') + 1).c_str());
+    open(root());
+    const auto isPicked = [&] {
+        Page page{};
+        folder.copy(page.text, MAX_PATH - 1);
+        WriteProcessMemory(process_, there_, &page, sizeof page, nullptr);
+        SendMessageW(GetAncestor(window_, GA_ROOT), BFFM_SETSELECTIONW, TRUE,
+                     reinterpret_cast<LPARAM>(there_->text));
+        return textOf(next(TVGN_CARET, nullptr)) == name;
+    };
+    if (!comesTrue(isPicked)) {
+        throw NotSeen("no folder \"" + path + "\" in the tree, but \"" + textOf(next(TVGN_CARET, nullptr)) +
+                      "\"");
     }
-    select(item);
 }
 
 } // namespace e2e

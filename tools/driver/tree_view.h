@@ -17,23 +17,17 @@ public:
     /// The entry that stands to `item` as `relation` says (TVGN_...); null when there is none.
     HTREEITEM next(WPARAM relation, HTREEITEM item) const;
 
-    /// The entry below `parent` whose text is or ends in `text`; null when there is none within `limit`.
-    HTREEITEM child(HTREEITEM parent, const std::string& text, Milliseconds limit) const;
-
     std::string textOf(HTREEITEM item) const;
-    /// The entries below it, for messages about failures.
-    std::string describe(HTREEITEM parent) const;
 
     void open(HTREEITEM item) const;
     void select(HTREEITEM item) const;
 
-    /// In the system's tree of folders: opens it along the path, such as "C:\folder\", and selects the last
-    /// folder. Throws NotSeen where one is missing.
+    /// In the system's dialog for folders: has it select one, such as "C:\folder\". Throws NotSeen where that
+    /// fails. Names in the tree are no help on the way there, as the system shows some of them in the user's
+    /// language.
     void pick(const std::string& path) const;
 
 private:
-    HTREEITEM drive(const std::string& name) const;
-
     /// A piece of the other process's memory, through which its tree answers.
     struct Page {
         TVITEMW item;

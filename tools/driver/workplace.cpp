@@ -4,8 +4,10 @@
 
 #include <windows.h>
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <sstream>
@@ -25,13 +27,55 @@ Inputs& storedInputs() {
     return stored;
 }
 
-void removeTree(const std::string& folder) {
-    for (const std::string& name : namesIn(folder)) {
-        if (DeleteFileW(wide(folder + name).c_str()) == 0) {
-            removeTree(folder + name + "\\");
+/// What a program is handed comes in the process's code page.
+std::string argumentText(const char* argument) {
+    wchar_t text[4096] = {};
+    MultiByteToWideChar(CP_ACP, 0, argument, -1, text, 4096);
+    return narrow(text);
+}
+
+/// One byte at a time, over what the checksum of each single byte is.
+std::string crcOf(std::istream& bytes) {
+    static const std::array<std::uint32_t, 256> table = [] {
+        std::array<std::uint32_t, 256> all{};
+        for (std::uint32_t byte = 0; byte < 256; ++byte) {
+            all[byte] = byte;
+            for (int bit = 0; bit < 8; ++bit) {
+                all[byte] = (all[byte] >> 1) ^ ((all[byte] & 1) != 0 ? 0xEDB88320 : 0);
+            }
+        }
+        return all;
+    }();
+    std::uint32_t state = 0xFFFFFFFF;
+    std::vector<char> piece(1 << 20);
+    while (bytes.read(piece.data(), static_cast<std::streamsize>(piece.size())), bytes.gcount() > 0) {
+        for (std::streamsize at = 0; at < bytes.gcount(); ++at) {
+            const auto byte = static_cast<unsigned char>(piece[static_cast<std::size_t>(at)]);
+            state = (state >> 8) ^ table[(state ^ byte) & 0xFF];
         }
     }
-    RemoveDirectoryW(wide(folder.substr(0, folder.size() - 1)).c_str());
+    char text[9] = {};
+    std::snprintf(text, sizeof text, "%lX", static_cast<unsigned long>(~state & 0xFFFFFFFF));
+    return text;
+}
+
+std::string makeSystemBaseline() {
+    std::map<std::string, std::string> entries;
+    for (const std::string& name : namesIn(systemDirectory())) {
+        std::string end = name.substr(name.size() - std::min<std::size_t>(name.size(), 4));
+        CharUpperBuffA(end.data(), static_cast<DWORD>(end.size()));
+        const auto section = std::ranges::find_if(
+            sections, [&](const char* known) { return end == "." + std::string(known); });
+        if (section != sections.end()) {
+            std::ifstream file(std::filesystem::path(wide(systemDirectory() + name)), std::ios::binary);
+            entries[*section] += name + "=" + crcOf(file) + "*E\r\n";
+        }
+    }
+    std::string text = header + std::string("\r\n");
+    for (const std::string section : sections) {
+        text += "[" + section + "]\r\n" + entries[section] + "NULL*E\r\n";
+    }
+    return text;
 }
 
 } // namespace
@@ -40,12 +84,36 @@ const Inputs& inputs() {
     return storedInputs();
 }
 
-void setInputs(Inputs given) {
-    storedInputs() = std::move(given);
+void setInputs(const char* program, const char* folder) {
+    storedInputs() = {argumentText(program),
+                      folder == nullptr ? "C:\\Tarvelon\\" : argumentText(folder) + "\\", folder != nullptr};
+}
+
+void demandOwnSystem() {
+    if (inputs().asGuest) {
+        throw std::runtime_error("this is for a system that is there for the tests alone");
+    }
+}
+
+std::string ownFolder() {
+    wchar_t file[MAX_PATH] = {};
+    GetModuleFileNameW(nullptr, file, MAX_PATH);
+    const std::string path = narrow(file);
+    return path.substr(0, path.rfind('\\') + 1);
+}
+
+std::string asFirstWord(const std::string& path) {
+    return path.find(' ') == std::string::npos ? path : "\"" + path + "\"";
+}
+
+void copyFile(const std::string& from, const std::string& to) {
+    if (CopyFileW(wide(from).c_str(), wide(to).c_str(), FALSE) == 0) {
+        throw std::runtime_error("cannot copy " + from + " to " + to);
+    }
 }
 
 std::optional<std::string> readFile(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
+    std::ifstream file(std::filesystem::path(wide(path)), std::ios::binary);
     if (!file) {
         return std::nullopt;
     }
@@ -54,40 +122,55 @@ std::optional<std::string> readFile(const std::string& path) {
 
 std::vector<std::string> namesIn(const std::string& folder) {
     std::vector<std::string> names;
-    WIN32_FIND_DATAA entry{};
-    HANDLE const search = FindFirstFileA((folder + "*").c_str(), &entry);
+    WIN32_FIND_DATAW entry{};
+    HANDLE const search = FindFirstFileW(wide(folder + "*").c_str(), &entry);
     if (search == INVALID_HANDLE_VALUE) {
         return names;
     }
     do {
-        const std::string name = entry.cFileName;
+        const std::string name = narrow(entry.cFileName);
         if (name != "." && name != "..") {
             names.push_back(name);
         }
-    } while (FindNextFileA(search, &entry) != 0);
+    } while (FindNextFileW(search, &entry) != 0);
     FindClose(search);
     return names;
 }
 
 void writeFile(const std::string& path, const std::string& bytes) {
-    std::ofstream file(path, std::ios::binary);
+    std::ofstream file(std::filesystem::path(wide(path)), std::ios::binary);
     if (!file.write(bytes.data(), static_cast<std::streamsize>(bytes.size())).flush()) {
         throw std::runtime_error("cannot write " + path);
     }
 }
 
-ProgramFolder::ProgramFolder(const std::string& name)
-    : path_("C:\\Tarvelon\\" + name + "\\") {
-    CreateDirectoryA("C:\\Tarvelon", nullptr);
-    removeTree("\\\\?\\" + path_); // Long paths too.
-    CreateDirectoryA(path_.c_str(), nullptr);
-    if (CopyFileA(inputs().program.c_str(), program().c_str(), FALSE) == 0) {
-        throw std::runtime_error("cannot copy " + inputs().program);
+bool removeFolder(const std::string& path) {
+    const std::string whole = path.starts_with("\\\\?\\") ? path : "\\\\?\\" + path;
+    for (const std::string& name : namesIn(whole)) {
+        // A link to a folder goes without what it leads to.
+        if (DeleteFileW(wide(whole + name).c_str()) == 0 &&
+            RemoveDirectoryW(wide(whole + name).c_str()) == 0) {
+            removeFolder(whole + name + "\\");
+        }
     }
+    return RemoveDirectoryW(wide(whole.substr(0, whole.size() - 1)).c_str()) != 0 ||
+           GetLastError() == ERROR_FILE_NOT_FOUND;
+}
+
+bool makeFolder(const std::string& path) {
+    return CreateDirectoryW(wide("\\\\?\\" + path).c_str(), nullptr) != 0;
+}
+
+ProgramFolder::ProgramFolder(const std::string& name)
+    : path_(inputs().folder + name + "\\") {
+    makeFolder(inputs().folder);
+    removeFolder(path_);
+    makeFolder(path_);
+    copyFile(inputs().program, program());
 }
 
 void ProgramFolder::writeData(const std::string& name, const std::string& bytes) const {
-    CreateDirectoryA((path_ + "Data").c_str(), nullptr);
+    makeFolder(path_ + "Data");
     writeFile(path_ + "Data\\" + name, bytes);
 }
 
@@ -135,8 +218,8 @@ PlantedFile::~PlantedFile() {
 }
 
 void PlantedFile::stretch(const std::string& path, std::int64_t length) {
-    HANDLE const file =
-        CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    HANDLE const file = CreateFileW(wide(path).c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING,
+                                    FILE_ATTRIBUTE_NORMAL, nullptr);
     LARGE_INTEGER end{};
     end.QuadPart = length;
     SetFilePointerEx(file, end, nullptr, FILE_BEGIN);
@@ -145,33 +228,43 @@ void PlantedFile::stretch(const std::string& path, std::int64_t length) {
 }
 
 std::string systemDirectory() {
-    char path[MAX_PATH] = {};
-    GetSystemDirectoryA(path, sizeof path);
-    return std::string(path) + "\\";
+    wchar_t path[MAX_PATH] = {};
+    GetSystemDirectoryW(path, MAX_PATH);
+    return narrow(path) + "\\";
 }
 
 std::string crcText(const std::string& bytes) {
-    std::uint32_t state = 0xFFFFFFFF;
-    for (const char byte : bytes) {
-        state ^= static_cast<unsigned char>(byte);
-        for (int bit = 0; bit < 8; ++bit) {
-            state = (state >> 1) ^ ((state & 1) != 0 ? 0xEDB88320 : 0);
-        }
+    std::istringstream stream(bytes);
+    return crcOf(stream);
+}
+
+const std::string& systemBaseline() {
+    static const std::string made = makeSystemBaseline();
+    return made;
+}
+
+std::vector<std::string> entriesOf(const std::string& baseline, const std::string& section) {
+    std::vector<std::string> lines;
+    std::istringstream text(baseline.substr(baseline.find("[" + section + "]\r\n")));
+    std::string line;
+    std::getline(text, line);
+    while (std::getline(text, line) && line != "NULL*E\r") {
+        lines.push_back(line + "\n");
     }
-    char text[9] = {};
-    std::snprintf(text, sizeof text, "%lX", static_cast<unsigned long>(~state & 0xFFFFFFFF));
-    return text;
+    return lines;
 }
 
-std::string systemBaseline() {
-    return readFile(inputs().expected + "Integrity.dat").value();
+std::string nameOf(const std::string& line) {
+    return line.substr(0, line.find('='));
 }
 
-std::string withEntry(std::string baseline, const std::string& section, const std::string& name,
-                      const std::string& checksum) {
+std::string withLine(std::string baseline, const std::string& line, const std::string& other) {
+    return baseline.replace(baseline.find("\n" + line) + 1, line.size(), other);
+}
+
+std::string withEntry(std::string baseline, const std::string& section, const std::string& line) {
     const std::size_t head = baseline.find("[" + section + "]\r\n");
-    const std::size_t end = baseline.find("\r\nNULL*E\r\n", head) + 2;
-    return baseline.insert(end, name + "=" + checksum + "*E\r\n");
+    return baseline.insert(baseline.find("\r\nNULL*E\r\n", head) + 2, line);
 }
 
 std::string smallBaseline(const std::string& section, const std::string& entries) {
