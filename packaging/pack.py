@@ -1,8 +1,9 @@
 #!/usr/bin/env python3
 """Makes what users are given: pack.py BUILDS-FOLDER PACKAGE-FOLDER
 
-The zips for each width, the installer, and the SHA-256 sums of all. BUILDS-FOLDER holds windows-x64 and windows-x86. Nothing of this
-machine or moment goes in: names stand in order, and every file has the time of the commit.
+The zips for each width, the installer, the check for a Windows at hand, and the SHA-256 sums of all. BUILDS-FOLDER
+holds windows-x64 and windows-x86. Nothing of this machine or moment goes in: names stand in order, and every file has
+the time of the commit.
 """
 
 import hashlib
@@ -15,6 +16,8 @@ import sys
 import tempfile
 import time
 import zipfile
+
+from check_kit import kit_files
 
 ROOT = pathlib.Path(__file__).resolve().parents[1]
 WIDTHS = ("x64", "x86")
@@ -143,6 +146,9 @@ def main():
         files = program_files(builds, width)
         write_zip(folder / f"Tarvelon-{version()}-{width}.zip",
                   {f"Tarvelon/{name}": content for name, content in files.items()})
+        write_zip(folder / f"Tarvelon-{version()}-check-{width}.zip",
+                  {f"Tarvelon check/{name}": content
+                   for name, content in kit_files(builds, width, files, windows_text).items()})
     write_installer(folder / f"Tarvelon-{version()}-setup.exe", builds)
     write_sums(folder)
     for path in sorted(folder.iterdir()):
