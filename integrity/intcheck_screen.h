@@ -86,18 +86,18 @@ struct IntCheckScreen : Screen {
                     false};                               ///< shown for a clean result
     Verdict found{Frame2, "", at(16, 8, 568, 48), false}; ///< shown for any other
     Frame figures{Frame2, "Figures", at(16, 72, 568, 224)};
-    Label Label1{figures, "Total Files Scanned:", at(24, 32, 160, 40)};
+    Label Label1{figures, "Total Files Scanned:", at(24, 36, 160, 32)};
     Label Label6{figures, "1000", at(184, 32, 120, 40), TextStyle::Value}; ///< files done
-    Label totalHint{figures, "looked at in this scan", at(328, 32, 224, 40), TextStyle::Hint};
-    Label Label3{figures, "New Files:", at(24, 80, 160, 40)};
+    Label totalHint{figures, "looked at in this scan", at(328, 36, 224, 32), TextStyle::Hint};
+    Label Label3{figures, "New Files:", at(24, 84, 160, 32)};
     Label Label8{figures, "1000", at(184, 80, 120, 40), TextStyle::Value}; ///< new
-    Label newHint{figures, "not in the baseline yet", at(328, 80, 224, 40), TextStyle::Hint};
-    Label Label4{figures, "Failed Files:", at(24, 128, 160, 40)};
+    Label newHint{figures, "not in the baseline yet", at(328, 84, 224, 32), TextStyle::Hint};
+    Label Label4{figures, "Failed Files:", at(24, 132, 160, 32)};
     Label Label9{figures, "1000", at(184, 128, 120, 40), TextStyle::Value}; ///< failed
-    Label failedHint{figures, "not as the baseline has them", at(328, 128, 224, 40), TextStyle::Hint};
-    Label Label5{figures, "Passing Files:", at(24, 176, 160, 40)};
+    Label failedHint{figures, "not as the baseline has them", at(328, 132, 224, 32), TextStyle::Hint};
+    Label Label5{figures, "Passing Files:", at(24, 180, 160, 32)};
     Label Label7{figures, "1000", at(184, 176, 120, 40), TextStyle::Value}; ///< passing
-    Label passingHint{figures, "as the baseline has them", at(328, 176, 224, 40), TextStyle::Hint};
+    Label passingHint{figures, "as the baseline has them", at(328, 180, 224, 32), TextStyle::Hint};
 
     // Failed files.
     Frame Frame3{*this, at(0, 48, 600, 348), false};

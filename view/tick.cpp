@@ -74,10 +74,7 @@ public:
             return;
         }
         const Surface& under = *theme().captions;
-        RECT behind = canvas.area();
-        behind.right = std::min<LONG>(behind.right, textLeft() + canvas.scale()(8) +
-                                                        canvas.textWidth(control().Caption(), {}));
-        canvas.roundedBox(behind, canvas.scale()(4), under.ground);
+        canvas.roundedBox(canvas.area(), canvas.scale()(4), under.ground);
         paintOn(canvas, under, under.ground);
     }
 
