@@ -201,7 +201,7 @@ TEST_P(ThemedView, ControlsAreDrawnInTheirLastState) {
                  {screen.button, 4, theme.card.button(Rank::Ordinary).normal},
                  {screen.action, 4, theme.card.button(Rank::Ordinary).normal},
                  {screen.check, 9, captions.mark.field},
-                 {screen.check, 110, theme.card.ground},
+                 {screen.check, 110, captions.ground},
                  {screen.chart, 90, theme.bar},
                  {screen.entry, 110, theme.navigationCurrent},
                  {screen.second, 4, theme.card.mark.ticked},
