@@ -105,24 +105,44 @@ Function ${un}findInstalled
     ReadRegStr $installed SHCTX "${ENTRY}" InstallLocation
 FunctionEnd
 
-; In this session its mark stands; of another session's the file cannot be written.
-Function ${un}refuseWhileItRuns
+; In $0: whether it runs. In this session its mark stands; of another session's the file cannot be written.
+Function ${un}findRunning
     System::Call 'kernel32::OpenMutexW(i 0x100000, i 0, w "TarvelonLow") p.r0 ?e'
     Pop $1
-    ${If} $0 P= 0
-    ${AndIf} $1 <> 5
-        System::Call 'kernel32::CreateFileW(w "${PROGRAM}", i 0x40000000, i 7, p 0, i 3, i 0, p 0) p.r0 ?e'
-        Pop $1
-        ${If} $0 P<> -1
-            System::Call 'kernel32::CloseHandle(p r0)'
-        ${EndIf}
-        ${If} $1 <> 32
-            Return
-        ${EndIf}
-    ${Else}
+    ${If} $0 P<> 0
+        System::Call 'kernel32::CloseHandle(p r0)'
+        StrCpy $0 1
+        Return
+    ${EndIf}
+    ${If} $1 = ${ACCESS_DENIED}
+        StrCpy $0 1
+        Return
+    ${EndIf}
+    System::Call 'kernel32::CreateFileW(w "${PROGRAM}", i 0x40000000, i 7, p 0, i 3, i 0, p 0) p.r0 ?e'
+    Pop $1
+    ${If} $0 P<> -1
         System::Call 'kernel32::CloseHandle(p r0)'
     ${EndIf}
-    !insertmacro refuse "Tarvelon is running. Close it, then try again. Nothing was changed."
+    StrCpy $0 0
+    ${If} $1 = ${SHARING_VIOLATION}
+        StrCpy $0 1
+    ${EndIf}
+FunctionEnd
+
+Function ${un}refuseWhileItRuns
+    Call ${un}findRunning
+    ${IfNot} ${Silent}
+        ${DoWhile} $0 = 1
+            MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "Tarvelon is running. Close it, then press Retry." \
+                IDRETRY +3
+            SetErrorLevel 1
+            Quit
+            Call ${un}findRunning
+        ${Loop}
+    ${EndIf}
+    ${If} $0 = 1
+        !insertmacro refuse "Tarvelon is running. Close it, then try again. Nothing was changed."
+    ${EndIf}
 FunctionEnd
 
 ; Runs this file again, with an administrator's rights and the arguments in $0, and waits for it.
@@ -144,6 +164,8 @@ Function ${un}runAsAdministrator
 FunctionEnd
 !macroend
 
+!define ACCESS_DENIED 5
+!define SHARING_VIOLATION 32
 !if ${WIDTH} == x64
     !define RECORD 112
 !else
@@ -220,8 +242,8 @@ Function .onInit
             !insertmacro refuse "Tarvelon is installed in $installed. Uninstall it there first, and keep its data."
         ${EndIf}
     ${EndIf}
+    Call refuseWhileItRuns
     ${If} ${Silent}
-        Call refuseWhileItRuns
         ${If} $mode == all
             UserInfo::GetAccountType
             Pop $0
@@ -389,7 +411,8 @@ Section
         StrCpy $0 "/S /AllUsers /User=$user /D=$INSTDIR"
         Call runAsAdministrator
         ${If} $result <> 0
-            MessageBox MB_OK|MB_ICONEXCLAMATION "Tarvelon was not installed for all: that takes an administrator."
+            MessageBox MB_OK|MB_ICONEXCLAMATION "Tarvelon was not installed. An administrator has to agree, and \
+                it must not run for another user."
             SetErrorLevel 1
             Abort "Not installed."
         ${EndIf}
@@ -550,7 +573,8 @@ Section un.Uninstall
         StrCpy $0 "$0 _?=$INSTDIR"
         Call un.runAsAdministrator
         ${If} $result <> 0
-            MessageBox MB_OK|MB_ICONEXCLAMATION "Tarvelon was not removed: that takes an administrator."
+            MessageBox MB_OK|MB_ICONEXCLAMATION "Tarvelon was not removed. An administrator has to agree, and \
+                it must not run for another user."
             SetErrorLevel 1
             Abort "Not removed."
         ${EndIf}

@@ -187,6 +187,8 @@ def main():
             pack.write_installer(setup, BUILDS, "x64")
             all_users(windows_path(setup), one_user(windows_path(setup)))
         finally:
+            # Without one, its end is waited for.
+            del os.environ["DISPLAY"]
             wine("wineboot", "--kill")
             display.terminate()
 
