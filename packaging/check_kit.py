@@ -12,10 +12,10 @@ PROGRAMS = ("tests/contract/contract_test.exe", "tests/contract/contract_en-US.e
 
 
 def stripped(program, width):
-    """The program's bytes without names for debuggers."""
+    """The program's bytes without names for debuggers, and as else without the time of day."""
     with tempfile.TemporaryDirectory() as folder:
         copy = pathlib.Path(folder) / program.name
-        subprocess.run([STRIP[width], "-o", copy, program], check=True)
+        subprocess.run([STRIP[width], "-p", "-o", copy, program], check=True)
         return copy.read_bytes()
 
 

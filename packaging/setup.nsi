@@ -497,6 +497,10 @@ Function un.deleteLink
     ${EndIf}
     ${If} $3 == "${PROGRAM}"
         Delete $0
+        ${If} ${FileExists} $0
+            MessageBox MB_OK|MB_ICONINFORMATION "This shortcut stays, as only an administrator may delete it:\
+                $\r$\n$0" /SD IDOK
+        ${EndIf}
     ${EndIf}
 FunctionEnd
 
