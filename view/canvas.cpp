@@ -256,7 +256,7 @@ void Canvas::text(const std::string& text, const RECT& rect, const TextLook& loo
         return size.cx <= widthOf(rect) && size.cy <= heightOf(rect);
     };
     bool fits = fit(wanted, DT_SINGLELINE);
-    const bool paragraph = !look.middle && heightOf(rect) >= 3 * size.cy;
+    const bool paragraph = !look.middle && 2 * heightOf(rect) >= 7 * size.cy;
     const auto shrink = [&](int height, int smallest, UINT by) {
         for (; !fits && height >= smallest; --height) {
             fits = fit(height, by);

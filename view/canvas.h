@@ -70,7 +70,7 @@ public:
     /// Light around a disc, that fades towards `width` pixels from it.
     void glow(Spot middle, float radius, float width, Color color);
 
-    /// Draws the text in the middle of the rectangle's height; a rectangle with room for three lines or more
+    /// Draws the text in the middle of the rectangle's height; one with room for more than three lines
     /// is filled from its top. Text that does not fit into one line is first set a little smaller, then
     /// broken into lines and, down to four fifths, set smaller again; at last it is shortened by dots. A path
     /// is only shortened. Text with line breaks of its own is set in lines from the start.
