@@ -126,6 +126,8 @@ def one_user(setup):
     expect(said == "code 0\n" and home.is_dir(), said)
     expect(entry("HKCU")["DisplayVersion"] == "1.9" and link.is_file(), "no entry or link")
 
+    said, _ = wine(BOXES, setup, r"/S /AllUsers /D=Z:\proc\x", "end")
+    expect(said.startswith("Nothing can be written to") and said.endswith("code 1\n"), said)
     refused = (f"run {setup}|/S", r"run C:\Else where\Uninstall.exe|/S _?=C:\Else where")
     said, _ = wine(BOXES, r"C:\Else where\TarvelonLow.exe", "", "No", *refused)
     expect(said.startswith(FIRST_RUN), said)
