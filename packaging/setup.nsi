@@ -234,6 +234,13 @@ Function .onInit
         ${EndIf}
     ${EndIf}
     ${If} $INSTDIR == ""
+        ; Without a word NSIS passes over a folder that cannot be.
+        System::Call 'kernel32::GetCommandLineW() w.r0'
+        ClearErrors
+        ${GetOptions} $0 "/D=" $R1
+        ${IfNot} ${Errors}
+            !insertmacro refuse "There can be no folder $R1. Nothing was changed."
+        ${EndIf}
         Call setFolder
     ${Else}
         Call findInstalled

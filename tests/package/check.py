@@ -126,8 +126,9 @@ def one_user(setup):
     expect(said == "code 0\n" and home.is_dir(), said)
     expect(entry("HKCU")["DisplayVersion"] == "1.9" and link.is_file(), "no entry or link")
 
-    said, _ = wine(BOXES, setup, r"/S /AllUsers /D=Z:\proc\x", "end")
-    expect(said.startswith("Nothing can be written to") and said.endswith("code 1\n"), said)
+    for folder, reason in ((r"Z:\proc\x", "Nothing can be written to"), (r"C:\windows\win.ini\x", "There can be no")):
+        said, _ = wine(BOXES, setup, "/S /AllUsers /D=" + folder, "end")
+        expect(said.startswith(reason) and said.endswith("code 1\n"), said)
     refused = (f"run {setup}|/S", r"run C:\Else where\Uninstall.exe|/S _?=C:\Else where")
     said, _ = wine(BOXES, r"C:\Else where\TarvelonLow.exe", "", "No", *refused)
     expect(said.startswith(FIRST_RUN), said)
