@@ -399,11 +399,15 @@ void FormWindow::showChanges() {
     }
 }
 
-void FormWindow::refresh() {
-    showChanges();
+void FormWindow::settleFocus() {
     if (std::exchange(focusLost_, false)) {
         giveFocus();
     }
+}
+
+void FormWindow::refresh() {
+    showChanges();
+    settleFocus();
     const ControlWindow* emptied = std::exchange(emptied_, nullptr);
     if (emptied && emptied->isFocused() && emptied->isEmpty()) {
         moveFocus(FALSE, FALSE);

@@ -29,6 +29,9 @@ public:
     void refresh();
     /// The same, unless that was less than a thirtieth of a second ago.
     void refreshIfDue();
+    /// Gives the keyboard to something if what had it can have it no longer. While a long file is read, no
+    /// refresh may come for a while.
+    void settleFocus();
     /// Makes the controls of a page that has not been shown yet; false when all have been made.
     bool makeReady();
     /// Notes that a control's window is to be refreshed.

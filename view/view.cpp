@@ -75,11 +75,14 @@ void Win32View::changed(Control& control, Aspect aspect) {
 void Win32View::handle(MSG& message) {
     const HWND root = GetAncestor(message.hwnd, GA_ROOT);
     const auto found = std::ranges::find(forms_, root, [](const auto& form) { return form->window(); });
-    if (found != forms_.end() && (*found)->takes(message)) {
-        return;
+    FormWindow* form = found == forms_.end() ? nullptr : found->get();
+    if (!form || !form->takes(message)) {
+        TranslateMessage(&message);
+        windowCalls().dispatchMessage(&message);
     }
-    TranslateMessage(&message);
-    windowCalls().dispatchMessage(&message);
+    if (form) {
+        form->settleFocus();
+    }
 }
 
 void Win32View::block(HWND owner) {
