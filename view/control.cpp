@@ -174,7 +174,11 @@ std::optional<LRESULT> ControlWindow::reflect(UINT message, WPARAM wide, LPARAM 
 }
 
 LRESULT CALLBACK ControlWindow::procedure(HWND window, UINT message, WPARAM wide, LPARAM low) {
-    return ownerOf(window)->handle(message, wide, low);
+    ControlWindow& owner = *ownerOf(window);
+    if (message == WM_SETFOCUS) {
+        owner.form_.keepFocus(window);
+    }
+    return owner.handle(message, wide, low);
 }
 
 LRESULT ControlWindow::handleAsClass(UINT message, WPARAM wide, LPARAM low) {

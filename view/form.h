@@ -29,6 +29,8 @@ public:
     void refresh();
     /// The same, unless that was less than a thirtieth of a second ago.
     void refreshIfDue();
+    /// A control's window has got the keyboard, and gets it again when the form comes back.
+    void keepFocus(HWND control) { focusKept_ = control; }
     /// Gives the keyboard to something if what had it can have it no longer. While a long file is read, no
     /// refresh may come for a while.
     void settleFocus();
@@ -99,7 +101,7 @@ private:
     Screen& screen_;
     ViewTools& tools_;
     Scale scale_{96};
-    HWND focusKept_ = nullptr; ///< Had the keyboard when the form was last left.
+    HWND focusKept_ = nullptr; ///< Had the keyboard last on this form.
     HWND cameFrom_ = nullptr;  ///< The form that had the keyboard when this one came to light.
     SIZE extra_{};             ///< Pixels by which the inside is larger than the screen.
     RECT placeBefore_{};       ///< Of the window, when the user began to move or size it.

@@ -227,7 +227,6 @@ bool FormWindow::canUseKeys(HWND window) const {
 
 void FormWindow::activated(bool active) {
     if (!active) {
-        focusKept_ = GetFocus();
         showAccessKeys(false);
     } else if (blocked_) {
         // Whatever brought it here, the user has the box in front of it to deal with.

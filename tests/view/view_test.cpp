@@ -424,7 +424,10 @@ TEST_F(View, FormsComeForwardCloseAndAreAllBlockedByABox) {
     EXPECT_EQ(heard, "over 16-16");
     const HWND otherForm = FindWindowA("TarvelonForm", "Other");
     SetForegroundWindow(form);
-    EXPECT_EQ(GetFocus(), windowOf(screen.text)) << "As it was left";
+    SetFocus(windowOf(screen.check));
+    ShowWindow(form, SW_MINIMIZE);
+    ShowWindow(form, SW_RESTORE);
+    EXPECT_EQ(GetFocus(), windowOf(screen.check)) << "As it was left";
     ShowWindow(otherForm, SW_MINIMIZE);
     EXPECT_TRUE(other.Minimized());
     other.show();
