@@ -41,17 +41,18 @@ UINT iconFlags(const MessageBox& box) {
     return box.buttons == Buttons::Ok ? MB_ICONINFORMATION : MB_ICONQUESTION;
 }
 
-Answer answerFrom(int button) {
-    switch (button) {
-    case IDYES:
-        return Answer::Yes;
-    case IDNO:
-        return Answer::No;
-    case IDCANCEL:
-        return Answer::Cancel;
-    default:
-        return Answer::Ok;
+/// A box that goes without one of its buttons, by Esc where the system lets it or for want of memory, agrees
+/// to nothing.
+Answer answerFrom(Buttons buttons, int button) {
+    switch (buttons) {
+    case Buttons::OkCancel:
+        return button == IDOK ? Answer::Ok : Answer::Cancel;
+    case Buttons::YesNo:
+        return button == IDYES ? Answer::Yes : Answer::No;
+    case Buttons::Ok:
+        break;
     }
+    return Answer::Ok;
 }
 
 template<class Record, class Text>
@@ -99,9 +100,10 @@ Answer Win32Dialogs::message(const MessageBox& box) {
     const UINT flags =
         buttonFlags(box.buttons) | iconFlags(box) | modality | (box.destroys ? MB_DEFBUTTON2 : 0);
     const std::string title = box.title.empty() ? applicationTitle : box.title;
-    return answerFrom(hasWideCalls() ? MessageBoxW(owner.window(), wideText(box.text).c_str(),
-                                                   wideText(title).c_str(), flags)
-                                     : MessageBoxA(owner.window(), box.text.c_str(), title.c_str(), flags));
+    return answerFrom(box.buttons, hasWideCalls()
+                                       ? MessageBoxW(owner.window(), wideText(box.text).c_str(),
+                                                     wideText(title).c_str(), flags)
+                                       : MessageBoxA(owner.window(), box.text.c_str(), title.c_str(), flags));
 }
 
 bool Win32Dialogs::getOpenFileName(OpenFileRecord& record) {
