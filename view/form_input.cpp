@@ -146,10 +146,16 @@ bool FormWindow::isOwnKey(const MSG& message) {
     if (message.message == WM_SYSKEYDOWN && key == VK_F10 && isHeld(VK_SHIFT)) {
         return focused && showRowMenu(focused->window(), focused->control(), -1);
     }
+    constexpr LPARAM wasDownBefore = 1 << 30;
+    if (message.message == WM_SYSKEYDOWN && key == VK_F4) {
+        if ((message.lParam & wasDownBefore) == 0) { // Held, it is not meant for what stands behind.
+            PostMessageA(window(), WM_SYSCOMMAND, SC_CLOSE, 0);
+        }
+        return true; // Not all classes leave it to the system.
+    }
     if (message.message != WM_KEYDOWN) {
         return false;
     }
-    constexpr LPARAM wasDownBefore = 1 << 30;
     if ((message.lParam & wasDownBefore) != 0) {
         // Held a little long, these are not meant for what comes to light by them.
         return key == VK_RETURN || key == VK_ESCAPE || (key >= VK_F1 && key <= VK_F12);
