@@ -12,8 +12,6 @@
 #include <shlwapi.h>
 #include <wincrypt.h>
 
-#include <filesystem>
-
 namespace tarvelon {
 
 /// Windows to hold against the contract, and what a test does to it from outside the program.
@@ -56,10 +54,13 @@ public:
     void attach(Screen& screen) { view_.attach(screen); }
     /// Whether a command line that makes this file has been run, at the latest within some seconds.
     bool hasMade(const std::string& path, const std::string&) {
-        for (int tries = 0; tries < 100 && !std::filesystem::exists(widePath(path)); ++tries) {
+        const auto isThere = [&] {
+            return GetFileAttributesW(widePath(path).c_str()) != INVALID_FILE_ATTRIBUTES;
+        };
+        for (int tries = 0; tries < 100 && !isThere(); ++tries) {
             Sleep(100);
         }
-        return std::filesystem::exists(widePath(path));
+        return isThere();
     }
     /// Target, folder, arguments, description, icon and its number, and the way to show the window, as the
     /// system's own object reads them, with bars between them. Empty when there is no link file.
@@ -101,9 +102,22 @@ public:
 
 private:
     void empty() {
-        std::error_code passedOver;
-        std::filesystem::remove_all(widePath(folder), passedOver);
+        removeTree(widePath(folder));
         SHDeleteKeyA(HKEY_CURRENT_USER, key.c_str());
+    }
+
+    /// The standard library's gives up in the middle with some compilers.
+    static void removeTree(const std::wstring& path) {
+        WIN32_FIND_DATAW found;
+        const HANDLE search = FindFirstFileW((path + L"*").c_str(), &found);
+        for (BOOL more = search != INVALID_HANDLE_VALUE; more; more = FindNextFileW(search, &found)) {
+            const std::wstring name = found.cFileName;
+            if (name != L"." && name != L".." && !DeleteFileW((path + name).c_str())) {
+                removeTree(path + name + L"\\");
+            }
+        }
+        FindClose(search);
+        RemoveDirectoryW(path.substr(0, path.size() - 1).c_str());
     }
 
     Win32View view_;
