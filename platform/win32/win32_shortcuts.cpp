@@ -20,13 +20,17 @@ bool save(const std::string& linkPath, const ShellLink& link, const Turned& turn
     const auto given = [&](const std::string& text, const auto& call) {
         return text.empty() || SUCCEEDED(call(turned(text).c_str()));
     };
-    return file && SUCCEEDED(object->SetPath(turned(link.path).c_str())) &&
-           given(link.workingDirectory, [&](auto text) { return object->SetWorkingDirectory(text); }) &&
-           given(link.arguments, [&](auto text) { return object->SetArguments(text); }) &&
-           SUCCEEDED(object->SetDescription(turned(link.description).c_str())) &&
-           given(link.iconFile, [&](auto text) { return object->SetIconLocation(text, link.iconIndex); }) &&
-           SUCCEEDED(object->SetShowCmd(link.showCmd)) &&
-           SUCCEEDED(object->Resolve(nullptr, link.resolveFlags)) &&
+    const bool isFilled =
+        file && SUCCEEDED(object->SetPath(turned(link.path).c_str())) &&
+        given(link.workingDirectory, [&](auto text) { return object->SetWorkingDirectory(text); }) &&
+        given(link.arguments, [&](auto text) { return object->SetArguments(text); }) &&
+        SUCCEEDED(object->SetDescription(turned(link.description).c_str())) &&
+        given(link.iconFile, [&](auto text) { return object->SetIconLocation(text, link.iconIndex); });
+    if (!isFilled) {
+        return false;
+    }
+    object->SetShowCmd(link.showCmd); // Where only the three usual ways are taken, the first of them stays.
+    return SUCCEEDED(object->Resolve(nullptr, link.resolveFlags)) &&
            SUCCEEDED(file->Save(briefPath(linkPath).c_str(), FALSE));
 }
 
