@@ -33,10 +33,12 @@ struct LogControls {
                   at(224, 410, 352, 20)};
 
     Frame repF;
+    Icon reportIcon{repF, at(24, 20, 24, 24), "logging"};
+    Label reportTitle{repF, "Report", at(56, 16, 520, 32), TextStyle::Title};
     Label Label25{
         repF, "The following files either failed an Integrity Check, or were New/Modified Registry Entries:",
-        at(24, 16, 552, 36)};
-    ListBox List4{repF, at(24, 56, 552, 362)}; ///< the names in one report
+        at(24, 52, 552, 20)};
+    ListBox List4{repF, at(24, 80, 552, 344)}; ///< the names in one report
     cButton cDelLog{repF, "Delete this Report", at(24, 440, 152, 32), Rank::Destructive};
     cButton cX{repF, "Close", at(272, 440, 112, 32)};
     cButton cScnLog{repF, "Scan Files For Viruses", at(392, 440, 184, 32), Rank::Primary};
