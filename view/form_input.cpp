@@ -139,6 +139,12 @@ bool FormWindow::isOwnKey(const MSG& message) {
         const auto letter = static_cast<char>(std::toupper(key));
         return pressFirst([letter](const Control& control) { return control.accessKey == letter; }, true);
     }
+    const bool down = message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN;
+    constexpr LPARAM wasDownBefore = 1 << 30;
+    if (down && (message.lParam & wasDownBefore) != 0) {
+        // Held a little long, these are not meant for what comes to light by them.
+        return key == VK_RETURN || key == VK_ESCAPE || (key >= VK_F1 && key <= VK_F12);
+    }
     if (message.message == WM_SYSKEYDOWN && key == VK_MENU) {
         showAccessKeys(true);
     }
@@ -146,19 +152,8 @@ bool FormWindow::isOwnKey(const MSG& message) {
     if (message.message == WM_SYSKEYDOWN && key == VK_F10 && isHeld(VK_SHIFT)) {
         return focused && showRowMenu(focused->window(), focused->control(), -1);
     }
-    constexpr LPARAM wasDownBefore = 1 << 30;
-    if (message.message == WM_SYSKEYDOWN && key == VK_F4) {
-        if ((message.lParam & wasDownBefore) == 0) { // Held, it is not meant for what stands behind.
-            PostMessageA(window(), WM_SYSCOMMAND, SC_CLOSE, 0);
-        }
-        return true; // Not all classes leave it to the system.
-    }
     if (message.message != WM_KEYDOWN) {
         return false;
-    }
-    if ((message.lParam & wasDownBefore) != 0) {
-        // Held a little long, these are not meant for what comes to light by them.
-        return key == VK_RETURN || key == VK_ESCAPE || (key >= VK_F1 && key <= VK_F12);
     }
     if (key == VK_F1) {
         screen_.dispatch(screen_.onHelp);

@@ -47,6 +47,10 @@ public:
     }
 
     LRESULT handle(UINT message, WPARAM wide, LPARAM low) override {
+        if (message == WM_SYSKEYDOWN) {
+            // Alt and what goes with it is the form's; some classes take it for a key of their own.
+            return windowCalls().defWindowProc(window(), message, wide, low);
+        }
         constexpr UINT lastTreeMessage = TV_FIRST + 0xff;
         const bool asked = message >= TV_FIRST && message <= lastTreeMessage;
         if (asked || message == WM_KEYDOWN || message == WM_LBUTTONDOWN || message == WM_RBUTTONDOWN) {
