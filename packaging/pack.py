@@ -10,6 +10,7 @@ import hashlib
 import os
 import pathlib
 import re
+import shutil
 import struct
 import subprocess
 import sys
@@ -141,9 +142,9 @@ def write_sums(folder):
 
 def main():
     builds, folder = (pathlib.Path(argument) for argument in sys.argv[1:])
-    folder.mkdir(parents=True, exist_ok=True)
-    for old in folder.iterdir():
-        old.unlink()
+    # Also what somebody has unpacked there to look at.
+    shutil.rmtree(folder, ignore_errors=True)
+    folder.mkdir(parents=True)
     for width in WIDTHS:
         files = program_files(builds, width)
         write_zip(folder / f"Tarvelon-{version()}-{width}.zip",

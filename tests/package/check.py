@@ -77,6 +77,14 @@ def same_bytes_twice():
         expect(str(ROOT).encode() not in program.read_bytes(), f"{program} tells where it was built")
 
 
+def each_zip_has_its_width():
+    for width, machine in (("x64", 0x8664), ("x86", 0x14C)):
+        with zipfile.ZipFile(WORK / "once" / f"Tarvelon-{pack.version()}-{width}.zip") as packed:
+            program = packed.read("Tarvelon/TarvelonLow.exe")
+        at = int.from_bytes(program[60:64], "little") + 4
+        expect(int.from_bytes(program[at:at + 2], "little") == machine, f"the program for {width} is of another width")
+
+
 def zip_starts_anywhere():
     folder = WORK / "Ein Ordner, \u0444\u0430\u0439\u043b\u044b \u00e4\u00f6"
     with zipfile.ZipFile(WORK / "once" / f"Tarvelon-{pack.version()}-x64.zip") as packed:
@@ -178,6 +186,7 @@ def main():
     shutil.rmtree(WORK, ignore_errors=True)
     WORK.mkdir(parents=True)
     same_bytes_twice()
+    each_zip_has_its_width()
     os.environ.pop("DISPLAY", None)
     subprocess.run(["bash", "-euc", '. "$0/tools/wine-session"; make_prefix "$1"', ROOT, PREFIX], check=True)
     zip_starts_anywhere()
