@@ -105,10 +105,11 @@ void FormWindow::placeFirst() {
     if (!before) {
         return;
     }
-    const bool grows = screen_.canGrow;
-    const SIZE size = outerSize(grows ? std::max(before->width, screen_.width()) : screen_.width(),
-                                grows ? std::max(before->height, screen_.height()) : screen_.height());
+    const SIZE least = outerSize(screen_.width(), screen_.height());
+    SIZE size = screen_.canGrow ? outerSize(before->width, before->height) : least;
     const RECT area = workAreaAt({before->x, before->y, before->x + size.cx, before->y + size.cy});
+    size.cx = std::max(std::min(size.cx, static_cast<LONG>(widthOf(area))), least.cx);
+    size.cy = std::max(std::min(size.cy, static_cast<LONG>(heightOf(area))), least.cy);
     SetWindowPos(window(), nullptr, moveInside(before->x, size.cx, area.left, area.right),
                  moveInside(before->y, size.cy, area.top, area.bottom), size.cx, size.cy,
                  SWP_NOZORDER | SWP_NOACTIVATE);
