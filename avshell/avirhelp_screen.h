@@ -1,7 +1,7 @@
 #pragma once
 
 #include "avshell/known_scanners.h"
-#include "ui/controls/controls.h"
+#include "ui/controls/lists.h"
 
 namespace tarvelon {
 

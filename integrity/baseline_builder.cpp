@@ -10,7 +10,7 @@
 #include "platform/files.h"
 #include "platform/messages.h"
 #include "platform/platform.h"
-#include "ui/controls/controls.h"
+#include "ui/controls/lists.h"
 
 #include <array>
 #include <optional>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "avshell/scanner_command.h"
-#include "ui/controls/controls.h"
+#include "ui/controls/lists.h"
 
 #include <array>
 #include <initializer_list>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/controls/controls.h"
+#include "ui/controls/lists.h"
 #include "ui/controls/tree.h"
 
 namespace tarvelon {

@@ -15,7 +15,7 @@
 #include "shutdown/logoff_screen.h"
 #include "shutdown/power_action.h"
 #include "shutdown/sprog_screen.h"
-#include "ui/controls/controls.h"
+#include "ui/controls/lists.h"
 
 namespace tarvelon {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "ui/controls/bar_chart.h"
-#include "ui/controls/controls.h"
+#include "ui/controls/lists.h"
 
 #include <array>
 #include <cstddef>

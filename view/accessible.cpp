@@ -4,6 +4,7 @@
 #include "platform/win32/system_library.h"
 #include "platform/win32/wide.h"
 #include "ui/controls/bar_chart.h"
+#include "ui/controls/lists.h"
 #include "view/control.h"
 
 #include <oleacc.h>

@@ -1,3 +1,4 @@
+#include "ui/controls/lists.h"
 #include "view/create.h"
 #include "view/form.h"
 

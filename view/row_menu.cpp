@@ -4,6 +4,7 @@
 #include "platform/win32/owned.h"
 #include "platform/win32/shell_execute.h"
 #include "platform/win32/window_calls.h"
+#include "ui/controls/lists.h"
 #include "ui/controls/tree.h"
 
 #include <commctrl.h>

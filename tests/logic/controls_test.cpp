@@ -1,5 +1,5 @@
 #include "platform/sim/workstation.h"
-#include "ui/controls/controls.h"
+#include "ui/controls/lists.h"
 #include "view/palette.h"
 
 #include <gtest/gtest.h>

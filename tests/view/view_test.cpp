@@ -3,6 +3,7 @@
 #include "platform/win32/win32_platform.h"
 #include "platform/win32/windows_api.h"
 #include "ui/controls/bar_chart.h"
+#include "ui/controls/lists.h"
 #include "ui/controls/tree.h"
 #include "view/theme.h"
 #include "view/view.h"

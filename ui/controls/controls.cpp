@@ -4,55 +4,6 @@
 
 namespace tarvelon {
 
-ControlParent::ControlParent(Screen& onScreen)
-    : screen(onScreen)
-    , frame(nullptr) {}
-ControlParent::ControlParent(Frame& inFrame)
-    : screen(inFrame.screen())
-    , frame(&inFrame) {}
-
-Control::Control(ControlKind kind, ControlParent parent, std::string caption, Rect place)
-    : Caption(*this, std::move(caption))
-    , Visible(*this, true)
-    , Enabled(*this, true)
-    , ToolTip(*this, "")
-    , kind_(kind)
-    , screen_(parent.screen)
-    , frame_(parent.frame)
-    , place_(place) {
-    screen_.add(*this);
-}
-
-bool Control::isShown() const {
-    return Visible() && (frame_ ? frame_->isShown() : screen_.Visible());
-}
-
-bool Control::isUsable() const {
-    return Enabled() && (!frame_ || frame_->isUsable());
-}
-
-void Control::raiseIfUsable(const Screen::Handler& handler) const {
-    if (isUsable()) {
-        raise(handler);
-    }
-}
-
-void Control::changed(Aspect aspect) {
-    if (screen_.listener) {
-        screen_.listener->changed(*this, aspect);
-    }
-}
-
-Frame::Frame(ControlParent parent, Rect place, bool visible)
-    : Control(ControlKind::Frame, parent, "", place)
-    , look_(Look::Page) {
-    Visible = visible;
-}
-
-Frame::Frame(ControlParent parent, std::string caption, Rect place)
-    : Control(ControlKind::Frame, parent, std::move(caption), place)
-    , look_(Look::Group) {}
-
 Label::Label(ControlParent parent, std::string caption, Rect place, TextStyle style, bool visible)
     : Control(ControlKind::Label, parent, std::move(caption), place)
     , style_(style) {
@@ -193,77 +144,6 @@ TextBox::TextBox(ControlParent parent, Rect place, bool visible)
     : Control(ControlKind::TextBox, parent, "", place) {
     Visible = visible;
 }
-
-std::string ItemControl::item(int index) const {
-    return index >= 0 && index < count() ? items_[static_cast<std::size_t>(index)] : std::string();
-}
-
-void ItemControl::add(std::string text) {
-    items_.push_back(std::move(text));
-    changed(Aspect::ItemAdded);
-}
-
-void ItemControl::clear() {
-    items_.clear();
-    listIndex_ = -1;
-    changed(Aspect::Items);
-}
-
-void ItemControl::replace(int index, std::string text) {
-    if (index >= 0 && index < count()) {
-        items_[static_cast<std::size_t>(index)] = std::move(text);
-        changed(Aspect::Items);
-    }
-}
-
-void ItemControl::setListIndex(int index) {
-    const int chosen = index >= 0 && index < count() ? index : -1;
-    if (listIndex_ != chosen) {
-        listIndex_ = chosen;
-        changed(Aspect::Value);
-    }
-}
-
-void ItemControl::select(int index) {
-    if (isUsable()) {
-        setListIndex(index);
-        raise(onClick);
-    }
-}
-
-ListBox::ListBox(ControlParent parent, Rect place, bool visible, std::string whenEmpty)
-    : ListBox(ControlKind::ListBox, parent, place, std::move(whenEmpty)) {
-    Visible = visible;
-}
-
-ListBox::ListBox(ControlKind kind, ControlParent parent, Rect place, std::string whenEmpty)
-    : ItemControl(kind, parent, "", place)
-    , whenEmpty_(std::move(whenEmpty)) {}
-
-CheckListBox::CheckListBox(ControlParent parent, Rect place)
-    : ListBox(ControlKind::CheckList, parent, place, "") {}
-
-bool CheckListBox::ticked(int index) const {
-    return index >= 0 && static_cast<std::size_t>(index) < ticks_.size() &&
-           ticks_[static_cast<std::size_t>(index)];
-}
-
-void CheckListBox::setTicked(int index, bool ticked) {
-    if (index < 0 || index >= count() || this->ticked(index) == ticked) {
-        return;
-    }
-    ticks_.resize(static_cast<std::size_t>(count()), false);
-    ticks_[static_cast<std::size_t>(index)] = ticked;
-    changed(Aspect::Value);
-}
-
-void CheckListBox::toggle(int index) {
-    setTicked(index, !ticked(index));
-    select(index);
-}
-
-ComboBox::ComboBox(ControlParent parent, Rect place)
-    : ItemControl(ControlKind::ComboBox, parent, "", place) {}
 
 ProgressBar::ProgressBar(ControlParent parent, Rect place)
     : Control(ControlKind::ProgressBar, parent, "", place) {}
