@@ -8,6 +8,7 @@ namespace tarvelon {
 struct SProgScreen : Screen {
     SProgScreen()
         : Screen("Scanning and Shutting Down...Please Wait", 480, 208) {
+        closesByEsc = true;
         Command1.Visible = false;
         ProgressBar1.name = "Current task";
     }

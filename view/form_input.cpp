@@ -50,7 +50,8 @@ LRESULT FormWindow::handle(UINT message, WPARAM wide, LPARAM low) {
     case WM_COMMAND:
         if (LOWORD(wide) == IDOK) {
             pressFirst(isPrimary);
-        } else if (LOWORD(wide) == IDCANCEL && !pressFirst(&Control::isCancel) && !screen_.canMinimize) {
+        } else if (LOWORD(wide) == IDCANCEL && !pressFirst(&Control::isCancel) &&
+                   (screen_.closesByEsc || !screen_.canMinimize)) {
             screen_.close();
         }
         return 0;

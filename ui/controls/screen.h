@@ -85,6 +85,9 @@ public:
     /// False for a dialog: its frame has no button for that, and Esc does what its close box does.
     bool canMinimize = true;
 
+    /// Of what is no dialog: Esc does what its close box does, where no control is for that.
+    bool closesByEsc = false;
+
     /// The user can make the window larger than it is at first, and never smaller.
     bool canGrow = false;
 
