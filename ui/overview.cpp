@@ -21,8 +21,6 @@ namespace tarvelon {
 
 namespace {
 
-using State = Standing::State;
-
 std::size_t occurrences(std::string_view text, std::string_view wanted) {
     std::size_t count = 0;
     for (std::size_t hit = text.find(wanted); hit != std::string_view::npos;
@@ -59,20 +57,20 @@ Standing Overview::systemFiles() const {
     const auto file = platform.files.open(checksum_.getIntFile(), OpenMode::Read);
     const auto text = file ? readAll(*file) : std::nullopt;
     if (!text) {
-        return {State::Attention, "No baseline yet: the first full scan has not been made"};
+        return {Tone::Attention, "No baseline yet: the first full scan has not been made"};
     }
     const std::size_t ends = occurrences(*text, "\r\nNULL*E\r\n");
     const std::size_t all = occurrences(*text, "*E\r\n") - ends;
     const std::size_t unknown = occurrences(*text, "=NULL*E\r\n");
     if (all == unknown) {
-        return {State::Attention, "The baseline is empty: everything would count as new"};
+        return {Tone::Attention, "The baseline is empty: everything would count as new"};
     }
     const std::string day = platform.clock.dayOf(file->lastWrite().value_or(0));
     std::string words = "Baseline of " + day + ", " + counted(all, "file");
     if (unknown > 0) {
-        return {State::Attention, words + ", " + std::to_string(unknown) + " of them never checked"};
+        return {Tone::Attention, words + ", " + std::to_string(unknown) + " of them never checked"};
     }
-    return {State::Good, words};
+    return {Tone::Good, words};
 }
 
 Standing Overview::folders() const {
@@ -89,37 +87,37 @@ Standing Overview::folders() const {
         }
     }
     if (watched == 0) {
-        return {State::Unused, "None added: only the system folder is watched"};
+        return {Tone::Quiet, "None added: only the system folder is watched"};
     }
     if (!without.empty()) {
-        return {State::Attention, "No baseline yet: " + listed(without)};
+        return {Tone::Attention, "No baseline yet: " + listed(without)};
     }
-    return {State::Good, counted(watched, "folder") + " added, each with a baseline"};
+    return {Tone::Good, counted(watched, "folder") + " added, each with a baseline"};
 }
 
 Standing Overview::scanner() const {
     const std::string exe = trim(ScannerPair::stored(settings).first.exe);
     if (!exe.empty() && funcMod.fileThere(exe)) {
-        return {State::Good, exe};
+        return {Tone::Good, exe};
     }
     // What stands in the field of a scanner that was never named is no path.
     const bool named = exe.find('\\') != std::string::npos;
-    return {State::Attention,
+    return {Tone::Attention,
             named ? "Missing: " + exe : "None chosen: what has changed is only written to a report"};
 }
 
 Standing Overview::autoLoad() const {
     if (!funcMod.fileThere(shortCut::autoLoadShortcut(platform, globals.texts))) {
-        return {State::Attention, "Off: nothing is checked when you log on"};
+        return {Tone::Attention, "Off: nothing is checked when you log on"};
     }
     std::vector<std::string> what = typesAtLogOn();
     if (const int folders = foldersAtLogOn(); folders > 0) {
         what.push_back(counted(static_cast<std::size_t>(folders), "folder"));
     }
     if (what.empty()) {
-        return {State::Attention, "On, but nothing is ticked: nothing will be checked"};
+        return {Tone::Attention, "On, but nothing is ticked: nothing will be checked"};
     }
-    return {State::Good, "On: " + listed(what)};
+    return {Tone::Good, "On: " + listed(what)};
 }
 
 std::vector<std::string> Overview::typesAtLogOn() const {
@@ -163,12 +161,12 @@ Standing Overview::reports() const {
         }
     }
     if (last.empty()) {
-        return {State::Unused, "None yet"};
+        return {Tone::Quiet, "None yet"};
     }
     const std::size_t bracket = last.find('(');
-    return {State::Good, "The last of " + counted(names.size(), "report") + ": " +
-                             reportDate(last.substr(0, bracket)) + ", " +
-                             reportTimeShown(globals.texts, getBetween(globals.texts, last, 1, "(", ")"))};
+    return {Tone::Good, "The last of " + counted(names.size(), "report") + ": " +
+                            reportDate(last.substr(0, bracket)) + ", " +
+                            reportTimeShown(globals.texts, getBetween(globals.texts, last, 1, "(", ")"))};
 }
 
 } // namespace tarvelon

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/services.h"
+#include "ui/controls/controls.h"
 
 #include <string>
 #include <vector>
@@ -9,11 +10,9 @@ namespace tarvelon {
 
 class Checksum;
 
-/// One line of the start page: how something stands, in words.
+/// One line of the start page: how something stands, as `StatusLine` shows it.
 struct Standing {
-    enum class State { Good, Unused, Attention };
-
-    State state = State::Good;
+    Tone tone;
     std::string text;
 };
 

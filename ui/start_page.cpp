@@ -6,23 +6,9 @@
 
 #include <array>
 #include <string>
+#include <vector>
 
 namespace tarvelon {
-
-namespace {
-
-Tone toneOf(Standing::State state) {
-    switch (state) {
-    case Standing::State::Good:
-        return Tone::Good;
-    case Standing::State::Attention:
-        return Tone::Attention;
-    default:
-        return Tone::Quiet;
-    }
-}
-
-} // namespace
 
 StartPage::StartPage(MForm1Screen& screen, const Overview& overview)
     : screen_(screen)
@@ -70,8 +56,8 @@ void StartPage::read() {
             StatusLine& line = screen_.lines[i].status;
             line.text = standing.text;
             line.ToolTip = standing.text;
-            line.tone = toneOf(standing.state);
-            wanting += standing.state == Standing::State::Attention ? 1 : 0;
+            line.tone = standing.tone;
+            wanting += standing.tone == Tone::Attention ? 1 : 0;
         });
     }
     screen_.standing.tone = wanting > 0 ? Tone::Attention : Tone::Good;
