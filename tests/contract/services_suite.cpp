@@ -5,7 +5,6 @@
 
 #include <array>
 #include <cmath>
-#include <cstdio>
 #include <tuple>
 
 namespace tarvelon {

@@ -1,141 +1,16 @@
 #include "platform/win32/system_library.h"
-#include "platform/win32/wide.h"
-#include "platform/win32/win32_platform.h"
-#include "platform/win32/windows_api.h"
-#include "ui/controls/bar_chart.h"
-#include "ui/controls/lists.h"
-#include "ui/controls/tree.h"
-#include "view/theme.h"
-#include "view/view.h"
-
-#include <gmock/gmock.h>
+#include "tests/view/sample.h"
 
 #include <commctrl.h>
 #include <oleacc.h>
 
-#include <algorithm>
 #include <utility>
+
+// Single controls as windows.
 
 namespace tarvelon {
 
 namespace {
-
-struct Box {
-    const char* title;
-    Buttons buttons;
-    int button;
-    Answer answer;
-    int missing; ///< A button that the box does not have.
-};
-
-Box box; ///< Stands open while a test waits for its answer.
-
-void CALLBACK answerBox(HWND, UINT, UINT_PTR timer, DWORD) {
-    KillTimer(nullptr, timer);
-    EXPECT_FALSE(IsWindowEnabled(FindWindowA("TarvelonForm", "Sample")));
-    const HWND window = FindWindowA("#32770", *box.title ? box.title : "TarvelonLow");
-    // An only button may be numbered so that Esc presses it.
-    const int button = GetDlgItem(window, box.button) ? box.button : IDCANCEL;
-    const int missing = button == box.button ? box.missing : box.button;
-    EXPECT_TRUE(GetDlgItem(window, button) && !GetDlgItem(window, missing)) << box.button;
-    SendMessageA(window, WM_COMMAND, static_cast<WPARAM>(button), 0);
-}
-
-struct SampleScreen : Screen {
-    SampleScreen()
-        : Screen("Sample", 400, 330) {}
-
-    Frame page{*this, "", at(0, 0, 400, 260)};
-    Label step{page, "Step", at(8, 8, 120, 16), TextStyle::Step};
-    Label gauge{page, "50%", at(200, 8, 192, 16), TextStyle::Gauge};
-    cButton button{page, "A && B", at(8, 32, 120, 32)};
-    Label action{page, "An action", at(136, 32, 120, 32), TextStyle::Action};
-    tarvelon::check check{page, "A check", at(8, 72, 120, 24)};
-    OptionButton first{page, "First", at(8, 104, 120, 24)};
-    OptionButton second{page, "Second", at(136, 104, 120, 24)};
-    TextBox text{page, at(8, 136, 120, 24)};
-    ListBox list{page, at(8, 168, 120, 80)};
-    BarChart chart{page, "Chart", 2, at(136, 168, 120, 80)};
-    CheckListBox checkList{page, at(264, 168, 120, 80)};
-    ProgressBar bar{page, at(264, 104, 120, 16)};
-    Tree tree{page, at(264, 32, 120, 60)};
-    Picture lit{*this, at(300, 262, 64, 64), "restart-lit", "Restart"};
-    Picture plain{*this, at(300, 262, 64, 64), "restart", "Restart"};
-    Frame navigation{*this, at(8, 264, 120, 60)};
-    NavButton entry{navigation, "Entry", at(0, 0, 120, 60), "integrity"};
-};
-
-class View : public testing::Test {
-protected:
-    explicit View(ThemeKind kind = ThemeKind::Light)
-        : view(kind)
-        , theme(themeFor(kind)) {
-        view.attach(screen);
-        screen.lit.Visible = false;
-        screen.checkList.Enabled = false;
-        screen.show();
-        form = FindWindowA("TarvelonForm", "Sample");
-    }
-
-    void pumpFor(DWORD milliseconds) {
-        const DWORD start = GetTickCount();
-        do {
-            platform.platform().messages.pump();
-            Sleep(1);
-        } while (GetTickCount() - start < milliseconds);
-    }
-
-    /// The control's window, as another program finds it by its number.
-    HWND windowOf(const Control& control) const {
-        const auto number = 100 + std::ranges::find(screen.controls(), &control) - screen.controls().begin();
-        return GetDlgItem(control.frame() ? windowOf(*control.frame()) : form, static_cast<int>(number));
-    }
-
-    LRESULT ask(const Control& control, UINT message, WPARAM wide = 0, LPARAM low = 0) const {
-        return SendMessageA(windowOf(control), message, wide, low);
-    }
-
-    void press(const Control& control, WPARAM key) const {
-        ask(control, WM_KEYDOWN, key, 1);
-        ask(control, WM_KEYUP, key, static_cast<LPARAM>(0xC0000001));
-    }
-
-    void click(const Control& control, int x, int y) const {
-        ask(control, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(x, y));
-        ask(control, WM_LBUTTONUP, 0, MAKELPARAM(x, y));
-    }
-
-    Screen::Handler hear(const char* what) {
-        return [this, what] { heard += what; };
-    }
-
-    static std::string textOf(HWND window) {
-        char text[256] = "";
-        SendMessageA(window, WM_GETTEXT, sizeof text, reinterpret_cast<LPARAM>(text));
-        return text;
-    }
-
-    bool isTabStop(const Control& control) const {
-        return (GetWindowLongA(windowOf(control), GWL_STYLE) & WS_TABSTOP) != 0;
-    }
-
-    /// Half-way down the control, so many pixels from its left edge.
-    void expectDrawn(std::initializer_list<std::tuple<const Control&, int, Color>> spots) {
-        pumpFor(60);
-        for (const auto& [control, x, color] : spots) {
-            const HDC dc = GetDC(windowOf(control));
-            EXPECT_EQ(GetPixel(dc, x, control.place().height / 2), color) << control.captionOrName() << x;
-            ReleaseDC(windowOf(control), dc);
-        }
-    }
-
-    Win32View view;
-    Win32Platform platform{view};
-    SampleScreen screen;
-    HWND form = nullptr;
-    std::string heard;
-    const Theme theme;
-};
 
 TEST_F(View, TextsOfEveryScriptAnswerAtOnceAndWhole) {
     const std::wstring wide = L"\u0416\u03C9\u65E5\u00E9\U0001F600";
@@ -299,47 +174,6 @@ TEST_F(View, ReadersAreToldWhatIsSeen) {
                     "33|Rows\n17|Chart|64 Kb: 2.5\n33\n48|57%\n35\n43|Restart\n43|Restart\n16\n43|Entry\n");
 }
 
-TEST_F(View, KeysGoOnlyToWhatIsSeen) {
-    SetFocus(windowOf(screen.check));
-    screen.check.Visible = screen.navigation.Visible = false;
-    pumpFor(90);
-    EXPECT_EQ(GetFocus(), windowOf(screen.step)) << "The first that takes them";
-
-    // The character of the key comes behind the click, to a button that is hidden by then.
-    screen.button.onClick = [&] {
-        screen.page.Visible = false;
-        screen.plain.Caption = "Other"; // Drawn before all of the page is there.
-        screen.navigation.Visible = true;
-    };
-    SetFocus(windowOf(screen.button));
-    PostMessageA(windowOf(screen.button), WM_KEYDOWN, VK_RETURN, 1);
-    pumpFor(0);
-    EXPECT_EQ(GetFocus(), windowOf(screen.entry)) << "On the page that has come, without another pump";
-
-    // A lit picture takes the mouse and leaves the keyboard to the plain one below.
-    screen.plain.onFocusLost = [&] { screen.lit.Visible = false; };
-    screen.plain.onKeyPress = hear("press ");
-    screen.plain.onKeyClick = hear("plain ");
-    screen.lit.onClick = hear("lit");
-    screen.lit.Visible = true;
-    press(screen.plain, VK_SPACE);
-    press(screen.plain, VK_RETURN);
-    SetFocus(windowOf(screen.plain));
-    click(screen.lit, 32, 32);
-    EXPECT_EQ(GetFocus(), windowOf(screen.plain));
-    EXPECT_EQ(heard, "press plain press plain lit");
-    RECT place;
-    GetWindowRect(windowOf(screen.lit), &place);
-    EXPECT_EQ(ask(screen.lit, WM_NCHITTEST, 0, MAKELPARAM(place.left + 2, place.top + 2)), HTTRANSPARENT);
-    for (const bool usable : {false, true}) {
-        screen.navigation.Visible = usable;
-        screen.plain.Enabled = usable;
-        pumpFor(60);
-        EXPECT_EQ(GetFocus(), usable ? windowOf(screen.entry) : form) << "As soon as something takes them";
-    }
-    EXPECT_FALSE(IsWindowVisible(windowOf(screen.lit)) || isTabStop(screen.lit));
-}
-
 TEST_F(View, RowsFollowAndAreChosen) {
     for (int row = 0; row < 1000; ++row) {
         screen.list.add("row " + std::to_string(row));
@@ -406,61 +240,6 @@ TEST_F(View, ATreeMayBeFilledAnewByItsOwnClickAndKeys) {
     view.refresh();
     ask(screen.tree, WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(30, 10));
     EXPECT_EQ(heard, "root opened value other twice opened ") << "The keyboard coming in selects nothing";
-}
-
-TEST_F(View, FormsComeForwardCloseAndAreAllBlockedByABox) {
-    SampleScreen other;
-    other.Caption = "Other";
-    view.attach(other);
-    screen.onKeyDown = [&](int key) { heard += std::to_string(key); };
-    screen.onKeyUp = [&](int key) { heard += std::to_string(-key); };
-    screen.button.onClick = [&] {
-        other.show();
-        pumpFor(0);
-    };
-    screen.onMouseMove = hear("over ");
-    SendMessageA(form, WM_MOUSEMOVE, 0, 0);
-    SetFocus(windowOf(screen.text));
-    PostMessageA(windowOf(screen.button), BM_CLICK, 0, 0);
-    PostMessageA(windowOf(screen.text), WM_KEYDOWN, VK_SHIFT, 1);
-    PostMessageA(windowOf(screen.text), WM_KEYUP, VK_SHIFT, static_cast<LPARAM>(0xC0000001));
-    pumpFor(0);
-    EXPECT_EQ(heard, "over 16-16");
-    const HWND otherForm = FindWindowA("TarvelonForm", "Other");
-    SetForegroundWindow(form);
-    SetFocus(windowOf(screen.check));
-    ShowWindow(form, SW_MINIMIZE);
-    ShowWindow(form, SW_RESTORE);
-    EXPECT_EQ(GetFocus(), windowOf(screen.check)) << "As it was left";
-    ShowWindow(otherForm, SW_MINIMIZE);
-    EXPECT_TRUE(other.Minimized());
-    other.show();
-    other.Minimized = true;
-    EXPECT_TRUE(IsIconic(otherForm));
-    other.show();
-    for (const Box& shown : {Box{"", Buttons::Ok, IDOK, Answer::Ok, IDCANCEL},
-                             {"Own", Buttons::OkCancel, IDCANCEL, Answer::Cancel, IDYES},
-                             {"", Buttons::YesNo, IDYES, Answer::Yes, IDOK},
-                             {"", Buttons::YesNo, IDNO, Answer::No, IDCANCEL}}) {
-        box = shown;
-        SetTimer(nullptr, 0, 50, answerBox);
-        EXPECT_EQ(platform.platform().dialogs.message({"A box", box.title, box.buttons}), box.answer);
-        EXPECT_TRUE(IsWindowEnabled(form) && GetActiveWindow() == otherForm);
-    }
-    for (const bool closes : {false, true}) {
-        other.onQueryClose = [closes] { return closes; };
-        SendMessageA(otherForm, WM_CLOSE, 0, 0);
-        EXPECT_EQ(IsWindowVisible(otherForm) == FALSE, closes);
-        screen.canMinimize = !closes;
-        SendMessageA(form, WM_COMMAND, IDCANCEL, 0);
-        EXPECT_EQ(screen.Visible(), !closes) << "Esc does not close a main window";
-    }
-    EXPECT_EQ(platform.platform().messages.queueStatus(QS_HOTKEY), 0u);
-    PostMessageA(form, WM_NULL, 0, 0);
-    EXPECT_NE(platform.platform().messages.queueStatus(QS_POSTMESSAGE), 0u) << "Another question";
-    PostQuitMessage(7);
-    pumpFor(0);
-    EXPECT_EQ(platform.runMessageLoop(), 7) << "Left by the pump for the loop";
 }
 
 } // namespace
